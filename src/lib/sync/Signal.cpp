@@ -1,0 +1,86 @@
+#include "lib/sync/Signal.h"
+
+#include "lib/err/ErrorCodes.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <new>
+
+namespace tessaly::sync {
+
+/// Mutex, condition and flag. libstdc++ waits on the monotonic clock here, so a change of the
+/// wall clock neither shortens nor prolongs a wait.
+class Signal::Event
+{
+public:
+    void put(bool on)
+    {
+        {
+            std::lock_guard guard(m_mutex);
+            m_on = on;
+        }
+        if (on)
+            m_condition.notify_all();
+    }
+
+    bool waitFor(unsigned milliseconds)
+    {
+        std::unique_lock guard(m_mutex);
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+        return m_condition.wait_until(guard, deadline, [this] { return m_on; });
+    }
+
+    void waitForever()
+    {
+        std::unique_lock guard(m_mutex);
+        m_condition.wait(guard, [this] { return m_on; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_condition;
+    bool m_on = false;
+};
+
+Signal::Signal() : m_event(new (std::nothrow) Event)
+{
+}
+
+Signal::~Signal() = default;
+
+bool Signal::isValid() const
+{
+    return m_event != nullptr;
+}
+
+ResultCode Signal::set()
+{
+    if (!m_event)
+        return err::library(err::NoObject);
+    m_event->put(true);
+    return {};
+}
+
+ResultCode Signal::reset()
+{
+    if (!m_event)
+        return err::library(err::NoObject);
+    m_event->put(false);
+    return {};
+}
+
+bool Signal::wait(unsigned milliseconds)
+{
+    return m_event && m_event->waitFor(milliseconds);
+}
+
+bool Signal::wait()
+{
+    if (!m_event)
+        return false;
+    m_event->waitForever();
+    return true;
+}
+
+} // namespace tessaly::sync

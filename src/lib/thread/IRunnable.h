@@ -1,0 +1,17 @@
+#pragma once
+
+#include "lib/err/ResultCode.h"
+
+#include <cstdint>
+
+namespace tessaly::thread {
+
+class IRunnable
+{
+public:
+    virtual ~IRunnable() = default;
+    /// The job, on the worker thread. `value` is the thread's value, `param` what start was given.
+    virtual ResultCode run(std::uint32_t value, std::uintptr_t param) = 0;
+};
+
+} // namespace tessaly::thread

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test. Arguments go to ctest, for example -R Thread.
+set -euo pipefail
+cd "$(dirname "$0")"
+. packaging/install.sh
+
+install_missing packaging/packages-build.txt packaging/packages-test.txt
+build_preset dev all
+exec ctest --preset dev "$@"

@@ -1,0 +1,131 @@
+#include "lib/thread/Thread.h"
+#include "lib/err/ErrorCodes.h"
+#include "lib/sync/Signal.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+namespace {
+
+using tessaly::ResultCode;
+using tessaly::thread::Thread;
+using tessaly::thread::WaitStatus;
+namespace err = tessaly::err;
+
+/// Waits for `go`, remembers its arguments and returns `answer`.
+class Job final : public tessaly::thread::IRunnable
+{
+public:
+    ResultCode run(std::uint32_t value, std::uintptr_t param) override
+    {
+        lastValue = value;
+        lastParam = param;
+        ++runs;
+        return go.wait() ? answer : ResultCode{};
+    }
+
+    tessaly::sync::Signal go;
+    ResultCode answer{5, 60};
+    std::atomic<std::uint32_t> lastValue = 0;
+    std::atomic<std::uintptr_t> lastParam = 0;
+    std::atomic<int> runs = 0;
+};
+
+TEST(Thread, WithoutRunnableOrJob)
+{
+    Thread thread;
+    EXPECT_EQ(thread.start(), err::library(err::NoRunnable));
+    EXPECT_EQ(thread.wait(0), WaitStatus::NoJob);
+    EXPECT_EQ(thread.wait(), WaitStatus::NoJob);
+    EXPECT_FALSE(thread.isRunning());
+    EXPECT_EQ(thread.value(), 1U);
+    EXPECT_EQ(thread.reserved(), 0U);
+    EXPECT_TRUE(thread.result().ok());
+}
+
+TEST(Thread, OneJobFromStartToResultAndAgain)
+{
+    Job job;
+    Thread thread;
+    thread.setRunnable(&job);
+    thread.setValue(100);
+    ASSERT_TRUE(thread.start(42).ok());
+    EXPECT_TRUE(thread.isRunning());
+    EXPECT_EQ(thread.wait(0), WaitStatus::TimedOut);
+    EXPECT_EQ(thread.start(), err::library(err::Busy));
+
+    ASSERT_TRUE(job.go.set().ok());
+    EXPECT_EQ(thread.wait(), WaitStatus::Finished);
+    EXPECT_EQ(thread.wait(0), WaitStatus::Finished);
+    EXPECT_EQ(thread.result(), job.answer);
+    EXPECT_EQ(job.lastValue, 100U);
+    EXPECT_EQ(job.lastParam, 42U);
+
+    ASSERT_TRUE(job.go.reset().ok());
+    ASSERT_TRUE(thread.start().ok());
+    EXPECT_TRUE(thread.result().ok()) << "a new start clears the old result";
+    ASSERT_TRUE(job.go.set().ok());
+    thread.wait();
+    EXPECT_EQ(job.lastParam, 0U);
+}
+
+TEST(Thread, StartsAndEndsManyTimes)
+{
+    Job job;
+    ASSERT_TRUE(job.go.set().ok());
+    Thread thread;
+    thread.setRunnable(&job);
+    for (int i = 0; i < 5000; ++i) {
+        ASSERT_TRUE(thread.start().ok());
+        ASSERT_EQ(thread.wait(), WaitStatus::Finished);
+    }
+    EXPECT_EQ(job.runs, 5000);
+}
+
+TEST(Thread, ConcurrentStartsLaunchOneJob)
+{
+    for (int round = 0; round < 500; ++round) {
+        Job job;
+        Thread thread;
+        thread.setRunnable(&job);
+        std::atomic<int> started = 0;
+        std::atomic<int> busy = 0;
+        const auto starter = [&] {
+            const ResultCode result = thread.start();
+            if (result.ok())
+                ++started;
+            else if (result == err::library(err::Busy))
+                ++busy;
+        };
+        std::thread first(starter);
+        std::thread second(starter);
+        first.join();
+        second.join();
+        ASSERT_TRUE(job.go.set().ok());
+        ASSERT_EQ(started, 1);
+        ASSERT_EQ(busy, 1);
+    }
+}
+
+TEST(Thread, DestructionWaitsForTheJob)
+{
+    Job job;
+    ASSERT_TRUE(job.go.set().ok());
+    for (int i = 0; i < 1000; ++i) {
+        Thread thread;
+        thread.setRunnable(&job);
+        ASSERT_TRUE(thread.start().ok());
+    }
+    EXPECT_EQ(job.runs, 1000);
+}
+
+TEST(Thread, StopFlagIsOnlyCarried)
+{
+    Thread thread;
+    thread.setStopFlag(-7);
+    EXPECT_EQ(thread.stopFlag(), -7);
+}
+
+} // namespace
