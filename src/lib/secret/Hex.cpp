@@ -1,0 +1,48 @@
+#include "lib/secret/Hex.h"
+
+namespace tessaly {
+
+namespace {
+
+bool isSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+int digitValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
+} // namespace
+
+std::optional<SecretBytes> decodeHex(std::string_view text)
+{
+    SecretBytes bytes;
+    bytes.reserve(text.size() / 2);
+    int high = -1;
+    for (const char c : text) {
+        if (isSpace(c))
+            continue;
+        const int value = digitValue(c);
+        if (value < 0)
+            return std::nullopt;
+        if (high < 0) {
+            high = value;
+        } else {
+            bytes.push_back(static_cast<std::uint8_t>(high * 16 + value));
+            high = -1;
+        }
+    }
+    if (high >= 0)
+        return std::nullopt;
+    return bytes;
+}
+
+} // namespace tessaly
