@@ -1,0 +1,40 @@
+#pragma once
+
+#include "io/IStreamBytes.h"
+#include "lib/platform/File.h"
+#include "lib/sync/Locker.h"
+
+#include <string>
+
+namespace tessaly::io {
+
+/// A file to read. Its lock guards every member; a system read runs outside it.
+template <class Char>
+class IStreamFile final : public IStreamBytes
+{
+public:
+    /// (5, 5) for an empty path, (5, 7) when already open, (1, system error) else.
+    ResultCode open(const std::basic_string<Char>& path);
+
+    bool isAtStart() const override;
+    bool isAtEnd() const override;
+    [[nodiscard]] bool read(void* buffer, std::int64_t count, std::int64_t& countRead) override;
+    std::int64_t size() const override;
+    ResultCode lastError() const override;
+
+    /// The file as it was at opening.
+    platform::FileStatus status() const;
+
+private:
+    bool fail(ResultCode error);
+
+    mutable sync::Locker m_lock;
+    platform::File m_file;
+    platform::FileStatus m_status;
+    std::int64_t m_position = 0;
+    ResultCode m_lastError;
+};
+
+extern template class IStreamFile<wchar_t>;
+
+} // namespace tessaly::io
