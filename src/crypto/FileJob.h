@@ -42,11 +42,11 @@ public:
     virtual ~IFileJobObserver() = default;
     /// `total` is the size of the input in bytes.
     virtual void jobStarted(std::int64_t total) = 0;
-    /// Bytes of the plain file.
-    virtual void jobProgress(std::int64_t processed, std::int64_t total) = 0;
+    /// Bytes of the plain file done so far, and the same from 0 to 100 per cent.
+    virtual void jobProgress(std::int64_t processed, float percent) = 0;
     /// All is written; the disk is being waited for.
     virtual void jobFlushing() = 0;
-    /// Asked once at the start, for a stop that came before the engine could take it.
+    /// Asked at the start and after the flush, for a stop that came when no engine was at work.
     virtual bool isJobCancelled() = 0;
 };
 

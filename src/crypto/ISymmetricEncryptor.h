@@ -11,10 +11,6 @@
 
 namespace tessaly::crypto {
 
-/// Chunk size in bytes and progress interval in milliseconds of the short forms.
-inline constexpr std::uint32_t DefaultChunkSize = 32768;
-inline constexpr std::uint32_t DefaultProgressInterval = 400;
-
 /// Enciphers a byte stream into the encrypted-file layout, with one algorithm. One operation at a
 /// time: a second one gets (5, 8). An empty input gives an empty output.
 class ISymmetricEncryptor : public ISymmetricEngine
