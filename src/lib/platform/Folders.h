@@ -1,0 +1,18 @@
+#pragma once
+
+#include "lib/err/ResultCode.h"
+
+#include <string>
+
+namespace tessaly::platform {
+
+/// The user's base folders, without a trailing separator; empty when the user has no home.
+std::string configFolder();
+std::string dataFolder();
+std::string stateFolder();
+
+/// Creates the folder and its missing ancestors, each for the user alone (0700). Succeeds when it
+/// exists already, whatever its permissions.
+ResultCode createPrivateFolders(const std::string& path);
+
+} // namespace tessaly::platform

@@ -1,0 +1,77 @@
+#include "lib/logger/FileLogging.h"
+#include "lib/logger/Clock.h"
+#include "lib/logger/Log.h"
+#include "support/Environment.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace tessaly::logger;
+using Lines = std::vector<std::string>;
+
+/// The file's lines without their process and thread columns, once there are that many.
+Lines logged(const std::string& path, std::size_t count)
+{
+    Lines lines;
+    for (int i = 0; i < 20000 && (lines = test::readLines(path)).size() < count; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    for (std::string& line : lines)
+        line.erase(33, line.find(" [mainwindow]") - 33);
+    return lines;
+}
+
+TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
+{
+    setClock([]() -> std::int64_t { return 133541212290420000; });
+    const test::TempFolder folder;
+    const test::Environment state("XDG_STATE_HOME", (folder / "state").c_str());
+    const std::string start = "[2024.03.05 14:07:09:042] ";
+    {
+        FileLogging logging;
+        EXPECT_EQ(logging.path(), folder / "state/quillet/quillet.log");
+        logging.setLevel(Trace);
+        log(Error, "mainwindow") << "before the file";
+        logging.setLogFileUsed(true);
+        EXPECT_TRUE(logging.isLogFileUsed());
+        log(Debug, "mainwindow") << "heard";
+        logging.setLevel(Information);
+        log(Debug, "mainwindow") << "too fine";
+        log(Information, "mainwindow") << "fine";
+        Lines expected = {start + "[TRACE] [mainwindow] File logger was started.",
+                          start + "[DEBUG] [mainwindow] heard", start + "[INFRM] [mainwindow] fine"};
+        EXPECT_EQ(logged(logging.path(), 3), expected);
+
+        logging.setLogFileUsed(false);
+        log(Error, "mainwindow") << "while off";
+        logging.setLogFileUsed(true);
+        log(Error, "mainwindow") << "on again";
+        expected.push_back(start + "[ERROR] [mainwindow] on again");
+        EXPECT_EQ(logged(logging.path(), 4), expected);
+    }
+    EXPECT_EQ(internal::LogSender<char>::instance()->level(), 0U);
+    setClock(nullptr);
+}
+
+TEST(FileLogging, SaysWhyTheFileCouldNotBeAdded)
+{
+    const test::TempFolder folder;
+    FileLogging first(folder / "first.log");
+    first.setLevel(Error);
+    first.setLogFileUsed(true);
+    FileLogging second(folder / "second.log");
+    second.setLevel(Error);
+    second.setLogFileUsed(true); // the appender's id is taken
+    EXPECT_FALSE(second.isLogFileUsed());
+    const auto lines = logged(first.path(), 1);
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_TRUE(lines[0].ends_with("[mainwindow] Failed to add file logger. Error: 5/8")) << lines[0];
+}
+
+} // namespace

@@ -1,0 +1,183 @@
+#include "lib/logger/LogAppenderUtf8File.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace std::chrono_literals;
+using tessaly::logger::LogAppenderUtf8File;
+namespace fs = std::filesystem;
+
+bool eventually(const std::function<bool()>& condition)
+{
+    const auto deadline = std::chrono::steady_clock::now() + 20s;
+    while (!condition())
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        else
+            std::this_thread::sleep_for(1ms);
+    return true;
+}
+
+class LogAppenderUtf8FileTest : public testing::Test
+{
+protected:
+    static void append(LogAppenderUtf8File& appender, std::string_view message)
+    {
+        appender.append(0, 1, 2, 4, "s", message, 0);
+    }
+    static std::string line(const std::string& message)
+    {
+        return "[INFRM] [00001] [00002] [s] " + message + "\n";
+    }
+    /// Appends and waits until the file ends with the line.
+    void write(LogAppenderUtf8File& appender, const std::string& message) const
+    {
+        append(appender, message);
+        EXPECT_TRUE(eventually([&] { return test::readFile(path).ends_with(line(message)); })) << message;
+    }
+
+    test::TempFolder folder;
+    std::string path = folder / "a/b/q.log";
+};
+
+TEST_F(LogAppenderUtf8FileTest, CreatesFolderAndFileForTheUserAlone)
+{
+    LogAppenderUtf8File appender(1, path);
+    ASSERT_TRUE(appender.start().ok());
+    EXPECT_TRUE(appender.start().ok()) << "running already";
+    EXPECT_FALSE(fs::exists(folder / "a")) << "nothing before the first line";
+    appender.append(133541212290420000, 4312, 988, 4, "mainwindow", "text", 0);
+    append(appender, "two\nlines, \xFF and \u65E5\u672C");
+    write(appender, "third");
+    EXPECT_EQ(test::readFile(path), "[2024.03.05 14:07:09:042] [INFRM] [04312] [00988] [mainwindow] text\n" +
+                                        line("two\\nlines, \\xFF and \u65E5\u672C") + line("third"));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(folder / "a").permissions(), fs::perms(0700));
+    EXPECT_EQ(fs::status(folder / "a/b").permissions(), fs::perms(0700));
+}
+
+TEST_F(LogAppenderUtf8FileTest, StopDiscardsAndStartGoesOn)
+{
+    LogAppenderUtf8File appender(1, path);
+    append(appender, "discarded");
+    appender.stop();
+    append(appender, "dropped");
+    EXPECT_EQ(appender.pendingLines(), 0U);
+    ASSERT_TRUE(appender.start().ok());
+    write(appender, "first");
+    appender.stop();
+    ASSERT_TRUE(appender.start().ok());
+    write(appender, "second");
+    EXPECT_EQ(test::readFile(path), line("first") + line("second"));
+}
+
+TEST_F(LogAppenderUtf8FileTest, DropsWhatGoesBeyondTheQueue)
+{
+    LogAppenderUtf8File appender(1, path);
+    for (int i = 1; i <= 10001; ++i)
+        append(appender, std::to_string(i));
+    EXPECT_EQ(appender.pendingLines(), 10000U);
+    ASSERT_TRUE(appender.start().ok());
+    ASSERT_TRUE(eventually([&] { return test::readFile(path).ends_with(line("10000")); }));
+    write(appender, "after");
+    EXPECT_EQ(test::readLines(path).size(), 10001U);
+}
+
+TEST_F(LogAppenderUtf8FileTest, StartsAfreshPastTheLimit)
+{
+    const auto limit = static_cast<std::int64_t>(line("0").size());
+    for (const bool openBefore : {false, true}) {
+        test::writeFile(path = folder / (openBefore ? "open" : "closed"), openBefore ? "" : line("0"));
+        LogAppenderUtf8File appender(1, path);
+        appender.setMaxSize(limit);
+        ASSERT_TRUE(appender.start().ok());
+        if (openBefore)
+            write(appender, "0");
+        write(appender, "1");
+        EXPECT_EQ(test::readFile(path), line("0") + line("1")) << "a file of the limit goes on";
+        write(appender, "2");
+        EXPECT_EQ(test::readFile(path), line("2")) << "one of more does not";
+    }
+    EXPECT_EQ(LogAppenderUtf8File::DefaultMaxSize, 20000000);
+}
+
+TEST_F(LogAppenderUtf8FileTest, OneByteDecidesAboutTheLimit)
+{
+    for (const int excess : {0, 1}) {
+        test::writeFile(path = folder / std::to_string(excess), "");
+        fs::resize_file(path, static_cast<std::uintmax_t>(LogAppenderUtf8File::DefaultMaxSize + excess));
+        LogAppenderUtf8File appender(1, path);
+        ASSERT_TRUE(appender.start().ok());
+        append(appender, "x");
+        const auto size = line("x").size() + (excess == 0 ? 20000000U : 0U);
+        EXPECT_TRUE(eventually([&] { return fs::exists(path) && fs::file_size(path) == size; }));
+    }
+}
+
+TEST_F(LogAppenderUtf8FileTest, LivesWithoutAFile)
+{
+    test::writeFile(folder / "a", "a file where the folder should be");
+    fs::create_directories(folder / "folder.log");
+    for (const std::string& bad : {path, folder / "folder.log", std::string("/dev/full"), std::string()}) {
+        LogAppenderUtf8File appender(1, bad);
+        ASSERT_TRUE(appender.start().ok());
+        // The second line is taken only when the writer has given up the first.
+        for (const char* message : {"lost", "lost too"}) {
+            append(appender, message);
+            ASSERT_TRUE(eventually([&] { return appender.pendingLines() == 0; })) << bad;
+        }
+        if (bad == path) {
+            fs::remove(folder / "a");
+            write(appender, "found");
+            EXPECT_FALSE(test::readFile(path).starts_with(line("lost") + line("lost too")));
+        }
+    }
+}
+
+TEST_F(LogAppenderUtf8FileTest, ReturnsToItsPathWhenTheFileIsDeleted)
+{
+    LogAppenderUtf8File appender(1, path);
+    ASSERT_TRUE(appender.start().ok());
+    write(appender, "1");
+    fs::remove(path);
+    write(appender, "2");
+    EXPECT_EQ(test::readFile(path), line("2"));
+}
+
+TEST_F(LogAppenderUtf8FileTest, EveryLineOfFourThreadsAndTwoAppendersIsWhole)
+{
+    constexpr int PerThread = 1000;
+    const std::string tail(200, '#');
+    LogAppenderUtf8File appenders[] = {{1, path}, {2, path}};
+    for (auto& appender : appenders)
+        ASSERT_TRUE(appender.start().ok());
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; ++t)
+        threads.emplace_back([&, t] {
+            for (int i = 0; i < PerThread; ++i)
+                append(appenders[t % 2], std::to_string(t) + " " + std::to_string(i) + tail);
+        });
+    for (auto& thread : threads)
+        thread.join();
+
+    ASSERT_TRUE(eventually([&] { return test::readLines(path).size() == 4 * PerThread; }));
+    std::map<char, int> next;
+    for (const std::string& text : test::readLines(path)) {
+        const std::size_t at = line("").size() - 1;
+        ASSERT_GT(text.size(), at);
+        const char thread = text[at];
+        ASSERT_EQ(text + "\n", line(std::string{thread} + " " + std::to_string(next[thread]++) + tail));
+    }
+}
+
+} // namespace
