@@ -17,12 +17,12 @@ ResultCode IStreamUtf8File::open(const std::wstring& path)
     close();
     if (path.empty())
         return err::library(err::NullArgument);
-    ResultCode result = m_file.open(path);
-    if (!result.ok())
-        return result;
-
     m_left = options().sizeLimit;
-    result = m_file.size() > m_left ? err::library(err::FileTooLarge) : readHead();
+    ResultCode result = m_file.openForReading(path);
+    if (result.ok())
+        result = checkFile();
+    if (result.ok())
+        result = readHead();
     if (!result.ok())
         close();
     return result;
@@ -42,8 +42,21 @@ ResultCode IStreamUtf8File::read(char* buffer, std::size_t size, std::size_t& co
 
 void IStreamUtf8File::close()
 {
-    m_file.close();
+    (void)m_file.close(); // nothing was written that could be lost
     m_head.clear();
+}
+
+ResultCode IStreamUtf8File::checkFile() const
+{
+    platform::FileStatus status;
+    const ResultCode result = m_file.status(status);
+    if (!result.ok())
+        return result;
+    if (status.kind == platform::FileKind::Other)
+        return err::library(err::OpenFileFailed);
+    const bool isTooLarge = status.kind == platform::FileKind::Regular &&
+                            static_cast<std::uint64_t>(status.size) > m_left;
+    return isTooLarge ? err::library(err::FileTooLarge) : ResultCode();
 }
 
 ResultCode IStreamUtf8File::readHead()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lib/err/ResultCode.h"
-#include "lib/platform/TextFile.h"
+#include "lib/platform/File.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 
@@ -28,8 +28,8 @@ public:
     SFileOptions options() const { return m_options.get(); }
     void setOptions(SFileOptions options) { m_options.set(options); }
 
-    /// Fails with NullArgument for an empty path, with the system's error, with OpenFileFailed for
-    /// anything but a regular file, with FileTooLarge.
+    /// Fails with NullArgument for an empty path, with the system's error (a folder's too), with
+    /// FileTooLarge, and with OpenFileFailed for a device, a FIFO or a socket, which it never waits for.
     ResultCode open(const std::wstring& path);
     /// Reads up to size bytes; count is 0 at the end of the file. Fails with StreamClosed, with the
     /// system's error, and with FileTooLarge when the file grew past the limit meanwhile.
@@ -39,11 +39,12 @@ public:
     bool isOpen() const { return m_file.isOpen(); }
 
 private:
+    ResultCode checkFile() const;
     ResultCode readHead();
     ResultCode readCounted(char* buffer, std::size_t size, std::size_t& count);
 
     sync::internal::SafeData<sync::Locker, SFileOptions> m_options;
-    platform::TextFile m_file;
+    platform::File m_file;
     std::string m_head; ///< the first bytes, read to look for the mark and not handed out yet
     std::uint64_t m_left = 0;
 };

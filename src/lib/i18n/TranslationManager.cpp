@@ -5,8 +5,7 @@
 #include "lib/i18n/LocaleCatalogue.h"
 #include "lib/i18n/LocaleResLoaderFactory.h"
 #include "lib/i18n/TranslationListLoaderFactory.h"
-
-#include <QString>
+#include "lib/platform/Path.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,16 +17,11 @@ namespace {
 using internal::Locale;
 using internal::Translation;
 
-std::wstring wide(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size())).toStdWString();
-}
-
 } // namespace
 
 TranslationManager::TranslationManager(std::wstring folder, std::string_view baseName)
     : m_folder(std::move(folder)),
-      m_listFile(wide(asciiLower(baseName)) + L".langs.xml"),
+      m_listFile(platform::widePath(asciiLower(baseName)) + L".langs.xml"),
       m_list(internal::TranslationListLoaderFactory().create()),
       m_locale(*findLocale(EnglishLcid))
 {
@@ -99,7 +93,7 @@ ResultCode TranslationManager::loadTexts(const Locale& locale)
     const ResultCode created = internal::LocaleResLoaderFactory().create(translation->fileType, &loader);
     if (!created.ok())
         return created;
-    return m_bundle.load(*loader, m_folder + L'/' + wide(translation->file), m_variables);
+    return m_bundle.load(*loader, m_folder + L'/' + platform::widePath(translation->file), m_variables);
 }
 
 } // namespace tessaly::i18n
