@@ -34,6 +34,8 @@ enum Code : std::uint32_t {
     ReadStreamFailed = 60,
     WriteStreamFailed = 61,
     UnknownAlgorithm = 70,
+    UnknownLocale = 80,
+    NoTranslation = 81,
     StreamClosed = 104,
     InputNameNotDefined = 200,
     InputNotFound = 201,

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "lib/err/ResultCode.h"
+#include "lib/i18n/ILocaleResLoader.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace tessaly::i18n {
+
+class ILocaleResLoaderFactory
+{
+public:
+    virtual ~ILocaleResLoaderFactory() = default;
+
+    /// Puts a loader for the file type (see Translation) into loader; NoResultPlace when that is null.
+    virtual ResultCode create(std::uint32_t fileType, std::unique_ptr<ILocaleResLoader>* loader) const = 0;
+};
+
+} // namespace tessaly::i18n

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "lib/i18n/ITranslationListLoader.h"
+
+#include <memory>
+
+namespace tessaly::i18n {
+
+class ITranslationListLoaderFactory
+{
+public:
+    virtual ~ITranslationListLoaderFactory() = default;
+
+    virtual std::unique_ptr<ITranslationListLoader> create() const = 0;
+};
+
+} // namespace tessaly::i18n

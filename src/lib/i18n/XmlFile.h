@@ -1,0 +1,37 @@
+#pragma once
+
+#include "lib/err/ResultCode.h"
+#include "lib/file/IStreamUtf8File.h"
+
+#include <QXmlStreamReader>
+
+#include <string>
+
+namespace tessaly::i18n::internal {
+
+/// A UTF-8 XML file read token by token within fixed bounds: its size, the depth of its elements, and
+/// no entities of its own. Use: open, then while (next()) look at reader(), then result.
+class XmlFile final
+{
+public:
+    ResultCode open(const std::wstring& path);
+    /// Steps to the next token; false at the end of the document and when it is malformed.
+    bool next();
+    /// MalformedText unless the whole document was well-formed.
+    ResultCode result() const;
+
+    const QXmlStreamReader& reader() const { return m_reader; }
+    /// How many elements are open, the current start element or end element included.
+    int depth() const { return m_depth; }
+    bool isStart(int depth, const char* name) const;
+    bool isEnd(int depth, const char* name) const;
+    /// The document does not hold what it should: next and result fail from now on.
+    void reject();
+
+private:
+    QXmlStreamReader m_reader;
+    int m_depth = 0;
+    bool m_wasEnd = false;
+};
+
+} // namespace tessaly::i18n::internal

@@ -1,0 +1,85 @@
+#include "app/i18n/MyTranslator.h"
+
+#include "app/errors/CErrMsg.h"
+#include "lib/i18n/TranslationManager.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRegularExpression>
+
+namespace {
+
+using tessaly::i18n::TranslationManager;
+
+constexpr std::uint32_t German = 1031;
+
+class MyTranslatorTest : public testing::Test
+{
+protected:
+    int m_argc = 1;
+    char m_name[5] = "test";
+    char* m_argv[2] = {m_name, nullptr};
+    QCoreApplication m_application{m_argc, m_argv};
+};
+
+TEST_F(MyTranslatorTest, TranslatesOrGivesTheSourceText)
+{
+    TranslationManager manager(QString(TEST_DATA_DIR "/i18n").toStdWString(), "example");
+    ASSERT_TRUE(manager.load().ok());
+    const thisapp::MyTranslator translator(manager.bundle());
+    EXPECT_EQ(translator.translate("CErrMsg", "File not found"), "File not found");
+    ASSERT_TRUE(manager.use(German).ok());
+    EXPECT_EQ(translator.translate("CErrMsg", "File not found", "other", 3), "Datei nicht gefunden & weg");
+    EXPECT_EQ(translator.translate("NoContext", "File not found"), "File not found");
+    EXPECT_EQ(translator.translate("CErrMsg", "\xE4"), QString(QChar(0xe4)));
+    EXPECT_TRUE(translator.translate(nullptr, nullptr).isEmpty());
+}
+
+/// Fills in every translation as a translator would: "[source]" for each.
+int translateAll(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QString text = QString::fromUtf8(file.readAll());
+    file.close();
+    static const QRegularExpression Message(
+        "<source>((?:[^<]|<byte[^>]*>)*)</source>(.*?)<translation[^>]*>.*?</translation>",
+        QRegularExpression::DotMatchesEverythingOption);
+    const int count = text.count(Message);
+    text.replace(Message, "<source>\\1</source>\\2<translation>[\\1]</translation>");
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text.toUtf8());
+    return count;
+}
+
+TEST_F(MyTranslatorTest, TakesAFileThatLupdateMadeFromTheSources)
+{
+    if (!QFileInfo::exists(LUPDATE))
+        GTEST_SKIP() << "no lupdate here";
+    const test::ScratchFolder folder;
+    const QString file = QString::fromStdString(folder.nativePath("all.ts"));
+    QProcess lupdate;
+    lupdate.start(LUPDATE, {"-silent", "-locations", "none", SOURCE_DIR, "-ts", file});
+    ASSERT_TRUE(lupdate.waitForFinished(120000));
+    ASSERT_EQ(lupdate.exitCode(), 0);
+    EXPECT_EQ(lupdate.readAllStandardError().toStdString(), "");
+    ASSERT_GE(translateAll(file), 15);
+
+    folder.write("all.langs.xml", "<locales><locale language='de' country='DE' file='all.ts'"
+                                  " filetype='translations'/></locales>");
+    TranslationManager manager(folder.path(), "all");
+    ASSERT_TRUE(manager.load().ok());
+    ASSERT_TRUE(manager.use(German).ok());
+    thisapp::MyTranslator translator(manager.bundle());
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    std::string text;
+    ASSERT_TRUE(thisapp::CErrMsg().lookup(5, 4003, text));
+    EXPECT_EQ(text, "[Corrupted data]");
+}
+
+} // namespace

@@ -1,0 +1,118 @@
+#include "lib/file/PropertiesFileReader.h"
+#include "lib/err/ErrorCodes.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using namespace tessaly;
+using file::internal::PropertiesFileReader;
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+class Names final : public file::IVariablesSetter
+{
+public:
+    std::optional<std::string> variable(std::string_view name) const override
+    {
+        return name == "app" ? std::optional<std::string>("Quillet${app}") : std::nullopt;
+    }
+};
+
+Pairs readPairs(const std::wstring& path)
+{
+    Pairs pairs;
+    const auto sink = [&](const std::string& key, const std::string& value) {
+        pairs.emplace_back(key, value);
+    };
+    EXPECT_TRUE(PropertiesFileReader().read(path, sink).ok());
+    return pairs;
+}
+
+TEST(PropertiesFileReader, ReadsPairs)
+{
+    const test::ScratchFolder folder;
+    const struct
+    {
+        const char* text;
+        Pairs pairs;
+    } cases[] = {
+        // Separators and blanks
+        {"a=b\na:b\na b\n a\t=  b", {{"a", "b"}, {"a", "b"}, {"a", "b"}, {"a", "b"}}},
+        {"a=b  \na==b\na b=c\na", {{"a", "b  "}, {"a", "=b"}, {"a", "b=c"}, {"a", ""}}},
+        {"=b", {{"", "b"}}},
+        {"a=b\r\nc=d\r\r\n", {{"a", "b"}, {"c", "d\r"}}},
+        {"\xC3\xA4=\xC2\xA0\xC3\xB6", {{"\xC3\xA4", "\xC2\xA0\xC3\xB6"}}},
+        // Comments and empty lines
+        {"#a=b\n \t!c=d\n\n   \r\ne=#f\n", {{"e", "#f"}}},
+        // Escapes
+        {"k=line1\\nline2\\r\\t\\\\n\\u0041", {{"k", "line1\nline2\rt\\nu0041"}}},
+        {"a\\ b\\=c\\:d\\\\=e", {{"a b=c:d\\", "e"}}},
+        {"\\#a=\\ b", {{"#a", " b"}}},
+        // Continuations
+        {"a=b\\\n   c\\  \r\nd\ne=f", {{"a", "bcd"}, {"e", "f"}}},
+        {"a=b \\\n c", {{"a", "b c"}}},
+        {"a\\\n=b", {{"a", "b"}}},
+        {"a=b\\\n# still a comment\n\nc", {{"a", "bc"}}},
+        {"a=b\\\\\nc=d", {{"a", "b\\"}, {"c", "d"}}},
+        {"a=b\\\\\\\nc=d", {{"a", "b\\\\"}, {"c", "d"}}},
+        {"\\\na=b", {{"\\", ""}, {"a", "b"}}},
+        {"a=b\\\n\\\nc=d", {{"a", "b\\"}, {"c", "d"}}},
+        {"a=b\\", {{"a", "b"}}},
+    };
+    for (const auto& [text, pairs] : cases)
+        EXPECT_EQ(readPairs(folder.write("p", text)), pairs) << text;
+}
+
+TEST(PropertiesFileReader, FiltersKeysAndExpandsVariables)
+{
+    const test::ScratchFolder folder;
+    const auto path = folder.write("p", "a=1\nb=${app} ${no} ${x${app}} ${} } ${app\n");
+    Pairs pairs;
+    const auto sink = [&](const std::string& key, const std::string& value) {
+        pairs.emplace_back(key, value);
+    };
+    ASSERT_TRUE(PropertiesFileReader()
+                    .read(
+                        path, sink, [](const std::string& key) { return key == "b"; }, nullptr)
+                    .ok());
+    ASSERT_TRUE(PropertiesFileReader().read(path, sink, nullptr, std::make_unique<Names>().get()).ok());
+    EXPECT_EQ(pairs, (Pairs{{"b", "${app} ${no} ${x${app}} ${} } ${app"},
+                            {"a", "1"},
+                            {"b", "Quillet${app} ${no} ${xQuillet${app}} ${} } ${app"}}));
+}
+
+TEST(PropertiesFileReader, SurvivesRandomBytes)
+{
+    const test::ScratchFolder folder;
+    std::mt19937 random(1);
+    const std::string_view alphabet("\\\\\\\n\n\r =:#!ab${}\0\xEF", 18);
+    for (int round = 0; round < 300; ++round) {
+        std::string bytes(random() % 400, ' ');
+        for (char& c : bytes)
+            c = round % 2 == 0 ? alphabet[random() % alphabet.size()] : static_cast<char>(random());
+        std::size_t size = 0;
+        for (const auto& [key, value] : readPairs(folder.write("p", bytes)))
+            size += key.size() + value.size();
+        EXPECT_LE(size, bytes.size());
+    }
+}
+
+TEST(PropertiesFileReader, KeepsThePairsBeforeAFailure)
+{
+    const test::ScratchFolder folder;
+    Pairs pairs;
+    const auto sink = [&](const std::string& key, const std::string& value) {
+        pairs.emplace_back(key, value);
+    };
+    // A file that says it is empty but is longer than the limit, which is passed while reading.
+    const ResultCode result = PropertiesFileReader({64 * 1024 + 2}).read(L"/proc/kallsyms", sink);
+    EXPECT_EQ(result, err::library(err::FileTooLarge));
+    EXPECT_FALSE(pairs.empty());
+}
+
+} // namespace

@@ -1,0 +1,98 @@
+#include "lib/file/TextFileReader.h"
+#include "lib/err/ErrorCodes.h"
+#include "lib/file/Utf8FileReader.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <vector>
+
+namespace {
+
+using namespace tessaly;
+using file::Utf8FileReader;
+using Lines = std::vector<std::string>;
+
+Lines readLines(const std::wstring& path)
+{
+    file::internal::TextFileReader reader;
+    EXPECT_TRUE(reader.open(path).ok());
+    Lines lines;
+    std::string line;
+    for (bool hasLine = true; hasLine;) {
+        EXPECT_TRUE(reader.readLine(line, hasLine).ok());
+        if (hasLine)
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+TEST(TextFileReader, SplitsAtLineFeedsOnly)
+{
+    const test::ScratchFolder folder;
+    const std::string block(64 * 1024 - 1, 'x'); // a line end as the last byte of a read, and around it
+    const struct
+    {
+        std::string text;
+        Lines lines;
+    } cases[] = {
+        {"", {}},
+        {"\n", {""}},
+        {"a", {"a"}},
+        {"a\n\nb\r\n", {"a", "", "b\r"}},
+        {std::string("a\0b\n", 4), {std::string("a\0b", 3)}},
+        {"\xEF\xBB\xBF", {}},
+        {"\xEF\xBB\xBF\xEF\xBB\xBFz", {"\xEF\xBB\xBFz"}},
+        {"\xEF\xBB", {"\xEF\xBB"}},
+        {block + "\nb", {block, "b"}},
+        {block + "y\nb", {block + "y", "b"}},
+        {block + "yz" + block + "\n", {block + "yz" + block}},
+    };
+    for (const auto& [text, lines] : cases)
+        EXPECT_EQ(readLines(folder.write("text", text)), lines) << text.substr(0, 20);
+}
+
+TEST(Utf8FileReader, ReadsWholeAndByLines)
+{
+    const test::ScratchFolder folder;
+    const std::wstring path = folder.write("\xC3\xA4.txt", "\xEF\xBB\xBFone\r\ntwo\nthree");
+    std::string text;
+    ASSERT_TRUE(Utf8FileReader().read(path, text).ok());
+    EXPECT_EQ(text, "one\r\ntwo\nthree");
+    Lines lines;
+    ASSERT_TRUE(
+        Utf8FileReader().readLines(path, [&](const std::string& line) { lines.push_back(line); }).ok());
+    EXPECT_EQ(lines, (Lines{"one", "two", "three"}));
+}
+
+TEST(Utf8FileReader, RefusesWhatIsNotAReadableTextFile)
+{
+    const test::ScratchFolder folder;
+    ASSERT_EQ(mkfifo(folder.nativePath("fifo").c_str(), 0600), 0);
+    folder.write("atLimit", "12345678");
+    folder.write("pastLimit", "123456789");
+    const struct
+    {
+        std::wstring path;
+        ResultCode result;
+    } cases[] = {
+        {L"", err::library(err::NullArgument)},
+        {folder.path("missing"), err::system(ENOENT)},
+        {folder.path(), err::system(EISDIR)},
+        {folder.path("fifo"), err::library(err::OpenFileFailed)},
+        {L"/dev/zero", err::library(err::OpenFileFailed)},
+        {L"/proc/cpuinfo", err::library(err::FileTooLarge)}, // its size is said to be 0
+        {folder.path("pastLimit"), err::library(err::FileTooLarge)},
+        {folder.path("atLimit"), {}},
+    };
+    for (const auto& [path, result] : cases) {
+        std::string text = "before";
+        EXPECT_EQ(Utf8FileReader({8}).read(path, text), result)
+            << QString::fromStdWString(path).toStdString();
+        EXPECT_EQ(text, result.ok() ? "12345678" : "");
+    }
+}
+
+} // namespace

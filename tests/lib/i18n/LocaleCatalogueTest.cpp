@@ -1,0 +1,69 @@
+#include "lib/i18n/LocaleCatalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace {
+
+using namespace tessaly::i18n;
+
+TEST(LocaleCatalogue, Holds204RowsWith196Tags)
+{
+    std::map<std::string, std::set<std::uint32_t>> byTag;
+    std::set<std::string_view> displayNames;
+    for (const auto& locale : locales()) {
+        EXPECT_EQ(findLocale(locale.lcid), &locale);
+        EXPECT_EQ(locale.tag, std::string(locale.languageCode) + '-' + std::string(locale.countryCode));
+        EXPECT_TRUE(locale.subLanguageId >= 1 && locale.subLanguageId <= 21) << locale.tag;
+        displayNames.insert(locale.displayName);
+        byTag[std::string(locale.tag)].insert(locale.lcid);
+    }
+    EXPECT_EQ(locales().size(), 204u);
+    EXPECT_EQ(byTag.size(), 196u);
+    EXPECT_EQ(displayNames.size(), 204u);
+
+    std::erase_if(byTag, [](const auto& row) { return row.second.size() == 1; });
+    EXPECT_EQ(byTag, (std::map<std::string, std::set<std::uint32_t>>{{"az-AZ", {1068, 2092}},
+                                                                     {"bs-BA", {5146, 8218}},
+                                                                     {"iu-CA", {1117, 2141}},
+                                                                     {"mn-MN", {1104, 2128}},
+                                                                     {"no-NO", {1044, 2068}},
+                                                                     {"sr-BA", {6170, 7194}},
+                                                                     {"sr-CS", {2074, 3098}},
+                                                                     {"uz-UZ", {1091, 2115}}}));
+}
+
+TEST(LocaleCatalogue, FindsRows)
+{
+    const internal::Locale rows[] = {
+        {1078, 54, 1, "Afrikaans (South Africa)", "Afrikaan", "South Africa", "af-ZA", "af", "ZA"},
+        {1033, 9, 1, "English (United States)", "English", "United States", "en-US", "en", "US"},
+        {2057, 9, 2, "English (United Kingdom)", "English", "United Kingdom", "en-GB", "en", "GB"},
+        {9225, 9, 9, "English (Caribbean)", "English", "Caribbean", "en-029", "en", "029"},
+        {3076, 4, 3, "Chinese (Hong Kong SAR, PRC)", "Chinese", "Hong Kong SAR, PRC", "zh-HK", "zh", "HK"},
+        {1031, 7, 1, "German (Germany)", "German", "Germany", "de-DE", "de", "DE"},
+        {1049, 25, 1, "Russian (Russia)", "Russian", "Russia", "ru-RU", "ru", "RU"},
+        {1107, 83, 1, "Khmer (Cambodia)", "Khmer", "Cambodia", "kh-KH", "kh", "KH"},
+    };
+    for (const auto& row : rows) {
+        const auto* found = findLocale(row.tag);
+        ASSERT_EQ(found, findLocale(row.lcid));
+        ASSERT_NE(found, nullptr);
+        EXPECT_EQ(found->primaryLanguageId, row.primaryLanguageId);
+        EXPECT_EQ(found->subLanguageId, row.subLanguageId);
+        EXPECT_EQ(found->displayName, row.displayName);
+        EXPECT_EQ(found->languageName, row.languageName);
+        EXPECT_EQ(found->countryName, row.countryName);
+        EXPECT_EQ(found->countryCode, row.countryCode);
+    }
+    EXPECT_EQ(findLocale(3098)->countryName, "Serbia and Montenegro, Former, Cyrillic");
+    EXPECT_EQ(findLocale(0u), nullptr);
+    EXPECT_EQ(findLocale(1024), nullptr);
+    EXPECT_EQ(findLocale(0xffffffff), nullptr);
+    EXPECT_EQ(findLocale("EN-us"), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,112 @@
+#include "lib/err/ErrorCodes.h"
+#include "lib/i18n/LocaleResLoaderFactory.h"
+#include "lib/i18n/LocaleResLoaderPropFile.h"
+#include "lib/i18n/LocaleResLoaderTrFile.h"
+#include "lib/i18n/StrBundleTrMgr.h"
+#include "lib/i18n/TranslationListLoaderXml.h"
+#include "lib/i18n/WordTest.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <random>
+
+namespace {
+
+using namespace tessaly;
+using namespace tessaly::i18n;
+using namespace tessaly::i18n::internal;
+
+std::string repeat(const std::string& text, int count)
+{
+    std::string result;
+    for (int i = 0; i < count; ++i)
+        result += text;
+    return result;
+}
+
+const std::string Entities = R"(<!DOCTYPE x [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;">]>)";
+
+TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
+{
+    const test::ScratchFolder folder;
+    TranslationListLoaderXml loader;
+    ASSERT_TRUE(
+        loader
+            .load(folder.write("l", "\xEF\xBB\xBF<?xml version='1.0' encoding='ISO-8859-1'?><locales>"
+                                    "<locale language='a' Country='b' displayname='\xC3\xA4' file='f'"
+                                    " filetype='dll' description='d' disabled='x'/>"
+                                    "<locale filetype='XML'><locale/></locale><other/><Locale/>"
+                                    "<locale filetype='properties'/>"
+                                    "<locale filetype='translations'/><locale filetype='DLL'/></locales>"))
+            .ok());
+    const std::vector<Translation> expected = {{"a", "", "\xC3\xA4", "f", 32, "d", "x"},
+                                               {"", "", "", "", 0, "", ""},
+                                               {"", "", "", "", 1, "", ""},
+                                               {"", "", "", "", 16, "", ""},
+                                               {"", "", "", "", 0, "", ""}};
+    EXPECT_EQ(loader.translations(), expected);
+
+    // A failure leaves them alone.
+    const auto malformed = err::library(err::MalformedText);
+    for (const std::string& text :
+         {std::string(), std::string("<locales>"), std::string("<locale/>"), std::string("<locales/><x/>"),
+          std::string("<locales><locale></locales>"), std::string("<locales file='\xE4'/>"),
+          std::string("<locales file='\xC3"), Entities + "<locales><locale file='&b;'/></locales>",
+          "<locales>" + repeat("<a>", 100) + repeat("</a>", 100) + "</locales>"})
+        EXPECT_EQ(loader.load(folder.write("l", text)), malformed) << text;
+    EXPECT_EQ(loader.load(folder.write("l", std::string(5 << 20, ' '))), err::library(err::FileTooLarge));
+    EXPECT_EQ(loader.load(folder.path("missing")), err::system(ENOENT));
+    EXPECT_EQ(loader.translations(), expected);
+}
+
+TEST(LocaleResLoaders, SurviveBrokenFiles)
+{
+    const test::ScratchFolder folder;
+    StrBundleTrMgr bundle;
+    const LocaleResLoaderTrFile loader;
+    const std::string good =
+        "<TS><context><name>C</name><message><source>a</source><translation>b</translation>"
+        "</message></context></TS>";
+    ASSERT_TRUE(bundle.load(loader, folder.write("t", good)).ok());
+    for (std::size_t size = 0; size < good.size(); ++size)
+        EXPECT_FALSE(bundle.load(loader, folder.write("t", good.substr(0, size))).ok());
+    EXPECT_FALSE(bundle.load(loader, folder.write("t", "<ts/>")).ok());
+    EXPECT_FALSE(bundle.load(loader, folder.write("t", Entities + good)).ok());
+    EXPECT_EQ(bundle.lookup("C", "a").text, "b");
+
+    std::mt19937 random(1);
+    for (int round = 0; round < 500; ++round) {
+        std::string text = good;
+        for (unsigned i = random() % 4; i > 0; --i)
+            text[random() % text.size()] = static_cast<char>(random());
+        StrBundleTrMgr other;
+        const ResultCode result = other.load(loader, folder.write("t", text));
+        EXPECT_TRUE(result.ok() || result == err::library(err::MalformedText));
+    }
+}
+
+TEST(LocaleResLoaderFactory, MakesALoaderForEveryType)
+{
+    const LocaleResLoaderFactory factory;
+    EXPECT_EQ(factory.create(1, nullptr), (ResultCode{5, 6}));
+    for (const std::uint32_t type : {0u, 1u, 2u, 16u, 32u}) {
+        std::unique_ptr<ILocaleResLoader> loader;
+        ASSERT_TRUE(factory.create(type, &loader).ok());
+        EXPECT_EQ(dynamic_cast<LocaleResLoaderPropFile*>(loader.get()) != nullptr, type == 1);
+        EXPECT_EQ(dynamic_cast<LocaleResLoaderTrFile*>(loader.get()) != nullptr, type != 1);
+    }
+}
+
+TEST(WordTest, KnowsYesAndNo)
+{
+    for (const char* word : {"1", "OK", "yes", "OfCouse", "true"})
+        EXPECT_EQ(readYesNo(word), true) << word;
+    for (const char* word : {"0", "not", "NEVER", "False"})
+        EXPECT_EQ(readYesNo(word), false) << word;
+    for (const char* word : {"", "no", "ofcourse", " yes"})
+        EXPECT_EQ(readYesNo(word), std::nullopt) << word;
+}
+
+} // namespace

@@ -1,0 +1,138 @@
+#include "lib/i18n/TranslationManager.h"
+#include "lib/err/ErrorCodes.h"
+#include "lib/i18n/LocaleCatalogue.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cerrno>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace tessaly;
+using namespace tessaly::i18n;
+
+const std::wstring DataFolder = QString(TEST_DATA_DIR "/i18n").toStdWString();
+constexpr std::uint32_t German = 1031, French = 1036, SerbianLatin = 2074, SerbianCyrillic = 3098;
+
+class Names final : public file::IVariablesSetter
+{
+public:
+    std::optional<std::string> variable(std::string_view name) const override
+    {
+        return name == "app" ? std::optional<std::string>("Quillet") : std::nullopt;
+    }
+};
+
+std::string text(const TranslationManager& manager, std::string_view context, std::string_view source)
+{
+    return std::string(manager.bundle().lookup(context, source).text);
+}
+
+TEST(TranslationManager, SwitchesBetweenLanguages)
+{
+    const Names names;
+    TranslationManager manager(DataFolder, "EXAMPLE");
+    manager.setVariables(&names);
+    ASSERT_TRUE(manager.load().ok());
+    EXPECT_EQ(manager.locale().tag, "en-US");
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "");
+
+    ASSERT_TRUE(manager.use(German).ok());
+    EXPECT_EQ(manager.locale().lcid, German);
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Datei nicht gefunden & weg");
+    EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "Weg");
+    EXPECT_EQ(text(manager, "CMainWindow", "%n file(s)"), "%n Dateien");
+    EXPECT_EQ(text(manager, "CMainWindow", "Bell\a"), "Glocke\a von Quillet");
+    for (const char* untranslated : {"Open file failed", "Object busy", "file not found", ""})
+        EXPECT_EQ(text(manager, "CErrMsg", untranslated), "") << untranslated;
+
+    const auto kept = manager.bundle().lookup("CMainWindow", "File not found");
+    ASSERT_TRUE(manager.use(French).ok());
+    EXPECT_EQ(kept.text, "Weg");
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
+    EXPECT_EQ(text(manager, "CMainWindow", "Algorithm:"), "Algorithme : de Quillet");
+    EXPECT_EQ(text(manager, "CMainWindow", "a|b"), "barre");
+    EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "");
+
+    // What cannot be had leaves everything as it was.
+    EXPECT_EQ(manager.use(7), err::library(err::UnknownLocale));
+    EXPECT_EQ(manager.use(2057), err::library(err::NoTranslation));
+    EXPECT_EQ(manager.use(SerbianLatin), err::system(ENOENT));
+    EXPECT_EQ(manager.locale().lcid, French);
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
+
+    ASSERT_TRUE(manager.use(EnglishLcid).ok());
+    EXPECT_EQ(manager.locale().lcid, EnglishLcid);
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "");
+}
+
+TEST(TranslationManager, OffersEnglishAndTheEnabledEntries)
+{
+    TranslationManager manager(DataFolder, "Example");
+    ASSERT_TRUE(manager.load().ok());
+    EXPECT_EQ(manager.languages(),
+              (std::vector<Language>{{EnglishLcid, "English"},
+                                     {German, "Deutsch"},
+                                     {French, "Fran\xC3\xA7"
+                                              "ais"},
+                                     {SerbianLatin, "Serbian (Serbia and Montenegro, Former, Latin)"}}));
+
+    TranslationManager without(DataFolder, "nothing");
+    EXPECT_EQ(without.load(), err::system(ENOENT));
+    EXPECT_EQ(without.languages(), (std::vector<Language>{{EnglishLcid, "English"}}));
+    EXPECT_TRUE(without.use(EnglishLcid).ok());
+}
+
+TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
+{
+    const test::ScratchFolder folder;
+    folder.write("t.langs.xml", "<locales><locale language='en' country='US' displayname='Plain English'"
+                                " file='en.properties' filetype='properties'/>"
+                                "<locale language='sr' country='CS' displayname='S' file='en.properties'"
+                                " filetype='properties'/></locales>");
+    folder.write("en.properties", "C|a=b");
+    TranslationManager manager(folder.path(), "T");
+    ASSERT_TRUE(manager.load().ok());
+    ASSERT_TRUE(manager.use(SerbianCyrillic).ok());
+    EXPECT_EQ(manager.languages(),
+              (std::vector<Language>{{EnglishLcid, "Plain English"}, {SerbianCyrillic, "S"}}));
+    ASSERT_TRUE(manager.use(EnglishLcid).ok());
+    EXPECT_EQ(text(manager, "C", "a"), "b");
+
+    // A broken resource does not take English away.
+    ASSERT_EQ(std::remove(folder.nativePath("en.properties").c_str()), 0);
+    EXPECT_TRUE(manager.use(EnglishLcid).ok());
+    EXPECT_EQ(text(manager, "C", "a"), "");
+}
+
+TEST(TranslationManager, AnswersWhileAnotherLanguageLoads)
+{
+    TranslationManager manager(DataFolder, "example");
+    ASSERT_TRUE(manager.load().ok());
+    ASSERT_TRUE(manager.use(German).ok());
+    std::atomic<bool> done = false;
+    std::atomic<int> wrong = 0;
+    std::vector<std::thread> readers;
+    for (int i = 0; i < 3; ++i)
+        readers.emplace_back([&] {
+            while (!done) {
+                const auto found = manager.bundle().lookup("CErrMsg", "File not found");
+                if (found.text != "Datei nicht gefunden & weg" && found.text != "Fichier introuvable")
+                    ++wrong;
+                if (const auto lcid = manager.locale().lcid; lcid != German && lcid != French)
+                    ++wrong;
+            }
+        });
+    for (int i = 0; i < 100; ++i)
+        EXPECT_TRUE(manager.use(i % 2 == 0 ? French : German).ok());
+    done = true;
+    for (auto& reader : readers)
+        reader.join();
+    EXPECT_EQ(wrong, 0);
+}
+
+} // namespace

@@ -1,0 +1,10 @@
+// Prints the locale catalogue: LCID, tag and display name, separated by tabs.
+#include "lib/i18n/LocaleCatalogue.h"
+
+#include <iostream>
+
+int main()
+{
+    for (const auto& locale : tessaly::i18n::locales())
+        std::cout << locale.lcid << '\t' << locale.tag << '\t' << locale.displayName << '\n';
+}
