@@ -1,0 +1,222 @@
+#include "lib/naming/NamingSettings.h"
+#include "lib/settings/CAppSettings.h"
+#include "lib/settings/OptionsStore.h"
+#include "lib/settings/Product.h"
+#include "lib/settings/SettingsKeys.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace {
+
+using thisapp::AlgSelection;
+using thisapp::SAppOptions;
+namespace keys = thisapp::keys;
+
+const auto KnownLocale = [](std::uint32_t id) { return id == 1033 || id == 1049; };
+const auto KnownAlgorithm = [](std::uint32_t id) { return id == 252 || id == 7; };
+
+/// A fresh user profile for each test.
+class Settings : public testing::Test
+{
+protected:
+    void SetUp() override { qputenv("XDG_CONFIG_HOME", profile.path().toLocal8Bit()); }
+    void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
+
+    QString file() const { return profile.filePath("Tessaly/Quillet.conf"); }
+    SAppOptions read() const { return thisapp::readOptions(CAppSettings(), KnownLocale, KnownAlgorithm); }
+    static void set(const char* key, const QVariant& value) { CAppSettings().setValue(key, value); }
+
+    QTemporaryDir profile;
+};
+
+/// The values that a user's options can have, none of them a default.
+SAppOptions everythingChanged()
+{
+    SAppOptions options;
+    const auto change = [](auto& value) {
+        using T = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<T, bool>)
+            value = !value;
+        else if constexpr (std::is_same_v<T, QString>)
+            value += "ü, \"x\"; %1 \\ ";
+        else
+            value = value == 0 ? 6 : 7;
+    };
+#define SETTING(Type, Key, member, fallback) change(options.member);
+#include "lib/settings/SettingsKeys.def"
+    options.localeId = 1049;
+    options.setDefaultAlgorithm({1, 7});
+    options.useDefaultAlgorithmAtStarting = true;
+    return options;
+}
+
+TEST_F(Settings, FreshProfileHasTheDefaults)
+{
+    const SAppOptions options = read();
+    EXPECT_EQ(options, SAppOptions());
+    EXPECT_EQ(options.localeId, 1033U);
+    EXPECT_EQ(options.defaultAlgorithm(), thisapp::DefaultAlgSelection);
+    EXPECT_EQ(options.encFileNameExt, "enc");
+    EXPECT_EQ(options.decFileNameExt, "dec");
+    EXPECT_TRUE(options.useConfirmPassword);
+    EXPECT_FALSE(options.useSalt);
+    EXPECT_FALSE(QFile::exists(file())) << "reading writes nothing";
+}
+
+TEST_F(Settings, StoredAtTheUsersPlace)
+{
+    CAppSettings settings;
+    EXPECT_EQ(settings.fileName(), file());
+    EXPECT_EQ(settings.productId(), tessaly::QuilletProductId);
+    EXPECT_NE(tessaly::AppSettings(77).fileName(), file());
+    CAppSettings::setApplicationProductId(77);
+    EXPECT_EQ(CAppSettings().fileName(), tessaly::AppSettings(77).fileName());
+    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
+
+    qputenv("XDG_CONFIG_HOME", "relative");
+    EXPECT_EQ(CAppSettings().fileName(), QDir::home().filePath(".config/Tessaly/Quillet.conf"));
+}
+
+TEST_F(Settings, EveryValueSurvivesWritingAndReading)
+{
+    const SAppOptions options = everythingChanged();
+    {
+        CAppSettings settings;
+        EXPECT_TRUE(thisapp::writeOptions(settings, options));
+        thisapp::writeDefaultAlgorithm(settings, options.defaultAlgorithm());
+        thisapp::writeLocaleId(settings, options.localeId);
+    }
+    EXPECT_EQ(read(), options);
+
+    const thisapp::NamingSettings naming = thisapp::readNamingSettings(CAppSettings());
+    EXPECT_EQ(naming.outputDirPath, options.outputDirPath);
+    EXPECT_TRUE(naming.useDefaultOutputDir);
+    EXPECT_FALSE(naming.autogenerate);
+    EXPECT_FALSE(naming.encryption.addExt);
+    EXPECT_EQ(naming.encryption.suffix, options.encFileNameSuffix);
+    EXPECT_EQ(naming.decryption.prefix, options.decFileNamePrefix);
+    EXPECT_EQ(naming.decryption.ext, options.decFileNameExt);
+}
+
+TEST_F(Settings, WrittenInOrder)
+{
+    QStringList names;
+    for (const auto& [name, value] : thisapp::writtenValues(SAppOptions()))
+        names << name;
+    EXPECT_EQ(
+        names.join(' ').toStdString(),
+        "IntegrateToShellContextMenu AddToSendMenu UseDefaultAlgorithmAtStarting LogLevel UseLogFile UseSalt "
+        "RewriteOutputFile ShowAdvancedPasswordOptions ShowPassword ShowConfirmDialog UseConfirmPassword "
+        "UseOutputFileAutogenerator OutputDirPath UseDefaultOutputDir DeleteSourceFileAfterEncryption "
+        "ConfirmDeleteSourceFileAfterEncryption EncFileNameAddExt EncFileNameAddSuffix EncFileNameAddPrefix "
+        "EncFileNameAddDate EncFileNameExt EncFileNameSuffix EncFileNamePrefix DecFileNameAddExt "
+        "DecFileNameAddSuffix DecFileNameAddPrefix DecFileNameAddDate DecFileNameExt DecFileNameSuffix "
+        "DecFileNamePrefix");
+}
+
+TEST_F(Settings, WritingWithoutChangesStoresAllButLocaleAndAlgorithm)
+{
+    CAppSettings settings;
+    EXPECT_FALSE(thisapp::writeOptions(settings, read())) << "no change of the desktop integration";
+    EXPECT_EQ(settings.allKeys().size(), 30);
+    for (const char* key : {"LocaleId", "DefaultCryptoLibrary", "DefaultCryptoAlgorithm"})
+        EXPECT_FALSE(settings.contains(key)) << key;
+
+    SAppOptions options;
+    options.addToSendMenu = false;
+    EXPECT_TRUE(thisapp::writeOptions(settings, options));
+    EXPECT_FALSE(thisapp::writeOptions(settings, options));
+    options.integrateToShellContextMenu = false;
+    EXPECT_TRUE(thisapp::writeOptions(settings, options));
+}
+
+/// Stores a value under every key of one type and expects the defaults.
+template <typename T>
+void storeUnderKeysOfType(const QVariant& value)
+{
+    CAppSettings settings;
+#define SETTING(Type, Key, member, fallback)                                                                 \
+    if (std::is_same_v<Type, T>)                                                                             \
+        settings.setValue(keys::Key.name, value);
+#include "lib/settings/SettingsKeys.def"
+}
+
+TEST_F(Settings, WrongTypesReadAsTheDefaults)
+{
+    const QVariant listed = QStringList{"a", "b"};
+    for (const QVariant& value : {QVariant("banana"), QVariant(""), QVariant(2), QVariant("-1"), QVariant(),
+                                  listed, QVariant(QByteArray("\x80\x81"))}) {
+        storeUnderKeysOfType<bool>(value);
+        EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()), SAppOptions())
+            << value.toString().toStdString();
+    }
+    for (const QVariant& value : {QVariant("true"), QVariant("1.5"), QVariant("-1"), QVariant("99999999999"),
+                                  QVariant(""), QVariant(true), QVariant(), listed}) {
+        storeUnderKeysOfType<std::uint32_t>(value);
+        EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()), SAppOptions())
+            << value.toString().toStdString();
+    }
+    for (const QVariant& value : {listed, QVariant(), QVariant(QVariantMap{{"a", 1}})}) {
+        storeUnderKeysOfType<QString>(value);
+        EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()), SAppOptions());
+    }
+}
+
+TEST_F(Settings, HandWrittenFileIsUnderstood)
+{
+    QDir(profile.path()).mkpath("Tessaly");
+    QFile conf(file());
+    ASSERT_TRUE(conf.open(QIODevice::WriteOnly));
+    conf.write(
+        "[General]\nUseSalt=1\nShowPassword=TRUE\nUseConfirmPassword=0\nLogLevel=4\nEncFileNameExt=7\n");
+    conf.close();
+    SAppOptions expected;
+    expected.useSalt = expected.showPassword = true;
+    expected.useConfirmPassword = false;
+    expected.logLevel = 4;
+    expected.encFileNameExt = "7";
+    EXPECT_EQ(read(), expected);
+}
+
+TEST_F(Settings, IdsOutOfRange)
+{
+    for (const QVariant& id : {QVariant(0), QVariant(1034), QVariant(-1), QVariant("x")}) {
+        set("LocaleId", id);
+        EXPECT_EQ(thisapp::readLocaleId(CAppSettings(), KnownLocale), 1033U);
+    }
+    for (const int level : {-1, 7, 100}) {
+        set("LogLevel", level);
+        EXPECT_EQ(read().logLevel, 0U);
+    }
+    set("LogLevel", 6);
+    EXPECT_EQ(read().logLevel, 6U);
+}
+
+TEST_F(Settings, DefaultAlgorithm)
+{
+    const auto stored = [] { return thisapp::readDefaultAlgorithm(CAppSettings(), KnownAlgorithm); };
+    EXPECT_EQ(stored(), (AlgSelection{1, 252}));
+    set("DefaultCryptoAlgorithm", 7);
+    for (const std::uint32_t library : {1U, 10U, 20U, 100U, 200U, 300U}) {
+        set("DefaultCryptoLibrary", library);
+        EXPECT_EQ(stored(), (AlgSelection{library, 7}));
+    }
+    set("DefaultCryptoLibrary", 2);
+    EXPECT_FALSE(stored());
+    EXPECT_EQ(read().defaultAlgorithm(), thisapp::DefaultAlgSelection);
+
+    set("DefaultCryptoLibrary", 1);
+    set("DefaultCryptoAlgorithm", 8);
+    EXPECT_FALSE(stored());
+
+    set("DefaultCryptoAlgorithm", 7);
+    for (const QVariant& off : {QVariant(false), QVariant("banana")}) {
+        set("UseDefaultAlgorithmAtStarting", off);
+        EXPECT_FALSE(stored());
+    }
+}
+
+} // namespace
