@@ -9,4 +9,8 @@ std::uint32_t processId();
 /// The calling thread's number, as the system's tools show it.
 std::uint32_t threadId();
 
+/// Keeps this process's memory, and the secrets in it, out of core dumps and debuggers for good.
+/// False when the system refused. Leak checkers, which debug their own process, no longer work.
+bool disableCoreDumps();
+
 } // namespace tessaly::platform

@@ -1,5 +1,7 @@
 #include "lib/platform/Process.h"
 
+#include <sys/prctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace tessaly::platform {
@@ -12,6 +14,14 @@ std::uint32_t processId()
 std::uint32_t threadId()
 {
     return static_cast<std::uint32_t>(::gettid());
+}
+
+bool disableCoreDumps()
+{
+    // The limit alone doesn't reach a handler that the kernel pipes dumps to.
+    const rlimit none{0, 0};
+    const bool limited = ::setrlimit(RLIMIT_CORE, &none) == 0;
+    return ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0 && limited;
 }
 
 } // namespace tessaly::platform

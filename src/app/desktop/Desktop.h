@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/desktop/INotifier.h"
+#include "app/desktop/ITaskbarProgress.h"
+
+#include <memory>
+
+namespace thisapp::desktop {
+
+/// The name of the program's desktop entry, without ".desktop"; also that of its icon.
+inline constexpr const char* DesktopId = "quillet";
+
+/// The program's ties to the desktop around it; each does nothing where the desktop offers no such
+/// thing. Made after the application object, used on its thread.
+class Desktop
+{
+public:
+    Desktop();
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    ITaskbarProgress& taskbarProgress();
+    INotifier& notifier();
+
+private:
+    struct Services;
+    std::unique_ptr<Services> m_services;
+};
+
+} // namespace thisapp::desktop

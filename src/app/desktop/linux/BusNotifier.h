@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/desktop/INotifier.h"
+
+namespace thisapp::desktop {
+
+class SessionBus;
+
+/// Notifications through the desktop's notification server.
+class BusNotifier final : public INotifier
+{
+public:
+    explicit BusNotifier(SessionBus& bus) : m_bus(bus) {}
+
+    void notify(const QString& summary, const QString& body) override;
+
+private:
+    SessionBus& m_bus;
+};
+
+} // namespace thisapp::desktop

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace thisapp::desktop {
+
+/// A value of type string in a desktop entry.
+std::string desktopString(std::string_view text);
+
+/// One argument in a desktop entry's Exec line.
+std::string execArgument(std::string_view argument);
+
+/// One word of a shell command.
+std::string shellWord(std::string_view word);
+
+} // namespace thisapp::desktop

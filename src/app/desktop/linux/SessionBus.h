@@ -1,0 +1,28 @@
+#pragma once
+
+class QDBusMessage;
+class QThread;
+
+namespace thisapp::desktop {
+
+/// Sends messages on the session bus from a thread of its own, because connecting to a bus may take
+/// long. Without a bus they are dropped. Used by one thread, once the application object exists.
+class SessionBus
+{
+public:
+    SessionBus();
+    /// Sends what is pending, but waits no longer than half a second for it.
+    ~SessionBus();
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+
+    /// A signal, or a method call whose answer nobody needs. Returns at once.
+    void send(const QDBusMessage& message);
+
+private:
+    class Worker;
+    QThread* m_thread;
+    Worker* m_worker;
+};
+
+} // namespace thisapp::desktop

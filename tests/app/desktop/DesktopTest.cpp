@@ -1,0 +1,122 @@
+#include "app/desktop/Desktop.h"
+#include "support/Environment.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace {
+
+using thisapp::desktop::Desktop;
+
+/// What a dock and a notification server would get.
+class Observer : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    QStringList seen;
+
+public slots:
+    void update(const QString& application, const QVariantMap& properties)
+    {
+        seen << QStringLiteral("%1 %2 %3")
+                    .arg(application)
+                    .arg(properties[QStringLiteral("progress")].toDouble())
+                    .arg(properties[QStringLiteral("progress-visible")].toBool());
+    }
+    uint Notify(const QString& application, uint, const QString& icon, const QString& summary,
+                const QString& body, const QStringList&, const QVariantMap& hints, int timeout)
+    {
+        seen << QStringList{application,
+                            icon,
+                            summary,
+                            body,
+                            hints[QStringLiteral("desktop-entry")].toString(),
+                            QString::number(timeout)}
+                    .join(QLatin1Char('|'));
+        return 1;
+    }
+};
+
+class DesktopTest : public testing::Test
+{
+protected:
+    DesktopTest()
+    {
+        static int argc = 1;
+        static char name[] = "quillet";
+        static char* argv[] = {name, nullptr};
+        static const QCoreApplication application(argc, argv);
+    }
+
+    static void use(Desktop& desktop)
+    {
+        desktop.taskbarProgress().setValue(10); // hidden: nothing to see yet
+        desktop.taskbarProgress().show();
+        desktop.taskbarProgress().setValue(40);
+        desktop.taskbarProgress().setValue(40);
+        desktop.taskbarProgress().setValue(101);
+        desktop.notifier().notify(QStringLiteral("Done"), QStringLiteral("<b> & \"c\""));
+    }
+};
+
+TEST_F(DesktopTest, TellsTheSessionBus)
+{
+    QProcess daemon;
+    daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                                                 QStringLiteral("--print-address")});
+    if (!daemon.waitForStarted())
+        GTEST_SKIP() << "no dbus-daemon";
+    ASSERT_TRUE(daemon.waitForReadyRead());
+    const QString address = QString::fromUtf8(daemon.readLine().trimmed());
+    const test::Environment bus("DBUS_SESSION_BUS_ADDRESS", address.toUtf8().constData());
+
+    auto connection = QDBusConnection::connectToBus(address, QStringLiteral("observer"));
+    Observer observer;
+    ASSERT_TRUE(connection.connect({}, {}, QStringLiteral("com.canonical.Unity.LauncherEntry"),
+                                   QStringLiteral("Update"), &observer, SLOT(update(QString, QVariantMap))));
+    ASSERT_TRUE(connection.registerService(QStringLiteral("org.freedesktop.Notifications")));
+    ASSERT_TRUE(connection.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &observer,
+                                          QDBusConnection::ExportAllSlots));
+    {
+        Desktop desktop;
+        use(desktop);
+    } // a bar still visible is taken down
+    const QString app = QStringLiteral("application://quillet.desktop ");
+    const QStringList expected = {
+        app + QStringLiteral("0.1 1"), app + QStringLiteral("0.4 1"), app + QStringLiteral("1 1"),
+        QStringLiteral("quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|quillet|-1"), app + QStringLiteral("1 0")};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return observer.seen.size() >= expected.size(); }));
+    EXPECT_EQ(observer.seen, expected) << observer.seen.join(QLatin1Char('\n')).toStdString();
+
+    QDBusConnection::disconnectFromBus(QStringLiteral("observer"));
+    daemon.terminate();
+    daemon.waitForFinished();
+}
+
+TEST_F(DesktopTest, KeepsQuietWithoutABus)
+{
+    const test::Environment runtime("XDG_RUNTIME_DIR", "/nonexistent");
+    for (const char* address : {"", "unix:path=/nonexistent/bus"}) {
+        const test::Environment bus("DBUS_SESSION_BUS_ADDRESS", address);
+        QElapsedTimer timer;
+        timer.start();
+        Desktop desktop;
+        use(desktop);
+        EXPECT_LT(timer.elapsed(), 100);
+    }
+}
+
+} // namespace
+
+#include "DesktopTest.moc"

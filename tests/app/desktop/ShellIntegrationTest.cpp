@@ -1,0 +1,155 @@
+#include "app/desktop/ShellIntegration.h"
+#include "app/desktop/linux/CommandQuoting.h"
+#include "app/desktop/linux/OwnedFile.h"
+#include "support/Environment.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <thread>
+
+namespace {
+
+using namespace thisapp::desktop;
+using namespace std::string_literals;
+namespace fs = std::filesystem;
+
+TEST(CommandQuoting, DesktopEntriesAndShell)
+{
+    const struct
+    {
+        std::string path, exec, shell, value;
+    } cases[] = {
+        {"/usr/bin/quillet", R"("/usr/bin/quillet")", "'/usr/bin/quillet'", "/usr/bin/quillet"},
+        {"/a b/q", R"("/a b/q")", "'/a b/q'", "/a b/q"},
+        {R"(/"`$)", R"("/\\"\\`\\$")", R"('/"`$')", R"(/"`$)"},
+        {R"(/\n)", R"("/\\\\n")", R"('/\n')", R"(/\\n)"},
+        {"/%f\n\t", R"("/%%f\n\t")", "'/%f\n\t'", R"(/%f\n\t)"},
+        {"/it's", R"("/it's")", R"('/it'\''s')", "/it's"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(execArgument(c.path), c.exec);
+        EXPECT_EQ(shellWord(c.path), c.shell);
+        EXPECT_EQ(desktopString(c.path), c.value);
+    }
+}
+
+class ShellIntegrationTest : public testing::Test
+{
+protected:
+    void update(bool contextMenu, bool sendTo) const
+    {
+        updateShellIntegration(QString::fromStdString(program), contextMenu, sendTo);
+    }
+    /// Path below the folder to permissions.
+    std::map<std::string, fs::perms> files() const
+    {
+        std::map<std::string, fs::perms> found;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
+            if (!entry.is_directory())
+                found[fs::relative(entry.path(), folder.path())] = entry.status().permissions();
+        return found;
+    }
+    std::string read(const char* path) const { return test::readFile(folder / path); }
+
+    test::TempFolder folder;
+    test::Environment data{"XDG_DATA_HOME", (folder / "data").c_str()};
+    test::Environment config{"XDG_CONFIG_HOME", (folder / "config").c_str()};
+    std::string program = folder / "it's \"$our\" program {marker}";
+};
+
+constexpr const char* ServiceMenu = "data/kio/servicemenus/quillet.desktop";
+constexpr const char* SendTo = "data/Thunar/sendto/quillet.desktop";
+
+TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
+{
+    const fs::perms plain{0644};
+    const fs::perms executable{0755};
+    const std::map<std::string, fs::perms> sendTo = {{SendTo, plain}};
+    const std::map<std::string, fs::perms> contextMenu = {
+        {"config/caja/scripts/Decrypt with Quillet", executable},
+        {"config/caja/scripts/Encrypt with Quillet", executable},
+        {"config/caja/scripts/Open with Quillet", executable},
+        {"data/nautilus/scripts/Decrypt with Quillet", executable},
+        {"data/nautilus/scripts/Encrypt with Quillet", executable},
+        {"data/nautilus/scripts/Open with Quillet", executable},
+        {"data/nemo/actions/quillet-decrypt.nemo_action", plain},
+        {"data/nemo/actions/quillet-encrypt.nemo_action", plain},
+        {"data/nemo/actions/quillet-open.nemo_action", plain},
+        {ServiceMenu, executable},
+    };
+    auto both = contextMenu;
+    both.insert(sendTo.begin(), sendTo.end());
+
+    update(false, true);
+    EXPECT_EQ(files(), sendTo);
+    update(true, true);
+    EXPECT_EQ(files(), both);
+    update(true, false);
+    EXPECT_EQ(files(), contextMenu);
+    update(false, false);
+    EXPECT_TRUE(files().empty());
+}
+
+TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
+{
+    update(true, true);
+    EXPECT_NE(read(ServiceMenu).find("Exec=" + execArgument(program) + " -decrypt -start -ifile %f\n"),
+              std::string::npos);
+    EXPECT_NE(read(SendTo).find("Exec=" + execArgument(program) + " -ifile %f\n"), std::string::npos);
+    EXPECT_NE(read("data/nemo/actions/quillet-encrypt.nemo_action").find("Name=Encrypt with Quillet\n"),
+              std::string::npos);
+
+    // A relative name that looks like an option must reach the program as the file that it is.
+    test::writeFile(program, "#!/bin/sh\nprintf '%s|' \"$@\" >>'" + (folder / "arguments") + "'\n");
+    fs::permissions(program, fs::perms(0700));
+    const std::string script = folder / "data/nautilus/scripts/Encrypt with Quillet";
+    const std::string command = "cd '" + folder.path().string() + "' && '" + script + "' '-start x'";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    for (int i = 0; i < 5000 && read("arguments").empty(); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    EXPECT_EQ(read("arguments"), "-encrypt|-start|-ifile|" + (folder / "-start x") + "|");
+}
+
+TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
+{
+    update(true, true);
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    const std::string menu = folder / ServiceMenu;
+    const std::string ours = read(ServiceMenu);
+    fs::last_write_time(menu, longAgo);
+    update(true, true);
+    EXPECT_EQ(fs::last_write_time(menu), longAgo);
+
+    fs::permissions(menu, fs::perms(0600));
+    update(true, true);
+    EXPECT_EQ(fs::status(menu).permissions(), fs::perms(0755)) << "it wouldn't show without";
+    test::writeFile(menu, std::string(OwnedFile::Marker) + "\nfrom an older version\n");
+    update(true, true);
+    EXPECT_EQ(read(ServiceMenu), ours);
+
+    const std::string sendTo = folder / SendTo;
+    for (const bool link : {false, true}) {
+        fs::remove(menu);
+        link ? fs::create_symlink(sendTo, menu) : test::writeFile(menu, "someone else's");
+        const std::string before = read(ServiceMenu);
+        update(true, true);
+        EXPECT_EQ(read(ServiceMenu), before);
+        update(false, true);
+        EXPECT_EQ(read(ServiceMenu), before);
+    }
+}
+
+TEST_F(ShellIntegrationTest, SurvivesAFolderThatCannotBe)
+{
+    test::writeFile(folder / "data", "a file");
+    update(true, true);
+    EXPECT_EQ(files().size(), 4U) << "the file, and the entries that have another folder";
+}
+
+} // namespace
