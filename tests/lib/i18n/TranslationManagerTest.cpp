@@ -1,6 +1,7 @@
 #include "lib/i18n/TranslationManager.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/LocaleCatalogue.h"
+#include "support/AppVariable.h"
 #include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
@@ -18,15 +19,6 @@ using namespace tessaly::i18n;
 const std::wstring DataFolder = QString(TEST_DATA_DIR "/i18n").toStdWString();
 constexpr std::uint32_t German = 1031, French = 1036, SerbianLatin = 2074, SerbianCyrillic = 3098;
 
-class Names final : public file::IVariablesSetter
-{
-public:
-    std::optional<std::string> variable(std::string_view name) const override
-    {
-        return name == "app" ? std::optional<std::string>("Quillet") : std::nullopt;
-    }
-};
-
 std::string text(const TranslationManager& manager, std::string_view context, std::string_view source)
 {
     return std::string(manager.bundle().lookup(context, source).text);
@@ -34,7 +26,7 @@ std::string text(const TranslationManager& manager, std::string_view context, st
 
 TEST(TranslationManager, SwitchesBetweenLanguages)
 {
-    const Names names;
+    const test::AppVariable names;
     TranslationManager manager(DataFolder, "EXAMPLE");
     manager.setVariables(&names);
     ASSERT_TRUE(manager.load().ok());
@@ -46,7 +38,7 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Datei nicht gefunden & weg");
     EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "Weg");
     EXPECT_EQ(text(manager, "CMainWindow", "%n file(s)"), "%n Dateien");
-    EXPECT_EQ(text(manager, "CMainWindow", "Bell\a"), "Glocke\a von Quillet");
+    EXPECT_EQ(text(manager, "CMainWindow", "Bell\a"), "Glocke\a von ${app}!");
     for (const char* untranslated : {"Open file failed", "Object busy", "file not found", ""})
         EXPECT_EQ(text(manager, "CErrMsg", untranslated), "") << untranslated;
 
@@ -54,7 +46,7 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     ASSERT_TRUE(manager.use(French).ok());
     EXPECT_EQ(kept.text, "Weg");
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
-    EXPECT_EQ(text(manager, "CMainWindow", "Algorithm:"), "Algorithme : de Quillet");
+    EXPECT_EQ(text(manager, "CMainWindow", "Algorithm:"), "Algorithme : de ${app}!");
     EXPECT_EQ(text(manager, "CMainWindow", "a|b"), "barre");
     EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "");
 
