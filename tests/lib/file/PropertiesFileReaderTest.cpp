@@ -1,7 +1,7 @@
 #include "lib/file/PropertiesFileReader.h"
 #include "lib/err/ErrorCodes.h"
 #include "support/AppVariable.h"
-#include "support/ScratchFolder.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ Pairs readPairs(const std::wstring& path)
 
 TEST(PropertiesFileReader, ReadsPairs)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     const struct
     {
         const char* text;
@@ -68,7 +68,7 @@ TEST(PropertiesFileReader, ReadsPairs)
 
 TEST(PropertiesFileReader, FiltersKeysAndExpandsVariables)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     const auto path = folder.write("p", "a=1\nb=${app} ${no} ${x${app}} ${} } ${app\n");
     const test::AppVariable variables;
     const auto onlyB = [](const std::string& key) { return key == "b"; };
@@ -82,7 +82,7 @@ TEST(PropertiesFileReader, FiltersKeysAndExpandsVariables)
 
 TEST(PropertiesFileReader, SurvivesRandomBytes)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     std::mt19937 random(1);
     const std::string_view alphabet("\\\\\\\n\n\r =:#!ab${}\0\xEF", 18);
     for (int round = 0; round < 300; ++round) {
@@ -98,7 +98,7 @@ TEST(PropertiesFileReader, SurvivesRandomBytes)
 
 TEST(PropertiesFileReader, KeepsThePairsBeforeAFailure)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     std::string text;
     while (text.size() < 100000)
         text += "key=value\n";

@@ -1,8 +1,9 @@
 #include "lib/i18n/TranslationManager.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/LocaleCatalogue.h"
+#include "lib/platform/Path.h"
 #include "support/AppVariable.h"
-#include "support/ScratchFolder.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ namespace {
 using namespace tessaly;
 using namespace tessaly::i18n;
 
-const std::wstring DataFolder = QString(TEST_DATA_DIR "/i18n").toStdWString();
+const std::wstring DataFolder = platform::widePath(TEST_DATA_DIR "/i18n");
 constexpr std::uint32_t German = 1031, French = 1036, SerbianLatin = 2074, SerbianCyrillic = 3098;
 
 std::string text(const TranslationManager& manager, std::string_view context, std::string_view source)
@@ -81,13 +82,13 @@ TEST(TranslationManager, OffersEnglishAndTheEnabledEntries)
 
 TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     folder.write("t.langs.xml", "<locales><locale language='en' country='US' displayname='Plain English'"
                                 " file='en.properties' filetype='properties'/>"
                                 "<locale language='sr' country='CS' displayname='S' file='en.properties'"
                                 " filetype='properties'/></locales>");
     folder.write("en.properties", "C|a=b");
-    TranslationManager manager(folder.path(), "T");
+    TranslationManager manager(folder.wide(), "T");
     ASSERT_TRUE(manager.load().ok());
     ASSERT_TRUE(manager.use(SerbianCyrillic).ok());
     EXPECT_EQ(manager.languages(),
@@ -96,7 +97,7 @@ TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
     EXPECT_EQ(text(manager, "C", "a"), "b");
 
     // A broken resource does not take English away.
-    ASSERT_EQ(std::remove(folder.nativePath("en.properties").c_str()), 0);
+    ASSERT_EQ(std::remove((folder / "en.properties").c_str()), 0);
     EXPECT_TRUE(manager.use(EnglishLcid).ok());
     EXPECT_EQ(text(manager, "C", "a"), "");
 }
