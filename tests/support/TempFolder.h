@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lib/platform/Path.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -32,6 +34,15 @@ public:
 
     std::string operator/(std::string_view name) const { return (m_path / name).string(); }
     const std::filesystem::path& path() const { return m_path; }
+
+    /// The path as the readers take it.
+    std::wstring wide(std::string_view name = {}) const { return tessaly::platform::widePath(*this / name); }
+    /// Writes the file anew and gives its path.
+    std::wstring write(std::string_view name, std::string_view content) const
+    {
+        std::ofstream(*this / name, std::ios::binary) << content;
+        return wide(name);
+    }
 
 private:
     std::filesystem::path m_path;

@@ -54,8 +54,8 @@ ResultCode IStreamUtf8File::checkFile() const
         return result;
     if (status.kind == platform::FileKind::Other)
         return err::library(err::OpenFileFailed);
-    const bool isTooLarge = status.kind == platform::FileKind::Regular &&
-                            static_cast<std::uint64_t>(status.size) > m_left;
+    const bool isTooLarge =
+        status.kind == platform::FileKind::Regular && static_cast<std::uint64_t>(status.size) > m_left;
     return isTooLarge ? err::library(err::FileTooLarge) : ResultCode();
 }
 

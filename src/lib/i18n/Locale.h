@@ -18,6 +18,8 @@ struct Locale
     std::string_view tag;                ///< "en-US"
     std::string_view languageCode;       ///< "en"
     std::string_view countryCode;        ///< "US"
+
+    friend constexpr bool operator==(const Locale&, const Locale&) = default;
 };
 
 } // namespace tessaly::i18n::internal

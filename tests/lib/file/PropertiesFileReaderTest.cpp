@@ -1,6 +1,7 @@
 #include "lib/file/PropertiesFileReader.h"
 #include "lib/err/ErrorCodes.h"
-#include "support/ScratchFolder.h"
+#include "support/AppVariable.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -14,28 +15,25 @@ using namespace tessaly;
 using file::internal::PropertiesFileReader;
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-class Names final : public file::IVariablesSetter
+/// The pairs that its sink was handed.
+struct Collected
 {
-public:
-    std::optional<std::string> variable(std::string_view name) const override
-    {
-        return name == "app" ? std::optional<std::string>("Quillet${app}") : std::nullopt;
-    }
+    Pairs pairs;
+    file::IPropertiesFileReader::PairSink sink = [this](const std::string& key, const std::string& value) {
+        pairs.emplace_back(key, value);
+    };
 };
 
 Pairs readPairs(const std::wstring& path)
 {
-    Pairs pairs;
-    const auto sink = [&](const std::string& key, const std::string& value) {
-        pairs.emplace_back(key, value);
-    };
-    EXPECT_TRUE(PropertiesFileReader().read(path, sink).ok());
-    return pairs;
+    Collected collected;
+    EXPECT_TRUE(PropertiesFileReader().read(path, collected.sink).ok());
+    return collected.pairs;
 }
 
 TEST(PropertiesFileReader, ReadsPairs)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     const struct
     {
         const char* text;
@@ -70,25 +68,21 @@ TEST(PropertiesFileReader, ReadsPairs)
 
 TEST(PropertiesFileReader, FiltersKeysAndExpandsVariables)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     const auto path = folder.write("p", "a=1\nb=${app} ${no} ${x${app}} ${} } ${app\n");
-    Pairs pairs;
-    const auto sink = [&](const std::string& key, const std::string& value) {
-        pairs.emplace_back(key, value);
-    };
-    ASSERT_TRUE(PropertiesFileReader()
-                    .read(
-                        path, sink, [](const std::string& key) { return key == "b"; }, nullptr)
-                    .ok());
-    ASSERT_TRUE(PropertiesFileReader().read(path, sink, nullptr, std::make_unique<Names>().get()).ok());
-    EXPECT_EQ(pairs, (Pairs{{"b", "${app} ${no} ${x${app}} ${} } ${app"},
-                            {"a", "1"},
-                            {"b", "Quillet${app} ${no} ${xQuillet${app}} ${} } ${app"}}));
+    const test::AppVariable variables;
+    const auto onlyB = [](const std::string& key) { return key == "b"; };
+    Collected collected;
+    ASSERT_TRUE(PropertiesFileReader().read(path, collected.sink, onlyB).ok());
+    ASSERT_TRUE(PropertiesFileReader().read(path, collected.sink, nullptr, &variables).ok());
+    EXPECT_EQ(collected.pairs, (Pairs{{"b", "${app} ${no} ${x${app}} ${} } ${app"},
+                                      {"a", "1"},
+                                      {"b", "${app}! ${no} ${x${app}!} ${} } ${app"}}));
 }
 
 TEST(PropertiesFileReader, SurvivesRandomBytes)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     std::mt19937 random(1);
     const std::string_view alphabet("\\\\\\\n\n\r =:#!ab${}\0\xEF", 18);
     for (int round = 0; round < 300; ++round) {
@@ -104,15 +98,18 @@ TEST(PropertiesFileReader, SurvivesRandomBytes)
 
 TEST(PropertiesFileReader, KeepsThePairsBeforeAFailure)
 {
-    const test::ScratchFolder folder;
-    Pairs pairs;
-    const auto sink = [&](const std::string& key, const std::string& value) {
-        pairs.emplace_back(key, value);
+    const test::TempFolder folder;
+    std::string text;
+    while (text.size() < 100000)
+        text += "key=value\n";
+    const std::wstring path = folder.write("p", text);
+    std::size_t count = 0;
+    const auto growFile = [&](const std::string&, const std::string&) {
+        if (count++ == 0)
+            folder.write("p", text + "x");
     };
-    // A file that says it is empty but is longer than the limit, which is passed while reading.
-    const ResultCode result = PropertiesFileReader({64 * 1024 + 2}).read(L"/proc/kallsyms", sink);
-    EXPECT_EQ(result, err::library(err::FileTooLarge));
-    EXPECT_FALSE(pairs.empty());
+    EXPECT_EQ(PropertiesFileReader({text.size()}).read(path, growFile), err::library(err::FileTooLarge));
+    EXPECT_GT(count, 0u);
 }
 
 } // namespace

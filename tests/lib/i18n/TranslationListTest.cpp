@@ -5,7 +5,7 @@
 #include "lib/i18n/StrBundleTrMgr.h"
 #include "lib/i18n/TranslationListLoaderXml.h"
 #include "lib/i18n/WordTest.h"
-#include "support/ScratchFolder.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,7 @@ const std::string Entities = R"(<!DOCTYPE x [<!ENTITY a "aaaaaaaaaa"><!ENTITY b 
 
 TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     TranslationListLoaderXml loader;
     ASSERT_TRUE(
         loader
@@ -57,13 +57,13 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
           "<locales>" + repeat("<a>", 100) + repeat("</a>", 100) + "</locales>"})
         EXPECT_EQ(loader.load(folder.write("l", text)), malformed) << text;
     EXPECT_EQ(loader.load(folder.write("l", std::string(5 << 20, ' '))), err::library(err::FileTooLarge));
-    EXPECT_EQ(loader.load(folder.path("missing")), err::system(ENOENT));
+    EXPECT_EQ(loader.load(folder.wide("missing")), err::system(ENOENT));
     EXPECT_EQ(loader.translations(), expected);
 }
 
 TEST(LocaleResLoaders, SurviveBrokenFiles)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     StrBundleTrMgr bundle;
     const LocaleResLoaderTrFile loader;
     const std::string good =

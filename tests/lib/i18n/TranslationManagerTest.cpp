@@ -1,7 +1,9 @@
 #include "lib/i18n/TranslationManager.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/LocaleCatalogue.h"
-#include "support/ScratchFolder.h"
+#include "lib/platform/Path.h"
+#include "support/AppVariable.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -15,17 +17,8 @@ namespace {
 using namespace tessaly;
 using namespace tessaly::i18n;
 
-const std::wstring DataFolder = QString(TEST_DATA_DIR "/i18n").toStdWString();
+const std::wstring DataFolder = platform::widePath(TEST_DATA_DIR "/i18n");
 constexpr std::uint32_t German = 1031, French = 1036, SerbianLatin = 2074, SerbianCyrillic = 3098;
-
-class Names final : public file::IVariablesSetter
-{
-public:
-    std::optional<std::string> variable(std::string_view name) const override
-    {
-        return name == "app" ? std::optional<std::string>("Quillet") : std::nullopt;
-    }
-};
 
 std::string text(const TranslationManager& manager, std::string_view context, std::string_view source)
 {
@@ -34,7 +27,7 @@ std::string text(const TranslationManager& manager, std::string_view context, st
 
 TEST(TranslationManager, SwitchesBetweenLanguages)
 {
-    const Names names;
+    const test::AppVariable names;
     TranslationManager manager(DataFolder, "EXAMPLE");
     manager.setVariables(&names);
     ASSERT_TRUE(manager.load().ok());
@@ -46,7 +39,7 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Datei nicht gefunden & weg");
     EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "Weg");
     EXPECT_EQ(text(manager, "CMainWindow", "%n file(s)"), "%n Dateien");
-    EXPECT_EQ(text(manager, "CMainWindow", "Bell\a"), "Glocke\a von Quillet");
+    EXPECT_EQ(text(manager, "CMainWindow", "Bell\a"), "Glocke\a von ${app}!");
     for (const char* untranslated : {"Open file failed", "Object busy", "file not found", ""})
         EXPECT_EQ(text(manager, "CErrMsg", untranslated), "") << untranslated;
 
@@ -54,7 +47,7 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     ASSERT_TRUE(manager.use(French).ok());
     EXPECT_EQ(kept.text, "Weg");
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
-    EXPECT_EQ(text(manager, "CMainWindow", "Algorithm:"), "Algorithme : de Quillet");
+    EXPECT_EQ(text(manager, "CMainWindow", "Algorithm:"), "Algorithme : de ${app}!");
     EXPECT_EQ(text(manager, "CMainWindow", "a|b"), "barre");
     EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "");
 
@@ -89,13 +82,13 @@ TEST(TranslationManager, OffersEnglishAndTheEnabledEntries)
 
 TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
 {
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     folder.write("t.langs.xml", "<locales><locale language='en' country='US' displayname='Plain English'"
                                 " file='en.properties' filetype='properties'/>"
                                 "<locale language='sr' country='CS' displayname='S' file='en.properties'"
                                 " filetype='properties'/></locales>");
     folder.write("en.properties", "C|a=b");
-    TranslationManager manager(folder.path(), "T");
+    TranslationManager manager(folder.wide(), "T");
     ASSERT_TRUE(manager.load().ok());
     ASSERT_TRUE(manager.use(SerbianCyrillic).ok());
     EXPECT_EQ(manager.languages(),
@@ -104,7 +97,7 @@ TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
     EXPECT_EQ(text(manager, "C", "a"), "b");
 
     // A broken resource does not take English away.
-    ASSERT_EQ(std::remove(folder.nativePath("en.properties").c_str()), 0);
+    ASSERT_EQ(std::remove((folder / "en.properties").c_str()), 0);
     EXPECT_TRUE(manager.use(EnglishLcid).ok());
     EXPECT_EQ(text(manager, "C", "a"), "");
 }
