@@ -1,0 +1,91 @@
+#include "cli/CommandLine.h"
+
+#include "crypto/Catalogue.h"
+
+#include <CLI/CLI.hpp>
+
+namespace cli {
+
+namespace {
+
+constexpr const char* Footer = R"(
+Without a password file or key files, the password is asked for on the terminal.
+Exit status: 0 done, 1 failed, 2 wrong usage, 3 wrong password, key, IV or algorithm or
+a damaged file, 130 interrupted.)";
+
+struct Parsed
+{
+    Arguments arguments;
+    std::string algorithm{tessaly::crypto::displayName(tessaly::crypto::DefaultAlgorithmId)};
+};
+
+CLI::App* addCipherCommand(CLI::App& app, Parsed& parsed, const char* name, const char* description,
+                           const char* defaultOutput)
+{
+    Arguments& arguments = parsed.arguments;
+    CLI::App* command = app.add_subcommand(name, description);
+    command->add_option("--algorithm", parsed.algorithm, "as listed by `algorithms`, letter case ignored")
+        ->type_name("NAME")
+        ->capture_default_str();
+    CLI::Option* password = command->add_option("--password-file", arguments.passwordFile,
+                                                "the password is its first line; - is standard input");
+    CLI::Option* key = command->add_option("--key-file", arguments.keyFile, "the key in hexadecimal");
+    CLI::Option* iv = command->add_option("--iv-file", arguments.ivFile, "the IV in hexadecimal");
+    password->type_name("FILE")->excludes(key)->excludes(iv);
+    key->type_name("FILE")->needs(iv);
+    iv->type_name("FILE")->needs(key);
+    command->add_option("--output", arguments.output, defaultOutput)->type_name("OUT");
+    command->add_flag("--force", arguments.force, "replace an existing output");
+    command->add_option("INPUT", arguments.input, "the file to read")->required()->type_name("");
+    command->footer(Footer);
+    return command;
+}
+
+/// CLI11's messages can span lines; ours are one line each.
+std::string oneLine(std::string text)
+{
+    if (const auto end = text.find('\n'); end != std::string::npos)
+        text.resize(end);
+    return text;
+}
+
+} // namespace
+
+ParseOutcome parseCommandLine(int argc, char** argv)
+{
+    Parsed parsed;
+    CLI::App app("Encrypts and decrypts single files with any of 68 symmetric algorithms.", "quillet-cli");
+    app.set_version_flag("--version", "quillet-cli " QUILLET_VERSION);
+    app.require_subcommand(1);
+    app.footer(Footer);
+
+    CLI::App* encrypt = addCipherCommand(app, parsed, "encrypt", "Encrypt one file", "instead of INPUT.enc");
+    encrypt->add_flag("--salt", parsed.arguments.salt, "make equal files encrypt differently");
+    CLI::App* decrypt =
+        addCipherCommand(app, parsed, "decrypt", "Decrypt one file", "instead of INPUT.dec without the .enc");
+    CLI::App* algorithms = app.add_subcommand("algorithms", "List the algorithms with their sizes in bytes");
+    algorithms->add_flag("--json", parsed.arguments.json, "as a JSON array");
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return {{}, app.help(), {}};
+    } catch (const CLI::CallForVersion&) {
+        return {{}, app.version() + "\n", {}};
+    } catch (const CLI::ParseError& error) {
+        return {{}, {}, oneLine(error.what())};
+    }
+
+    if (algorithms->parsed()) {
+        parsed.arguments.command = Command::Algorithms;
+        return {parsed.arguments, {}, {}};
+    }
+    parsed.arguments.command = decrypt->parsed() ? Command::Decrypt : Command::Encrypt;
+    const auto* entry = tessaly::crypto::findAlgorithm(std::string_view(parsed.algorithm));
+    if (entry == nullptr)
+        return {{}, {}, "unknown algorithm \"" + parsed.algorithm + "\"; see quillet-cli algorithms"};
+    parsed.arguments.algorithmId = entry->id;
+    return {parsed.arguments, {}, {}};
+}
+
+} // namespace cli

@@ -1,0 +1,26 @@
+#include "cli/Message.h"
+
+#include "lib/err/CErrMsgBuilder.h"
+#include "lib/err/ErrorTexts.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace cli {
+
+void complain(const std::string& message)
+{
+    std::string line = "quillet-cli: " + message;
+    std::ranges::replace_if(
+        line, [](char c) { return (c >= 0 && c < ' ') || c == '\x7f'; }, '?');
+    std::fprintf(stderr, "%s\n", line.c_str());
+}
+
+std::string errorLine(const std::string& sentence, const tessaly::crypto::CryptoResult& result)
+{
+    const tessaly::err::ErrorTexts texts;
+    return tessaly::err::internal::CErrMsgBuilder<char>(texts).build(sentence, result.first(),
+                                                                     result.second());
+}
+
+} // namespace cli

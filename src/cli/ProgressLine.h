@@ -1,0 +1,36 @@
+#pragma once
+
+#include "crypto/FileJob.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace cli {
+
+/// Percent, speed and remaining time, rewritten in place on standard error when that is a terminal;
+/// nothing otherwise.
+class ProgressLine final : public tessaly::crypto::IFileJobObserver
+{
+public:
+    ProgressLine();
+    ~ProgressLine() override;
+
+    void jobStarted(std::int64_t total) override;
+    void jobProgress(std::int64_t processed, float percent) override;
+    void jobFlushing() override;
+    bool isJobCancelled() override;
+
+private:
+    void show(const std::string& text);
+
+    bool m_visible;
+    std::size_t m_shown = 0; ///< columns to blank
+    std::chrono::steady_clock::time_point m_start;
+};
+
+/// For example "41.3%  512.0 MB/s  3 s left".
+std::string progressText(std::int64_t processed, double percent, double seconds);
+
+} // namespace cli

@@ -1,0 +1,131 @@
+#include "cli/Secrets.h"
+
+#include "crypto/Catalogue.h"
+#include "lib/platform/Terminal.h"
+#include "lib/secret/Hex.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+namespace cli {
+
+using tessaly::SecretBytes;
+using tessaly::SecretText;
+
+namespace {
+
+/// Far beyond any password, key or IV; a wrong file name must not fill the memory.
+constexpr std::size_t SecretFileLimit = 1 << 20;
+
+struct FileCloser
+{
+    void operator()(std::FILE* file) const
+    {
+        if (file != stdin)
+            std::fclose(file);
+    }
+};
+
+/// Unbuffered, so that no copy stays behind in the runtime; may be a pipe.
+bool readSecretFile(const std::string& path, bool firstLineOnly, SecretBytes& bytes)
+{
+    const std::unique_ptr<std::FILE, FileCloser> file(path == "-" ? stdin : std::fopen(path.c_str(), "rb"));
+    if (!file)
+        return false;
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    for (int c = 0; (c = std::fgetc(file.get())) != EOF;) {
+        if (firstLineOnly && c == '\n')
+            break;
+        if (bytes.size() == SecretFileLimit)
+            return false;
+        bytes.push_back(static_cast<std::uint8_t>(c));
+    }
+    if (firstLineOnly && !bytes.empty() && bytes.back() == '\r')
+        bytes.pop_back();
+    return std::ferror(file.get()) == 0;
+}
+
+bool acceptPassword(const SecretBytes& bytes, SecretText& password, std::string& problem)
+{
+    if (bytes.empty()) {
+        problem = "the password is empty";
+        return false;
+    }
+    if (std::ranges::find(bytes, 0) != bytes.end()) {
+        problem = "the password holds a zero byte";
+        return false;
+    }
+    password = SecretText({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    return true;
+}
+
+bool readHexFile(const std::string& path, const char* what, std::uint32_t length, SecretBytes& bytes,
+                 std::string& problem)
+{
+    SecretBytes text;
+    if (!readSecretFile(path, false, text)) {
+        problem = "cannot read the " + std::string(what) + " file " + path;
+        return false;
+    }
+    auto decoded = tessaly::decodeHex({reinterpret_cast<const char*>(text.data()), text.size()});
+    if (!decoded) {
+        problem = "the " + std::string(what) + " is not hexadecimal";
+        return false;
+    }
+    if (decoded->size() != length) {
+        problem = "the " + std::string(what) + " has " + std::to_string(decoded->size()) +
+                  " bytes, the algorithm takes " + std::to_string(length);
+        return false;
+    }
+    bytes = std::move(*decoded);
+    return true;
+}
+
+bool ask(const char* prompt, SecretBytes& line)
+{
+    std::fputs(prompt, stderr);
+    const bool read = tessaly::platform::readHiddenLine(line);
+    std::fputc('\n', stderr);
+    return read;
+}
+
+SecretOutcome askForPassword(bool twice, SecretText& password, std::string& problem)
+{
+    if (!tessaly::platform::isInputTerminal())
+        return SecretOutcome::NotAsked;
+    SecretBytes first;
+    SecretBytes second;
+    if (!ask("Password: ", first) || (twice && !ask("Confirm password: ", second)))
+        return SecretOutcome::Interrupted;
+    if (twice && first != second) {
+        problem = "the passwords do not match";
+        return SecretOutcome::Unusable;
+    }
+    return acceptPassword(first, password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+}
+
+} // namespace
+
+SecretOutcome gatherSecret(const Arguments& arguments, tessaly::crypto::FileJobRequest& request,
+                           std::string& problem)
+{
+    request.passwordMode = !arguments.keyFile;
+    if (arguments.keyFile) {
+        const auto& record = tessaly::crypto::findAlgorithm(arguments.algorithmId)->record;
+        return readHexFile(*arguments.keyFile, "key", record.keyLength, request.key, problem) &&
+                       readHexFile(*arguments.ivFile, "IV", record.ivLength, request.iv, problem)
+                   ? SecretOutcome::Ready
+                   : SecretOutcome::Unusable;
+    }
+    if (!arguments.passwordFile)
+        return askForPassword(arguments.command == Command::Encrypt, request.password, problem);
+    SecretBytes line;
+    if (!readSecretFile(*arguments.passwordFile, true, line)) {
+        problem = "cannot read the password file " + *arguments.passwordFile;
+        return SecretOutcome::Unusable;
+    }
+    return acceptPassword(line, request.password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+}
+
+} // namespace cli

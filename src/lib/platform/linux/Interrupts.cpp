@@ -1,0 +1,89 @@
+#include "lib/platform/Interrupts.h"
+
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <memory>
+#include <semaphore.h>
+#include <thread>
+#include <utility>
+
+namespace tessaly::platform {
+
+namespace {
+
+constexpr std::array CaughtSignals{SIGINT, SIGTERM, SIGHUP};
+
+std::atomic<bool> interrupted = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler writes it");
+sem_t wakeUp; // sem_post is one of the few calls that a signal handler may make
+
+void onSignal(int)
+{
+    interrupted = true;
+    ::sem_post(&wakeUp);
+}
+
+void handle(int signal, void (*handler)(int))
+{
+    struct sigaction action = {};
+    action.sa_handler = handler; // without SA_RESTART, so that a blocked read ends
+    ::sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+void ignoreWriteSignals()
+{
+    handle(SIGPIPE, SIG_IGN);
+    handle(SIGXFSZ, SIG_IGN);
+}
+
+struct Interrupts::Watcher
+{
+    std::function<void()> onInterrupt;
+    std::atomic<bool> ending = false;
+    std::thread thread;
+
+    void run()
+    {
+        while (!ending) {
+            if (::sem_wait(&wakeUp) == 0 && !ending && interrupted)
+                onInterrupt();
+        }
+    }
+};
+
+Interrupts::Interrupts(std::function<void()> onInterrupt) : m_watcher(std::make_unique<Watcher>())
+{
+    m_watcher->onInterrupt = std::move(onInterrupt);
+    ::sem_init(&wakeUp, 0, 0);
+    // The watching thread takes no signals: they are to interrupt the main thread's reads.
+    sigset_t caught;
+    sigset_t before;
+    ::sigemptyset(&caught);
+    for (const int signal : CaughtSignals)
+        ::sigaddset(&caught, signal);
+    ::pthread_sigmask(SIG_BLOCK, &caught, &before);
+    m_watcher->thread = std::thread([this] { m_watcher->run(); });
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    for (const int signal : CaughtSignals)
+        handle(signal, onSignal);
+}
+
+Interrupts::~Interrupts()
+{
+    for (const int signal : CaughtSignals)
+        handle(signal, SIG_DFL);
+    m_watcher->ending = true;
+    ::sem_post(&wakeUp);
+    m_watcher->thread.join();
+    ::sem_destroy(&wakeUp);
+}
+
+bool Interrupts::happened()
+{
+    return interrupted;
+}
+
+} // namespace tessaly::platform
