@@ -1,0 +1,209 @@
+#!/usr/bin/env python3
+"""What quillet-cli does on real files, and what it leaves behind. Argument: the program."""
+
+import json
+import os
+import pty
+import resource
+import signal
+import stat
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+CLI = os.path.abspath(sys.argv.pop(1))
+PASSWORD = "correct horse"
+
+
+class Behaviour(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.addCleanup(os.chdir, os.getcwd())
+        os.chdir(scratch.name)
+        self.write("pw", PASSWORD + "\r\nsecond line")
+        self.write("plain", os.urandom(100000))
+
+    def write(self, name, data):
+        with open(name, "wb") as file:
+            file.write(data if isinstance(data, bytes) else data.encode())
+
+    def read(self, name):
+        with open(name, "rb") as file:
+            return file.read()
+
+    def run_cli(self, *arguments, code=0, stdin=b"", **options):
+        done = subprocess.run([CLI, *arguments], input=stdin, capture_output=True, timeout=120, **options)
+        error = done.stderr.decode()
+        self.assertEqual(done.returncode, code, error)
+        if code:
+            self.assertRegex(error, r"\Aquillet-cli: [^\n]+\n\Z", "one line")
+        else:
+            self.assertEqual(error, "", "no progress without a terminal")
+        return done.stdout.decode() if code == 0 else error
+
+    def encrypt(self, *arguments, **options):
+        return self.run_cli("encrypt", "--password-file", "pw", *arguments, **options)
+
+    def decrypt(self, *arguments, **options):
+        return self.run_cli("decrypt", "--password-file", "pw", *arguments, **options)
+
+    def assert_files(self, *names):
+        self.assertEqual(sorted(os.listdir()), sorted(("pw", "plain") + names))
+
+    def test_every_algorithm_by_password_and_by_key(self):
+        algorithms = json.loads(self.run_cli("algorithms", "--json"))
+        self.assertEqual(len(algorithms), 68)
+        for row in algorithms:
+            with self.subTest(row["name"]):
+                self.write("key", os.urandom(row["keyBytes"]).hex(" "))
+                self.write("iv", os.urandom(row["ivBytes"]).hex().upper() + "\n")
+                for secret in (["--password-file", "pw"], ["--key-file", "key", "--iv-file", "iv"]):
+                    common = ["--algorithm", row["name"].lower(), *secret, "--force", "--output"]
+                    self.run_cli("encrypt", *common, "sealed", "plain")
+                    self.run_cli("decrypt", *common, "opened", "sealed")
+                    self.assertEqual(self.read("opened"), self.read("plain"))
+                    self.assertNotIn(self.read("plain")[:64], self.read("sealed"))
+
+    def test_default_names_and_modes(self):
+        os.umask(0o022)
+        self.encrypt("plain")
+        self.encrypt("--salt", "--output", "salted", "plain")
+        self.decrypt("plain.enc")
+        self.assert_files("plain.enc", "plain.dec", "salted")
+        self.assertEqual(self.read("plain.dec"), self.read("plain"))
+        self.assertNotEqual(self.read("plain.enc"), self.read("salted"))
+        self.assertEqual(stat.S_IMODE(os.stat("plain.enc").st_mode), 0o644)
+        self.assertEqual(stat.S_IMODE(os.stat("plain.dec").st_mode), 0o600)
+
+    def test_empty_file(self):
+        self.write("empty", "")
+        self.encrypt("empty")
+        self.decrypt("empty.enc")
+        self.assertEqual((self.read("empty.enc"), self.read("empty.dec")), (b"", b""))
+
+    def test_names_that_are_not_utf8(self):
+        name = b"caf\xe9 \xff"
+        os.link("plain", name)
+        self.encrypt(os.fsdecode(name))
+        self.assertTrue(os.path.exists(name + b".enc"))
+
+    def test_password_from_standard_input(self):
+        self.run_cli("encrypt", "--password-file", "-", "plain", stdin=PASSWORD.encode())
+        self.decrypt("plain.enc")
+        self.assertEqual(self.read("plain.dec"), self.read("plain"))
+
+    def test_wrong_secret_or_damage_is_3_and_creates_nothing(self):
+        self.encrypt("plain")
+        sealed = self.read("plain.enc")
+        self.write("damaged.enc", b"x" * 16 + sealed[16:])
+        self.write("cut.enc", sealed[:-1])
+        self.write("short.enc", sealed[:55])
+        for arguments, number in ((["damaged.enc"], 4003), (["cut.enc"], 4005), (["short.enc"], 4004),
+                                  (["--algorithm", "AES-128", "plain.enc"], 4003)):
+            self.assertIn(f"(error: 5/{number})", self.decrypt(*arguments, code=3))
+        self.write("pw", "wrong")
+        self.decrypt("plain.enc", code=3)
+        self.assert_files("plain.enc", "damaged.enc", "cut.enc", "short.enc")
+
+    def test_existing_output(self):
+        self.write("out", "precious")
+        self.encrypt("--output", "out", "plain", code=1)
+        self.assertEqual(self.read("out"), b"precious")
+        self.encrypt("--output", "out", "--force", "plain")
+        self.assertEqual(len(self.read("out")), 100064)
+        self.assert_files("out")
+
+    def test_refused_paths_change_nothing(self):
+        os.link("plain", "hard")
+        os.symlink("plain", "soft")
+        os.symlink("nowhere", "dangling")
+        os.mkfifo("fifo")
+        os.mkdir("folder")
+        files = sorted(os.listdir())
+        before = self.read("plain")
+        for output in ("plain", "./PLAIN", "hard", "soft", "dangling", "fifo", "folder", "/dev/full"):
+            with self.subTest(output=output):
+                self.encrypt("--force", "--output", output, "plain", code=1)
+        for source in ("folder", "fifo", "/dev/zero", "missing", "dangling"):
+            with self.subTest(input=source):
+                self.encrypt("--output", "out", source, code=1)
+        self.assertEqual(self.read("plain"), before)
+        self.assertEqual(sorted(os.listdir()), files)
+
+    def test_file_size_limit_leaves_nothing(self):
+        limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (50000, 50000))
+        error = self.encrypt("plain", code=1, preexec_fn=limit)
+        self.assertIn("File too large (error: 1/27)", error)
+        self.assert_files()
+
+    def test_usage(self):
+        self.write("key", "00" * 32)
+        self.write("iv", "00" * 15)
+        for arguments in ([], ["encrypt"], ["frobnicate"], ["encrypt", "--nonsense", "plain"], ["encrypt", "plain"],
+                          ["encrypt", "--algorithm", "ROT13", "--password-file", "pw", "plain"],
+                          ["decrypt", "--salt", "plain"], ["encrypt", "--key-file", "key", "plain"],
+                          ["encrypt", "--key-file", "key", "--iv-file", "iv", "--password-file", "pw", "plain"]):
+            with self.subTest(arguments):
+                self.run_cli(*arguments, code=2)
+        self.assertIn("has 15 bytes", self.run_cli("encrypt", "--key-file", "key", "--iv-file", "iv", "plain", code=1))
+        self.write("pw", "")
+        self.encrypt("plain", code=1)
+        self.write("pw", "zero\0byte")
+        self.encrypt("plain", code=1)
+        self.assert_files("key", "iv")
+
+    def test_closed_output_is_an_error(self):
+        with open("/dev/full", "wb") as full:
+            self.assertEqual(subprocess.run([CLI, "algorithms"], stdout=full, stderr=subprocess.DEVNULL).returncode, 1)
+
+    def on_terminal(self, arguments, answers):
+        """Runs on a terminal of its own, giving each answer at its prompt; what was shown, and the exit code."""
+        child, terminal = pty.fork()
+        if child == 0:
+            os.execv(CLI, [CLI, *arguments])
+        shown = b""
+        for prompt, answer in answers:
+            while not shown.endswith(prompt):
+                shown += os.read(terminal, 1024)
+            time.sleep(0.05)  # the echo goes off just after the prompt
+            os.write(terminal, answer)
+        try:
+            while piece := os.read(terminal, 1024):
+                shown += piece
+        except OSError:
+            pass
+        return shown.decode(), os.waitstatus_to_exitcode(os.waitpid(child, 0)[1])
+
+    def test_asks_on_a_terminal_without_echo(self):
+        secret = b"hunter2\n"
+        shown, code = self.on_terminal(["encrypt", "plain"], [(b"Password: ", secret), (b"Confirm password: ", secret)])
+        self.assertEqual(code, 0, shown)
+        shown_again, code = self.on_terminal(["decrypt", "plain.enc"], [(b"Password: ", secret)])
+        self.assertEqual(code, 0, shown_again)
+        self.assertEqual(self.read("plain.dec"), self.read("plain"))
+        self.assertNotIn("hunter2", shown + shown_again)
+        shown, code = self.on_terminal(["encrypt", "--force", "plain"],
+                                       [(b"Password: ", secret), (b"Confirm password: ", b"other\n")])
+        self.assertIn("do not match", shown)
+        self.assertEqual(code, 1)
+        shown, code = self.on_terminal(["encrypt", "--force", "plain"], [(b"Password: ", b"\x03")])
+        self.assertEqual(code, 130, shown)
+
+    def test_interrupt_leaves_nothing(self):
+        with open("large", "wb") as file:
+            file.truncate(8 << 30)
+        for sent in (signal.SIGINT, signal.SIGTERM):
+            running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large"], stderr=subprocess.PIPE)
+            while not os.path.exists("large.enc"):
+                time.sleep(0.01)
+            running.send_signal(sent)
+            self.assertEqual(running.wait(60), 130)
+            running.stderr.close()
+            self.assert_files("large")
+
+
+if __name__ == "__main__":
+    unittest.main()
