@@ -9,7 +9,7 @@
 /// no time zone has to be known to print them.
 namespace tessaly::logger {
 
-using FileTimeUnits = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+using FileTimeUnits = std::chrono::duration<std::int64_t, std::ratio<1, 10000000>>;
 using LocalTime = std::chrono::local_time<FileTimeUnits>;
 
 inline constexpr LocalTime fileTimeEpoch =

@@ -24,7 +24,7 @@ bool isBusThere()
 } // namespace
 
 /// Lives on the thread.
-class SessionBus::Worker : public QObject
+class SessionBusWorker : public QObject
 {
 public:
     void send(const QDBusMessage& message)
@@ -46,7 +46,7 @@ private:
     bool m_tried = false;
 };
 
-SessionBus::SessionBus() : m_thread(new QThread), m_worker(new Worker)
+SessionBus::SessionBus() : m_thread(new QThread), m_worker(new SessionBusWorker)
 {
     m_worker->moveToThread(m_thread);
     m_thread->start();

@@ -5,6 +5,8 @@ class QThread;
 
 namespace thisapp::desktop {
 
+class SessionBusWorker;
+
 /// Sends messages on the session bus from a thread of its own, because connecting to a bus may take
 /// long. Without a bus they are dropped. Used by one thread, once the application object exists.
 class SessionBus
@@ -20,9 +22,8 @@ public:
     void send(const QDBusMessage& message);
 
 private:
-    class Worker;
     QThread* m_thread;
-    Worker* m_worker;
+    SessionBusWorker* m_worker;
 };
 
 } // namespace thisapp::desktop

@@ -40,7 +40,7 @@ FileStatus fromStat(const struct stat& info)
     status.inode = info.st_ino;
     status.hardLinks = info.st_nlink;
     status.size = info.st_size;
-    status.modifiedNs = std::int64_t{info.st_mtim.tv_sec} * 1'000'000'000 + info.st_mtim.tv_nsec;
+    status.modifiedNs = std::int64_t{info.st_mtim.tv_sec} * 1000000000 + info.st_mtim.tv_nsec;
     return status;
 }
 
