@@ -1,6 +1,7 @@
 #include "lib/i18n/LocaleResLoaderTrFile.h"
 
 #include "lib/file/Variables.h"
+#include "lib/i18n/TranslationLimits.h"
 #include "lib/i18n/XmlFile.h"
 
 #include <QString>
@@ -112,7 +113,7 @@ private:
 ResultCode LocaleResLoaderTrFile::load(const std::wstring& path, ILocaleResLoaderCallback& callback) const
 {
     XmlFile xml;
-    const ResultCode opened = xml.open(path);
+    const ResultCode opened = xml.open(path, ResourceOptions);
     if (!opened.ok())
         return opened;
     MessageReader messages(callback);

@@ -4,8 +4,9 @@
 
 namespace tessaly::i18n::internal {
 
-/// For the list and for every translation resource: many times what a real one needs, and little
-/// enough that the worst one, split into tiny entries, stays a moderate amount of memory.
-inline constexpr io::SFileOptions TranslationFileOptions = {4u << 20};
+/// Many times what a real file needs, and little enough that the worst one, made of nothing but tiny
+/// entries, stays a moderate amount of memory and time.
+inline constexpr io::SFileOptions ListOptions = {256u << 10};
+inline constexpr io::SFileOptions ResourceOptions = {4u << 20};
 
 } // namespace tessaly::i18n::internal

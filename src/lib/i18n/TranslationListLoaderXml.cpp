@@ -1,5 +1,6 @@
 #include "lib/i18n/TranslationListLoaderXml.h"
 
+#include "lib/i18n/TranslationLimits.h"
 #include "lib/i18n/XmlFile.h"
 
 #include <QXmlStreamAttributes>
@@ -41,7 +42,7 @@ Translation readTranslation(const QXmlStreamAttributes& attributes)
 ResultCode TranslationListLoaderXml::load(const std::wstring& path)
 {
     XmlFile xml;
-    const ResultCode opened = xml.open(path);
+    const ResultCode opened = xml.open(path, ListOptions);
     if (!opened.ok())
         return opened;
 

@@ -2,7 +2,6 @@
 
 #include "lib/err/ErrorCodes.h"
 #include "lib/file/Utf8FileReader.h"
-#include "lib/i18n/TranslationLimits.h"
 
 #include <QString>
 #include <QTextCodec>
@@ -23,10 +22,10 @@ bool decode(const std::string& bytes, QString& text)
 
 } // namespace
 
-ResultCode XmlFile::open(const std::wstring& path)
+ResultCode XmlFile::open(const std::wstring& path, io::SFileOptions options)
 {
     std::string bytes;
-    const ResultCode result = file::Utf8FileReader(TranslationFileOptions).read(path, bytes);
+    const ResultCode result = file::Utf8FileReader(options).read(path, bytes);
     if (!result.ok())
         return result;
     QString text;
@@ -49,8 +48,8 @@ bool XmlFile::next()
     m_wasEnd = token == QXmlStreamReader::EndElement;
     if (token == QXmlStreamReader::StartElement && ++m_depth > MaxDepth)
         reject();
-    // Declared entities could make a small file a huge text.
-    if (token == QXmlStreamReader::DTD && !m_reader.entityDeclarations().isEmpty())
+    // Declared entities could make a small file a huge text, declared attributes an endless one.
+    if (token == QXmlStreamReader::DTD && m_reader.text().contains(QLatin1Char('[')))
         reject();
     return !m_reader.hasError() && token != QXmlStreamReader::EndDocument;
 }

