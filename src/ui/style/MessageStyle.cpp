@@ -1,13 +1,23 @@
 #include "ui/style/MessageStyle.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 
 namespace thisapp {
 
+namespace {
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+} // namespace
+
 QColor messageColor(MessageKind kind, const QPalette& palette)
 {
-    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    const bool dark = isDark(palette);
     switch (kind) {
     case MessageKind::Success:
         return dark ? QColor(0x7f, 0xd9, 0x8f) : QColor(0x1b, 0x6e, 0x2e);
@@ -19,6 +29,21 @@ QColor messageColor(MessageKind kind, const QPalette& palette)
         break;
     }
     return palette.color(QPalette::WindowText);
+}
+
+QColor fieldColor(bool valid, const QPalette& palette)
+{
+    if (isDark(palette))
+        return valid ? QColor(0x1d, 0x3b, 0x25) : QColor(0x4a, 0x22, 0x22);
+    return valid ? QColor(0xe3, 0xf5, 0xe6) : QColor(0xfd, 0xe4, 0xe1);
+}
+
+void setLabelKind(QLabel& label, MessageKind kind)
+{
+    QPalette palette = label.palette();
+    QWidget* parent = label.parentWidget();
+    palette.setColor(QPalette::WindowText, messageColor(kind, parent ? parent->palette() : palette));
+    label.setPalette(palette);
 }
 
 void showMessage(QLineEdit& line, const QString& text, MessageKind kind)
