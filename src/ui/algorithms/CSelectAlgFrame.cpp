@@ -2,7 +2,6 @@
 
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
-#include "ui/style/ComboBoxStyle.h"
 #include "ui_CSelectAlgFrame.h"
 
 using thisapp::AlgSelection;
@@ -12,7 +11,6 @@ CSelectAlgFrame::CSelectAlgFrame(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->comboBoxAlg);
-    thisapp::applyRoundedStyle(*m_ui->comboBoxAlg);
     connect(m_ui->comboBoxAlg, QOverload<int>::of(&QComboBox::activated), this,
             &CSelectAlgFrame::onUiAlgActivated);
 }

@@ -12,10 +12,8 @@
 
 #include <QClipboard>
 #include <QFileDialog>
-#include <QFontDatabase>
 #include <QMimeData>
 #include <QShowEvent>
-#include <algorithm>
 
 using namespace tessaly;
 using thisapp::HexInput;
@@ -23,29 +21,11 @@ using thisapp::MessageKind;
 
 namespace {
 
-/// As encodeHex writes them: 32 bytes fill a line.
-constexpr int CharactersPerLine = 71;
-constexpr std::uint32_t BytesPerLine = 32;
-
-void setLineCount(QPlainTextEdit& field, std::uint32_t expectedLength)
-{
-    const std::uint32_t lines = std::max(2U, (expectedLength + BytesPerLine - 1) / BytesPerLine);
-    const int frame = 2 * (field.frameWidth() + static_cast<int>(field.document()->documentMargin()));
-    field.setMinimumHeight(field.fontMetrics().lineSpacing() * static_cast<int>(lines) + frame);
-}
-
 /// Shows the check's outcome at the field and gives it back.
-thisapp::SHexCheck checkField(HexInput input, QPlainTextEdit& field, QLabel& count,
-                              std::uint32_t expectedLength)
+thisapp::SHexCheck checkField(HexInput input, CHexEdit& field, QLabel& count, std::uint32_t expectedLength)
 {
     thisapp::SHexCheck check = thisapp::checkHex(input, thisapp::typedText(field), expectedLength);
-    const QColor color = thisapp::fieldColor(check.passed(), field.window()->palette());
-    const QString style = QStringLiteral("QPlainTextEdit {background-color: rgb(%1, %2, %3)}")
-                              .arg(color.red())
-                              .arg(color.green())
-                              .arg(color.blue());
-    if (style != field.styleSheet()) // applying one is slow
-        field.setStyleSheet(style);
+    field.showValidity(check.passed());
     count.setText(CSetKeyAndIvDialog::tr("%1 of %2 bytes entered").arg(check.byteCount).arg(expectedLength));
     return check;
 }
@@ -58,14 +38,6 @@ CSetKeyAndIvDialog::CSetKeyAndIvDialog(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->labelNormalMode->setLinkText(tr("Show simple options"));
     m_ui->lineEditMsg->setMinimumWidth(fontMetrics().averageCharWidth() * 90);
-    for (QPlainTextEdit* field : {m_ui->plainTextEditIv, m_ui->plainTextEditKey}) {
-        field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        field->setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhPreferLatin);
-        const int margins = 2 * (field->frameWidth() + static_cast<int>(field->document()->documentMargin()));
-        field->setMinimumWidth(
-            field->fontMetrics().horizontalAdvance(QString(CharactersPerLine, QLatin1Char('0'))) + margins +
-            style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    }
     connectWidgets();
 }
 
@@ -118,8 +90,8 @@ void CSetKeyAndIvDialog::prepare()
     m_ui->frameTools->setVisible(m_encrypt);
     m_ui->checkBoxUseSalt->setChecked(m_useSalt);
     m_ui->checkBoxRewrite->setChecked(m_rewriteOutputFile);
-    setLineCount(*m_ui->plainTextEditIv, m_ivLength);
-    setLineCount(*m_ui->plainTextEditKey, m_keyLength);
+    m_ui->plainTextEditIv->setExpectedLength(m_ivLength);
+    m_ui->plainTextEditKey->setExpectedLength(m_keyLength);
 
     m_key.clear();
     m_iv.clear();
@@ -155,8 +127,8 @@ void CSetKeyAndIvDialog::fillFields()
     m_typed = {};
     check();
     if (m_ui->plainTextEditIv->document()->isEmpty() && m_ui->plainTextEditKey->document()->isEmpty()) {
-        m_ui->plainTextEditIv->setStyleSheet(QString());
-        m_ui->plainTextEditKey->setStyleSheet(QString());
+        m_ui->plainTextEditIv->showNoValidity();
+        m_ui->plainTextEditKey->showNoValidity();
         thisapp::showMessage(*m_ui->lineEditMsg, QString(), MessageKind::Plain);
     }
 }
@@ -222,11 +194,11 @@ void CSetKeyAndIvDialog::onUiGenerate()
 void CSetKeyAndIvDialog::onUiCopy()
 {
     const SecretText text = textToKeep();
-    auto* data = new QMimeData;
-    data->setText(QString::fromUtf8(text.c_str(), static_cast<int>(text.size())));
+    auto* mimeData = new QMimeData;
+    mimeData->setText(QString::fromUtf8(text.c_str(), static_cast<int>(text.size())));
     // Asks clipboard managers to keep it out of their history.
-    data->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
-    QGuiApplication::clipboard()->setMimeData(data);
+    mimeData->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
+    QGuiApplication::clipboard()->setMimeData(mimeData);
     thisapp::showMessage(*m_ui->lineEditMsg, tr("The key and IV are on the clipboard."),
                          MessageKind::Success);
 }

@@ -13,6 +13,13 @@ bool isDark(const QPalette& palette)
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
+/// The widget's surroundings: its own palette may be that of a style sheet.
+QPalette paletteAround(const QWidget& widget)
+{
+    const QWidget* parent = widget.parentWidget();
+    return parent ? parent->palette() : widget.palette();
+}
+
 } // namespace
 
 QColor messageColor(MessageKind kind, const QPalette& palette)
@@ -41,15 +48,14 @@ QColor fieldColor(bool valid, const QPalette& palette)
 void setLabelKind(QLabel& label, MessageKind kind)
 {
     QPalette palette = label.palette();
-    QWidget* parent = label.parentWidget();
-    palette.setColor(QPalette::WindowText, messageColor(kind, parent ? parent->palette() : palette));
+    palette.setColor(QPalette::WindowText, messageColor(kind, paletteAround(label)));
     label.setPalette(palette);
 }
 
 void showMessage(QLineEdit& line, const QString& text, MessageKind kind)
 {
     QPalette palette = line.palette();
-    const QColor color = messageColor(kind, palette);
+    const QColor color = messageColor(kind, paletteAround(line));
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         palette.setColor(group, QPalette::Text, color);
     line.setPalette(palette);
