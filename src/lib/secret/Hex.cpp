@@ -45,4 +45,18 @@ std::optional<SecretBytes> decodeHex(std::string_view text)
     return bytes;
 }
 
+SecretText encodeHex(std::span<const std::uint8_t> bytes)
+{
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    std::vector<char, WipingAllocator<char>> text;
+    text.reserve(bytes.size() * 2 + bytes.size() / 4);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (i > 0 && i % 4 == 0)
+            text.push_back(' ');
+        text.push_back(Digits[bytes[i] >> 4U]);
+        text.push_back(Digits[bytes[i] & 0xFU]);
+    }
+    return SecretText({text.data(), text.size()});
+}
+
 } // namespace tessaly

@@ -1,0 +1,95 @@
+#include "ui/algorithms/CAlgInfoDialog.h"
+
+#include "crypto/AlgInfo.h"
+#include "crypto/Catalogue.h"
+#include "ui/algorithms/AlgInfoReport.h"
+#include "ui/algorithms/AlgListFiller.h"
+#include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui_CAlgInfoDialog.h"
+
+#include <QShowEvent>
+#include <chrono>
+#include <utility>
+
+using thisapp::AlgSelection;
+
+namespace {
+
+/// Lets a drag over many items print once.
+constexpr std::chrono::milliseconds PrintDelay{150};
+
+/// All zero for another library's algorithm.
+tessaly::crypto::AlgRecord recordOf(const AlgSelection& selection)
+{
+    if (selection.library != tessaly::crypto::CryptoPPLibraryId)
+        return {};
+    return tessaly::crypto::AlgInfo().record(selection.algorithm);
+}
+
+} // namespace
+
+CAlgInfoDialog::CAlgInfoDialog(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::CAlgInfoDialog>())
+{
+    m_ui->setupUi(this);
+    m_ui->plainTextEditInfo->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    m_ui->plainTextEditInfo->setMinimumHeight(fontMetrics().lineSpacing() * 20);
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(PrintDelay);
+    connect(&m_timer, &QTimer::timeout, this, &CAlgInfoDialog::onUiPrintAlgInfo);
+    connect(m_ui->listWidgetAlg, &QListWidget::itemSelectionChanged, this,
+            &CAlgInfoDialog::onUiItemSelectionChanged);
+    connect(m_ui->buttonClose, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+CAlgInfoDialog::~CAlgInfoDialog() = default;
+
+void CAlgInfoDialog::setProvider(const thisapp::ICryptoAlgProvider& provider)
+{
+    m_provider = &provider;
+    m_fillOnNextShow.set(true);
+}
+
+void CAlgInfoDialog::setSelection(const AlgSelection& selection)
+{
+    m_selection = selection;
+    m_fillOnNextShow.set(true);
+}
+
+void CAlgInfoDialog::showEvent(QShowEvent* event)
+{
+    if (m_provider && m_fillOnNextShow.with([](bool& flag) { return std::exchange(flag, false); }))
+        fill();
+    QDialog::showEvent(event);
+}
+
+void CAlgInfoDialog::fill()
+{
+    QListWidget& list = *m_ui->listWidgetAlg;
+    thisapp::fillAlgList(list, *m_provider);
+    if (const int row = thisapp::findAlg(list, m_selection); row >= 0) {
+        list.setCurrentRow(row);
+        list.scrollToItem(list.currentItem(), QAbstractItemView::PositionAtCenter);
+    }
+    list.setFocus();
+    onUiPrintAlgInfo();
+}
+
+void CAlgInfoDialog::onUiItemSelectionChanged()
+{
+    m_timer.start();
+}
+
+void CAlgInfoDialog::onUiPrintAlgInfo()
+{
+    QString report;
+    const QListWidget& list = *m_ui->listWidgetAlg;
+    for (int row = 0; row < list.count(); ++row) {
+        const QListWidgetItem& item = *list.item(row);
+        if (!item.isSelected())
+            continue;
+        const auto selection = item.data(Qt::UserRole).value<AlgSelection>();
+        report += thisapp::algInfoReport(m_provider->displayName(selection), recordOf(selection));
+    }
+    m_ui->plainTextEditInfo->setPlainText(report);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "lib/settings/AlgSelection.h"
+
+#include <QFrame>
+#include <memory>
+
+namespace thisapp {
+class ICryptoAlgProvider;
+}
+namespace Ui {
+class CSelectAlgFrame;
+}
+
+/// The "Algorithm:" selector: a combo box with every algorithm that the provider offers.
+class CSelectAlgFrame final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit CSelectAlgFrame(QWidget* parent = nullptr);
+    ~CSelectAlgFrame() override;
+
+    /// Fills the combo box; the current selection stays if the provider accepts it. The provider
+    /// must outlive the frame.
+    void setProvider(const thisapp::ICryptoAlgProvider& provider);
+
+    /// (0, 0) while nothing is chosen.
+    thisapp::AlgSelection selection() const;
+    /// False, and nothing changes, when the provider doesn't accept the pair.
+    bool setSelection(const thisapp::AlgSelection& selection);
+
+signals:
+    /// The user, not the program, chose another algorithm.
+    void notifyAlgChanged();
+
+private slots:
+    void onUiAlgActivated(int index);
+
+private:
+    std::unique_ptr<Ui::CSelectAlgFrame> m_ui;
+    const thisapp::ICryptoAlgProvider* m_provider = nullptr;
+    int m_reportedIndex = -1;
+};

@@ -1,0 +1,54 @@
+#include "ui/password/CHexEdit.h"
+
+#include "ui/style/MessageStyle.h"
+
+#include <QFontDatabase>
+#include <QStyle>
+#include <algorithm>
+
+namespace {
+
+/// As encodeHex writes them: 32 bytes are 71 characters.
+constexpr std::uint32_t BytesPerLine = 32;
+constexpr int CharactersPerLine = 71;
+
+} // namespace
+
+CHexEdit::CHexEdit(QWidget* parent) : QPlainTextEdit(parent)
+{
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhPreferLatin);
+    setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
+}
+
+void CHexEdit::setExpectedLength(std::uint32_t length)
+{
+    m_expectedLength = length;
+    updateGeometry();
+}
+
+void CHexEdit::showValidity(bool valid)
+{
+    const QColor color = thisapp::fieldColor(valid, window()->palette());
+    const QString sheet = QStringLiteral("QPlainTextEdit {background-color: rgb(%1, %2, %3)}")
+                              .arg(color.red())
+                              .arg(color.green())
+                              .arg(color.blue());
+    if (sheet != styleSheet()) // applying one is slow
+        setStyleSheet(sheet);
+}
+
+void CHexEdit::showNoValidity()
+{
+    setStyleSheet(QString());
+}
+
+QSize CHexEdit::sizeHint() const
+{
+    const auto lines = static_cast<int>(std::max(2U, (m_expectedLength + BytesPerLine - 1) / BytesPerLine));
+    const int margins = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    const int width = fontMetrics().horizontalAdvance(QString(CharactersPerLine + 1, QLatin1Char('0')));
+    return {width + margins + style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+            fontMetrics().lineSpacing() * lines + margins};
+}

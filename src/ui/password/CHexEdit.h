@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <cstdint>
+
+/// A mono-spaced field for secret hexadecimal text: sized for the expected bytes, no undo history,
+/// Tab leaves it.
+class CHexEdit final : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit CHexEdit(QWidget* parent = nullptr);
+
+    /// In bytes.
+    void setExpectedLength(std::uint32_t length);
+
+    /// Colours the background by a check's outcome.
+    void showValidity(bool valid);
+    void showNoValidity();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+private:
+    std::uint32_t m_expectedLength = 0;
+};

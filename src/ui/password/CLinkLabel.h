@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label that is one hyperlink, for mouse and keyboard: Tab reaches it, Enter or Space follows it.
+class CLinkLabel final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit CLinkLabel(QWidget* parent = nullptr);
+
+    /// Shows a plain text as a link with the target "#".
+    void setLinkText(const QString& text);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};

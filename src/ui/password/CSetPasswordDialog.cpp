@@ -1,0 +1,176 @@
+#include "ui/password/CSetPasswordDialog.h"
+
+#include "lib/platform/CapsLock.h"
+#include "ui/password/CapsLockWatcher.h"
+#include "ui/password/PasswordStrength.h"
+#include "ui/password/SecretFields.h"
+#include "ui/style/InfoText.h"
+#include "ui/style/MessageStyle.h"
+#include "ui_CSetPasswordDialog.h"
+
+#include <QShowEvent>
+
+CSetPasswordDialog::CSetPasswordDialog(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::CSetPasswordDialog>())
+{
+    m_ui->setupUi(this);
+    m_ui->lineEditMsg->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+    m_ui->labelAdvancedMode->setLinkText(tr("Show advanced options"));
+    connectWidgets();
+}
+
+CSetPasswordDialog::~CSetPasswordDialog()
+{
+    clearFields();
+}
+
+void CSetPasswordDialog::connectWidgets()
+{
+    connect(m_ui->lineEditPassword, &QLineEdit::textChanged, this, &CSetPasswordDialog::onUiPasswordChanged);
+    connect(m_ui->lineEditConfirmPassword, &QLineEdit::textChanged, this,
+            &CSetPasswordDialog::onUiConfirmPasswordChanged);
+    connect(m_ui->checkBoxShowPassword, &QCheckBox::toggled, this,
+            &CSetPasswordDialog::onUiShowPasswordToggled);
+    connect(m_ui->labelAdvancedMode, &QLabel::linkActivated, this,
+            &CSetPasswordDialog::onUiSwitchToAdvancedMode);
+    connect(m_ui->buttonOk, &QPushButton::clicked, this, &CSetPasswordDialog::onUiOk);
+    connect(m_ui->buttonCancel, &QPushButton::clicked, this, &CSetPasswordDialog::onUiCancel);
+
+    auto* capsLock = new CapsLockWatcher(tessaly::platform::capsLockOn, this);
+    capsLock->watch(*m_ui->lineEditPassword);
+    capsLock->watch(*m_ui->lineEditConfirmPassword);
+    connect(capsLock, &CapsLockWatcher::notifyCapsLockChanged, this,
+            &CSetPasswordDialog::onUiCapsLockChanged);
+}
+
+void CSetPasswordDialog::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous())
+        prepare();
+    QDialog::showEvent(event);
+}
+
+void CSetPasswordDialog::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous()) // a minimised window keeps what was typed
+        clearFields();
+    QDialog::hideEvent(event);
+}
+
+void CSetPasswordDialog::prepare()
+{
+    setWindowTitle(m_encrypt ? tr("Password to encrypt") : tr("Password to decrypt"));
+    const QString info = m_encrypt ? tr("Remember the name of the encryption algorithm and password. \r\n"
+                                        "These data will be needed to decrypt the file. \r\n"
+                                        "Selected cryptographic algorithm: %1.")
+                                   : tr("Enter the password to decrypt the file. \r\n"
+                                        "Selected cryptographic algorithm: %1.");
+    thisapp::setInfoText(*m_ui->textEditInfo, info.arg(m_algorithmName));
+    setAccessibleDescription(m_ui->textEditInfo->toPlainText());
+
+    m_ui->frameConfirmPassword->setVisible(confirms());
+    m_ui->labelStrength->setVisible(m_encrypt);
+    m_ui->checkBoxUseSalt->setVisible(m_encrypt);
+    m_ui->labelAdvancedMode->setVisible(m_showAdvancedOptions);
+    m_ui->checkBoxUseSalt->setChecked(m_useSalt);
+    m_ui->checkBoxRewrite->setChecked(m_rewriteOutputFile);
+    m_ui->checkBoxShowPassword->setChecked(m_showPassword);
+    onUiShowPasswordToggled(m_showPassword);
+
+    m_password = {};
+    m_switchToAdvanced = false;
+    clearFields();
+    showStrength(QString());
+    checkPasswords();
+    m_ui->lineEditPassword->setFocus();
+    adjustSize();
+}
+
+void CSetPasswordDialog::onUiPasswordChanged(const QString& text)
+{
+    showStrength(text);
+    checkPasswords();
+}
+
+void CSetPasswordDialog::onUiConfirmPasswordChanged(const QString& /*text*/)
+{
+    checkPasswords();
+}
+
+void CSetPasswordDialog::onUiShowPasswordToggled(bool show)
+{
+    const QLineEdit::EchoMode mode = show ? QLineEdit::Normal : QLineEdit::Password;
+    for (QLineEdit* field : {m_ui->lineEditPassword, m_ui->lineEditConfirmPassword}) {
+        field->setEchoMode(mode);
+        field->setInputMethodHints(field->inputMethodHints() | Qt::ImhSensitiveData |
+                                   Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+    }
+}
+
+void CSetPasswordDialog::onUiCapsLockChanged(bool on)
+{
+    m_ui->labelCapsLock->setText(on ? tr("Caps Lock is on.") : QString());
+    thisapp::setLabelKind(*m_ui->labelCapsLock, thisapp::MessageKind::Warning);
+}
+
+/// True unless a confirmation is asked for and differs; shows the difference.
+bool CSetPasswordDialog::checkPasswords()
+{
+    const QString password = m_ui->lineEditPassword->text();
+    const QString confirmation = m_ui->lineEditConfirmPassword->text();
+    if (!confirms() || password == confirmation) {
+        thisapp::showMessage(*m_ui->lineEditMsg, QString(), thisapp::MessageKind::Plain);
+        return true;
+    }
+    const QString lengths = password.size() == confirmation.size()
+                                ? tr("Password length: %1").arg(password.size())
+                                : tr("Password length: %1/%2").arg(password.size()).arg(confirmation.size());
+    thisapp::showMessage(*m_ui->lineEditMsg, tr("The passwords do not match.") + QLatin1Char(' ') + lengths,
+                         thisapp::MessageKind::Warning);
+    return false;
+}
+
+void CSetPasswordDialog::showStrength(const QString& password)
+{
+    if (!m_encrypt)
+        return;
+    const thisapp::SStrengthNotice notice = thisapp::strengthNotice(password);
+    m_ui->labelStrength->setText(notice.text);
+    thisapp::setLabelKind(*m_ui->labelStrength, notice.kind);
+}
+
+void CSetPasswordDialog::storeOptions()
+{
+    m_useSalt = m_ui->checkBoxUseSalt->isChecked();
+    m_rewriteOutputFile = m_ui->checkBoxRewrite->isChecked();
+}
+
+void CSetPasswordDialog::onUiOk()
+{
+    storeOptions();
+    m_switchToAdvanced = false;
+    if (!checkPasswords()) {
+        m_ui->lineEditConfirmPassword->setFocus();
+        return;
+    }
+    m_password = thisapp::secretText(m_ui->lineEditPassword->text());
+    accept();
+}
+
+void CSetPasswordDialog::onUiCancel()
+{
+    reject();
+}
+
+void CSetPasswordDialog::onUiSwitchToAdvancedMode(const QString& /*link*/)
+{
+    storeOptions();
+    m_switchToAdvanced = true;
+    accept();
+}
+
+void CSetPasswordDialog::clearFields()
+{
+    thisapp::clearSecret(*m_ui->lineEditPassword);
+    thisapp::clearSecret(*m_ui->lineEditConfirmPassword);
+}

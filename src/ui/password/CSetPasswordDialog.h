@@ -1,0 +1,70 @@
+#pragma once
+
+#include "lib/secret/Secret.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class CSetPasswordDialog;
+}
+
+/// Asks for the password of one operation. Set it up, run exec() and, when accepted, read the
+/// results; with switchToAdvanced() the user asked for the key and IV dialog instead. What is typed
+/// is wiped when the dialog closes.
+class CSetPasswordDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CSetPasswordDialog(QWidget* parent = nullptr);
+    ~CSetPasswordDialog() override;
+
+    void setEncryptMode(bool encrypt) { m_encrypt = encrypt; }
+    /// Only meaningful when encrypting.
+    void setUseConfirmPassword(bool use) { m_useConfirmPassword = use; }
+    void setShowPassword(bool show) { m_showPassword = show; }
+    void setShowAdvancedOptions(bool show) { m_showAdvancedOptions = show; }
+    void setUseSalt(bool use) { m_useSalt = use; }
+    void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
+    void setAlgorithmName(const QString& name) { m_algorithmName = name; }
+
+    /// UTF-8; empty unless accepted without a switch.
+    const tessaly::SecretText& password() const { return m_password; }
+    bool useSalt() const { return m_useSalt; }
+    bool rewriteOutputFile() const { return m_rewriteOutputFile; }
+    bool switchToAdvanced() const { return m_switchToAdvanced; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private slots:
+    void onUiPasswordChanged(const QString& text);
+    void onUiConfirmPasswordChanged(const QString& text);
+    void onUiShowPasswordToggled(bool show);
+    void onUiCapsLockChanged(bool on);
+    void onUiSwitchToAdvancedMode(const QString& link);
+    void onUiOk();
+    void onUiCancel();
+
+private:
+    void connectWidgets();
+    void prepare();
+    bool confirms() const { return m_encrypt && m_useConfirmPassword; }
+    bool checkPasswords();
+    void showStrength(const QString& password);
+    void storeOptions();
+    void clearFields();
+
+    std::unique_ptr<Ui::CSetPasswordDialog> m_ui;
+    bool m_encrypt = true;
+    bool m_useConfirmPassword = true;
+    bool m_showPassword = false;
+    bool m_showAdvancedOptions = true;
+    bool m_useSalt = false;
+    bool m_rewriteOutputFile = false;
+    bool m_switchToAdvanced = false;
+    QString m_algorithmName;
+    tessaly::SecretText m_password;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QComboBox>
+
+/// The program's rounded combo box, in the palette's colours, with a scrolling list. The wheel
+/// changes its choice only while it has the focus.
+class CRoundedComboBox final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit CRoundedComboBox(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+};

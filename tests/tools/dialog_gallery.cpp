@@ -1,0 +1,148 @@
+// Saves a picture of every dialog: dialog_gallery FOLDER [dark]. QT_SCALE_FACTOR=2 doubles the scale.
+#include "ui/algorithms/CAlgInfoDialog.h"
+#include "ui/algorithms/CCryptoAlgProvider.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/algorithms/CSetAlgDialog.h"
+#include "ui/password/CSetKeyAndIvDialog.h"
+#include "ui/password/CSetPasswordDialog.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPalette>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QTest>
+
+namespace {
+
+const thisapp::CCryptoAlgProvider Provider;
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x35, 0x35));
+    palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    palette.setColor(QPalette::Link, QColor(0x5a, 0xa9, 0xf0));
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    for (const auto role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+    return palette;
+}
+
+class Gallery
+{
+public:
+    Gallery(const QString& folder, const QString& suffix) : m_folder(folder), m_suffix(suffix) {}
+
+    /// Shows the widget, lets act change it and saves its picture.
+    template <class Act>
+    void save(const QString& name, QWidget& widget, Act act)
+    {
+        widget.show();
+        static_cast<void>(QTest::qWaitForWindowActive(&widget, 500));
+        act();
+        QTest::qWait(250);
+        widget.grab().save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
+    }
+    void save(const QString& name, QWidget& widget)
+    {
+        save(name, widget, [] {});
+    }
+
+private:
+    QDir m_folder;
+    QString m_suffix;
+};
+
+void savePasswordDialogs(Gallery& gallery)
+{
+    CSetPasswordDialog encrypt;
+    encrypt.setAlgorithmName(QStringLiteral("AES-256"));
+    gallery.save(QStringLiteral("password_encrypt"), encrypt, [&encrypt] {
+        QTest::keyClicks(encrypt.findChild<QLineEdit*>(QStringLiteral("lineEditPassword")),
+                         QStringLiteral("tr0ub4dor"));
+        QTest::keyClicks(encrypt.findChild<QLineEdit*>(QStringLiteral("lineEditConfirmPassword")),
+                         QStringLiteral("TR0UB4DO"));
+        encrypt.findChild<QWidget*>(QStringLiteral("labelAdvancedMode"))->setFocus();
+    });
+    CSetPasswordDialog decrypt;
+    decrypt.setEncryptMode(false);
+    decrypt.setAlgorithmName(QStringLiteral("AES-256"));
+    gallery.save(QStringLiteral("password_decrypt"), decrypt);
+}
+
+void saveKeyDialogs(Gallery& gallery)
+{
+    CSetKeyAndIvDialog empty;
+    empty.setAlgorithmName(QStringLiteral("AES-256"));
+    empty.setExpectedLengths(32, 16);
+    gallery.save(QStringLiteral("key_empty"), empty);
+
+    CSetKeyAndIvDialog generated;
+    generated.setAlgorithmName(QStringLiteral("Threefish-1024"));
+    generated.setExpectedLengths(128, 128);
+    gallery.save(QStringLiteral("key_generated"), generated, [&generated] {
+        generated.findChild<QPushButton*>(QStringLiteral("buttonGenerate"))->click();
+    });
+
+    CSetKeyAndIvDialog wrong;
+    wrong.setEncryptMode(false);
+    wrong.setAlgorithmName(QStringLiteral("AES-256"));
+    wrong.setExpectedLengths(32, 16);
+    gallery.save(QStringLiteral("key_wrong"), wrong, [&wrong] {
+        QTest::keyClicks(wrong.findChild<QPlainTextEdit*>(QStringLiteral("plainTextEditIv")),
+                         QStringLiteral("00112233 44556677 8899aabb ccddeeff"));
+        QTest::keyClicks(wrong.findChild<QPlainTextEdit*>(QStringLiteral("plainTextEditKey")),
+                         QStringLiteral("0123 4567 89ab xyz"));
+    });
+}
+
+void saveAlgorithmDialogs(Gallery& gallery)
+{
+    CSelectAlgFrame frame;
+    frame.setProvider(Provider);
+    gallery.save(QStringLiteral("select_none"), frame);
+    frame.setSelection(thisapp::DefaultAlgSelection);
+    gallery.save(QStringLiteral("select_frame"), frame);
+    auto* box = frame.findChild<QComboBox*>();
+    box->setEnabled(false);
+    gallery.save(QStringLiteral("select_disabled"), frame);
+    box->setEnabled(true);
+    box->showPopup();
+    gallery.save(QStringLiteral("select_popup"), *box->view()->window());
+    box->hidePopup();
+
+    CSetAlgDialog choose;
+    choose.setProvider(Provider);
+    choose.setSelection(thisapp::DefaultAlgSelection);
+    gallery.save(QStringLiteral("set_algorithm"), choose);
+
+    CAlgInfoDialog info;
+    info.setProvider(Provider);
+    info.setSelection(thisapp::DefaultAlgSelection);
+    gallery.save(QStringLiteral("algorithm_info"), info);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 2)
+        return 2;
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const bool dark = arguments.value(2) == QLatin1String("dark");
+    if (dark)
+        QApplication::setPalette(darkPalette());
+    QDir().mkpath(arguments[1]);
+    Gallery gallery(arguments[1], dark ? QStringLiteral("_dark") : QString());
+    savePasswordDialogs(gallery);
+    saveKeyDialogs(gallery);
+    saveAlgorithmDialogs(gallery);
+    return 0;
+}
