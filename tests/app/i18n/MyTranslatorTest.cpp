@@ -18,16 +18,7 @@ using tessaly::i18n::TranslationManager;
 
 constexpr std::uint32_t German = 1031;
 
-class MyTranslatorTest : public testing::Test
-{
-protected:
-    int m_argc = 1;
-    char m_name[5] = "test";
-    char* m_argv[2] = {m_name, nullptr};
-    QCoreApplication m_application{m_argc, m_argv};
-};
-
-TEST_F(MyTranslatorTest, TranslatesOrGivesTheSourceText)
+TEST(MyTranslator, TranslatesOrGivesTheSourceText)
 {
     TranslationManager manager(QString(TEST_DATA_DIR "/i18n").toStdWString(), "example");
     ASSERT_TRUE(manager.load().ok());
@@ -57,10 +48,14 @@ int translateAll(const QString& path)
     return count;
 }
 
-TEST_F(MyTranslatorTest, TakesAFileThatLupdateMadeFromTheSources)
+TEST(MyTranslator, TakesAFileThatLupdateMadeFromTheSources)
 {
     if (!QFileInfo::exists(LUPDATE))
         GTEST_SKIP() << "no lupdate here";
+    int argc = 1;
+    char name[] = "test";
+    char* argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
     const test::TempFolder folder;
     const QString file = QString::fromStdString(folder / "all.ts");
     QProcess lupdate;

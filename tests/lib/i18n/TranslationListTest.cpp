@@ -18,14 +18,6 @@ using namespace tessaly;
 using namespace tessaly::i18n;
 using namespace tessaly::i18n::internal;
 
-std::string repeat(const std::string& text, int count)
-{
-    std::string result;
-    for (int i = 0; i < count; ++i)
-        result += text;
-    return result;
-}
-
 const std::string Attributes = "<!DOCTYPE locales [<!ATTLIST locale file CDATA 'x'>]>";
 const std::string Entities = R"(<!DOCTYPE x [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;">]>)";
 
@@ -50,12 +42,15 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
     EXPECT_EQ(loader.translations(), expected);
 
     // A failure leaves them alone.
+    std::string nested;
+    for (int depth = 0; depth < 100; ++depth)
+        nested = "<a>" + nested + "</a>";
     const auto malformed = err::library(err::MalformedText);
     for (const std::string& text :
          {std::string(), std::string("<locales>"), std::string("<locale/>"), std::string("<locales/><x/>"),
           std::string("<locales><locale></locales>"), std::string("<locales file='\xE4'/>"),
           std::string("<locales file='\xC3"), Entities + "<locales><locale file='&b;'/></locales>",
-          Attributes + "<locales/>", "<locales>" + repeat("<a>", 100) + repeat("</a>", 100) + "</locales>"})
+          Attributes + "<locales/>", "<locales>" + nested + "</locales>"})
         EXPECT_EQ(loader.load(folder.write("l", text)), malformed) << text;
     EXPECT_EQ(loader.load(folder.write("l", std::string((256 << 10) + 1, ' '))),
               err::library(err::FileTooLarge));
