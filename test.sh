@@ -5,5 +5,5 @@ cd "$(dirname "$0")"
 . packaging/install.sh
 
 install_missing packaging/packages-build.txt packaging/packages-test.txt
-build_preset dev all
+build_preset dev all all_verify_interface_header_sets
 exec ctest --preset dev "$@"
