@@ -145,11 +145,4 @@ TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
     }
 }
 
-TEST_F(ShellIntegrationTest, SurvivesAFolderThatCannotBe)
-{
-    test::writeFile(folder / "data", "a file");
-    update(true, true);
-    EXPECT_EQ(files().size(), 4U) << "the file, and the entries that have another folder";
-}
-
 } // namespace

@@ -1,18 +1,25 @@
 #include "app/desktop/linux/SessionBus.h"
 
+#include "lib/sync/Locker.h"
+#include "lib/sync/SafeData.h"
+#include "lib/sync/Signal.h"
+#include "lib/thread/Thread.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QFile>
-#include <QObject>
 #include <QString>
-#include <QThread>
+
+#include <atomic>
+#include <tuple>
+#include <vector>
 
 namespace thisapp::desktop {
 
 namespace {
 
 const QString ConnectionName = QStringLiteral("quillet-desktop");
-constexpr unsigned long FarewellMilliseconds = 500;
+constexpr unsigned FarewellMilliseconds = 500;
 
 /// The bus library would start a bus where there is none.
 bool isBusThere()
@@ -23,49 +30,73 @@ bool isBusThere()
 
 } // namespace
 
-/// Lives on the thread.
-class SessionBusWorker : public QObject
+/// The thread, and the messages that wait for it. Connects when the first one comes.
+class SessionBusWriter final : public tessaly::thread::IRunnable
 {
 public:
-    void send(const QDBusMessage& message)
+    SessionBusWriter() { m_thread.setRunnable(this); }
+
+    void push(const QDBusMessage& message)
     {
-        if (!m_tried && isBusThere())
-            QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName);
-        m_tried = true;
-        if (QDBusConnection bus(ConnectionName); bus.isConnected())
-            bus.send(message);
+        m_pending.with([&message](auto& pending) { pending.push_back(message); });
+        std::ignore = m_wakeUp.set();
+        if (!m_thread.isRunning())
+            std::ignore = m_thread.start();
     }
 
-    void finish()
+    /// False when the bus doesn't answer in time.
+    bool finish()
     {
+        m_finishing = true;
+        std::ignore = m_wakeUp.set();
+        return m_thread.wait(FarewellMilliseconds) != tessaly::thread::WaitStatus::TimedOut;
+    }
+
+    tessaly::ResultCode run(std::uint32_t, std::uintptr_t) override
+    {
+        if (isBusThere())
+            QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName);
+        while (m_wakeUp.wait()) {
+            std::ignore = m_wakeUp.reset();
+            const bool last = m_finishing;
+            sendPending();
+            if (last)
+                break;
+        }
         QDBusConnection::disconnectFromBus(ConnectionName);
-        thread()->quit();
+        return {};
     }
 
 private:
-    bool m_tried = false;
+    void sendPending()
+    {
+        const QDBusConnection bus(ConnectionName);
+        std::vector<QDBusMessage> messages;
+        m_pending.with([&messages](auto& pending) { messages.swap(pending); });
+        if (bus.isConnected())
+            for (const QDBusMessage& message : messages)
+                bus.send(message);
+    }
+
+    tessaly::sync::internal::SafeData<tessaly::sync::Locker, std::vector<QDBusMessage>> m_pending;
+    tessaly::sync::Signal m_wakeUp;
+    std::atomic<bool> m_finishing{false};
+    tessaly::thread::Thread m_thread;
 };
 
-SessionBus::SessionBus() : m_thread(new QThread), m_worker(new SessionBusWorker)
+SessionBus::SessionBus() : m_writer(std::make_unique<SessionBusWriter>())
 {
-    m_worker->moveToThread(m_thread);
-    m_thread->start();
 }
 
 SessionBus::~SessionBus()
 {
-    QMetaObject::invokeMethod(
-        m_worker, [worker = m_worker] { worker->finish(); }, Qt::QueuedConnection);
-    if (!m_thread->wait(FarewellMilliseconds))
-        return; // stuck in a bus that doesn't answer: left to the end of the process
-    delete m_worker;
-    delete m_thread;
+    if (!m_writer->finish())
+        std::ignore = m_writer.release(); // its thread still uses it, to the end of the process
 }
 
 void SessionBus::send(const QDBusMessage& message)
 {
-    QMetaObject::invokeMethod(
-        m_worker, [worker = m_worker, message] { worker->send(message); }, Qt::QueuedConnection);
+    m_writer->push(message);
 }
 
 } // namespace thisapp::desktop

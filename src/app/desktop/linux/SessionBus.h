@@ -1,11 +1,12 @@
 #pragma once
 
+#include <memory>
+
 class QDBusMessage;
-class QThread;
 
 namespace thisapp::desktop {
 
-class SessionBusWorker;
+class SessionBusWriter;
 
 /// Sends messages on the session bus from a thread of its own, because connecting to a bus may take
 /// long. Without a bus they are dropped. Used by one thread, once the application object exists.
@@ -22,8 +23,7 @@ public:
     void send(const QDBusMessage& message);
 
 private:
-    QThread* m_thread;
-    SessionBusWorker* m_worker;
+    std::unique_ptr<SessionBusWriter> m_writer;
 };
 
 } // namespace thisapp::desktop
