@@ -1,12 +1,18 @@
 // Saves a picture of every dialog: dialog_gallery FOLDER [dark]. QT_SCALE_FACTOR=2 doubles the scale.
+#include "lib/settings/SAppOptions.h"
 #include "ui/algorithms/CAlgInfoDialog.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/CSetAlgDialog.h"
+#include "ui/info/CAboutDialog.h"
+#include "ui/info/CTextViewDialog.h"
+#include "ui/info/CkeyboardShortcutInfoDialog.h"
+#include "ui/options/COptionsDialog.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -15,7 +21,10 @@
 #include <QPalette>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTest>
 
 namespace {
@@ -127,11 +136,51 @@ void saveAlgorithmDialogs(Gallery& gallery)
     gallery.save(QStringLiteral("algorithm_info"), info);
 }
 
+void saveOptionsDialog(Gallery& gallery)
+{
+    COptionsDialog dialog;
+    dialog.setAlgProvider(Provider);
+    dialog.setLanguages({{1031, "Deutsch"}, {1033, "English"}, {1049, "Русский"}});
+    dialog.setLogFilePath(QStringLiteral("/home/user/.local/state/Tessaly/Quillet/quillet.log"));
+    thisapp::SAppOptions options;
+    options.encFileNameAddDate = true;
+    dialog.setOptions(options);
+    gallery.save(QStringLiteral("options_general"), dialog);
+    auto* scrollBar = dialog.findChild<QScrollArea*>(QStringLiteral("scrollGeneral"))->verticalScrollBar();
+    gallery.save(QStringLiteral("options_general_end"), dialog, [=] { scrollBar->setValue(scrollBar->maximum()); });
+    dialog.findChild<QCheckBox*>(QStringLiteral("checkUseOutputDir"))->setChecked(true);
+    gallery.save(QStringLiteral("options_small"), dialog, [&dialog] { dialog.resize(400, 300); });
+    dialog.resize(dialog.sizeHint());
+
+    auto* tabs = dialog.findChild<QTabWidget*>();
+    gallery.save(QStringLiteral("options_names"), dialog, [tabs] { tabs->setCurrentIndex(1); });
+    gallery.save(QStringLiteral("options_advanced"), dialog, [tabs] { tabs->setCurrentIndex(2); });
+}
+
+void saveInfoDialogs(Gallery& gallery)
+{
+    CkeyboardShortcutInfoDialog shortcuts;
+    gallery.save(QStringLiteral("keyboard_shortcuts"), shortcuts);
+    CAboutDialog about;
+    gallery.save(QStringLiteral("about"), about);
+
+    CTextViewDialog log;
+    log.setSource([] {
+        const auto line = QStringLiteral("[2024.03.05 14:07:09:042] [INFRM] [04312] [00988] [mainwindow] Line %1\n");
+        QString text;
+        for (int number = 1; number <= 100; ++number)
+            text += line.arg(number);
+        return text;
+    });
+    gallery.save(QStringLiteral("text_view"), log);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillet"));
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2)
         return 2;
@@ -144,5 +193,7 @@ int main(int argc, char** argv)
     savePasswordDialogs(gallery);
     saveKeyDialogs(gallery);
     saveAlgorithmDialogs(gallery);
+    saveOptionsDialog(gallery);
+    saveInfoDialogs(gallery);
     return 0;
 }

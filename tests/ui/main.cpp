@@ -1,11 +1,20 @@
-#include <QApplication>
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QTemporaryDir>
+
+/// Runs the tests of the widgets without a screen, in a user profile of their own.
 int main(int argc, char** argv)
 {
+    const QTemporaryDir profile;
+    for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
+        qputenv(folder, profile.path().toLocal8Bit());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+
     testing::InitGoogleTest(&argc, argv);
-    QApplication app(argc, argv);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Quillet");
+    QApplication::setStyle("Fusion");
     return RUN_ALL_TESTS();
 }

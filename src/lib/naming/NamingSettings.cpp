@@ -22,6 +22,27 @@ NamingSettings::NamingSettings(const SAppOptions& options)
 {
 }
 
+void NamingSettings::store(SAppOptions& options) const
+{
+    options.useOutputFileAutogenerator = autogenerate;
+    options.useDefaultOutputDir = useDefaultOutputDir;
+    options.outputDirPath = outputDirPath;
+    options.encFileNameAddExt = encryption.addExt;
+    options.encFileNameAddSuffix = encryption.addSuffix;
+    options.encFileNameAddPrefix = encryption.addPrefix;
+    options.encFileNameAddDate = encryption.addDate;
+    options.encFileNameExt = encryption.ext;
+    options.encFileNameSuffix = encryption.suffix;
+    options.encFileNamePrefix = encryption.prefix;
+    options.decFileNameAddExt = decryption.addExt;
+    options.decFileNameAddSuffix = decryption.addSuffix;
+    options.decFileNameAddPrefix = decryption.addPrefix;
+    options.decFileNameAddDate = decryption.addDate;
+    options.decFileNameExt = decryption.ext;
+    options.decFileNameSuffix = decryption.suffix;
+    options.decFileNamePrefix = decryption.prefix;
+}
+
 NamingSettings readNamingSettings(const QSettings& settings)
 {
     return NamingSettings(readStoredOptions(settings));

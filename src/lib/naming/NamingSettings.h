@@ -28,6 +28,9 @@ struct NamingSettings
     NamingSettings();
     explicit NamingSettings(const SAppOptions& options);
 
+    /// Sets what belongs to naming, and nothing else.
+    void store(SAppOptions& options) const;
+
     bool autogenerate;
     bool useDefaultOutputDir;
     QString outputDirPath;

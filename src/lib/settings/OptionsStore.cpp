@@ -1,5 +1,7 @@
 #include "lib/settings/OptionsStore.h"
 
+#include "lib/i18n/LocaleCatalogue.h"
+#include "lib/logger/Level.h"
 #include "lib/settings/SettingsKeys.h"
 
 #include <QSettings>
@@ -11,7 +13,6 @@ namespace thisapp {
 namespace {
 
 constexpr std::array<std::uint32_t, 6> LibraryIds{1, 10, 20, 100, 200, 300};
-constexpr std::uint32_t MaxLogLevel = 6;
 
 bool isKnownLibrary(std::uint32_t id)
 {
@@ -44,25 +45,25 @@ SAppOptions readStoredOptions(const QSettings& settings)
     return options;
 }
 
-SAppOptions readOptions(const QSettings& settings, const KnownId& isKnownLocale,
-                        const KnownId& isKnownAlgorithm)
+SAppOptions readOptions(const QSettings& settings, const KnownAlgorithm& isKnownAlgorithm)
 {
     SAppOptions options = readStoredOptions(settings);
-    options.localeId = readLocaleId(settings, isKnownLocale);
+    options.localeId = readLocaleId(settings);
     options.setDefaultAlgorithm(
         readDefaultAlgorithm(settings, isKnownAlgorithm).value_or(DefaultAlgSelection));
-    if (options.logLevel > MaxLogLevel)
+    if (tessaly::logger::findLevel(options.logLevel) == nullptr)
         options.logLevel = keys::LogLevel.fallback;
     return options;
 }
 
-std::uint32_t readLocaleId(const QSettings& settings, const KnownId& isKnownLocale)
+std::uint32_t readLocaleId(const QSettings& settings)
 {
     const std::uint32_t id = readSetting(settings, keys::LocaleId);
-    return isKnownLocale(id) ? id : keys::LocaleId.fallback;
+    return tessaly::i18n::findLocale(id) != nullptr ? id : keys::LocaleId.fallback;
 }
 
-std::optional<AlgSelection> readDefaultAlgorithm(const QSettings& settings, const KnownId& isKnownAlgorithm)
+std::optional<AlgSelection> readDefaultAlgorithm(const QSettings& settings,
+                                                 const KnownAlgorithm& isKnownAlgorithm)
 {
     if (!storedSetting(settings, keys::UseDefaultAlgorithmAtStarting).value_or(false))
         return std::nullopt;

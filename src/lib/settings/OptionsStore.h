@@ -17,23 +17,23 @@ class QSettings;
 /// Reading and writing of the settings as a whole. Nothing is cached: each call goes to the store.
 namespace thisapp {
 
-/// Tells whether an id is one that the program knows.
-using KnownId = std::function<bool(std::uint32_t)>;
+/// Tells whether an algorithm id is in the catalogue.
+using KnownAlgorithm = std::function<bool(std::uint32_t)>;
 
 /// Everything as stored. Values of another type read as their defaults; the ids are not looked at.
 SAppOptions readStoredOptions(const QSettings& settings);
 
 /// Everything for the options dialog: an unknown locale reads as the default one, a log level out of
 /// range as 0, and without a usable default algorithm the built-in one is given.
-SAppOptions readOptions(const QSettings& settings, const KnownId& isKnownLocale,
-                        const KnownId& isKnownAlgorithm);
+SAppOptions readOptions(const QSettings& settings, const KnownAlgorithm& isKnownAlgorithm);
 
-/// The default locale id unless the stored one is known.
-std::uint32_t readLocaleId(const QSettings& settings, const KnownId& isKnownLocale);
+/// The default locale id unless the stored one is in the locale catalogue.
+std::uint32_t readLocaleId(const QSettings& settings);
 
 /// Nothing when the default algorithm is switched off or the stored pair is no algorithm; callers
 /// then use DefaultAlgSelection.
-std::optional<AlgSelection> readDefaultAlgorithm(const QSettings& settings, const KnownId& isKnownAlgorithm);
+std::optional<AlgSelection> readDefaultAlgorithm(const QSettings& settings,
+                                                 const KnownAlgorithm& isKnownAlgorithm);
 
 /// What writeOptions stores, in its order.
 std::vector<std::pair<QLatin1String, QVariant>> writtenValues(const SAppOptions& options);

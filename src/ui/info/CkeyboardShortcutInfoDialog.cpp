@@ -1,0 +1,31 @@
+#include "ui/info/CkeyboardShortcutInfoDialog.h"
+
+#include "ui/shortcuts/Shortcuts.h"
+#include "ui/style/TextSize.h"
+#include "ui_CkeyboardShortcutInfoDialog.h"
+
+#include <QCoreApplication>
+
+CkeyboardShortcutInfoDialog::CkeyboardShortcutInfoDialog(QWidget* parent)
+    : QDialog(parent), m_ui(new Ui::CkeyboardShortcutInfoDialog)
+{
+    m_ui->setupUi(this);
+    resize(thisapp::textSize(*this, 72, 18));
+}
+
+CkeyboardShortcutInfoDialog::~CkeyboardShortcutInfoDialog() = default;
+
+void CkeyboardShortcutInfoDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    QString html = "<html><body>";
+    html += tr("This is a list of keyboard shortcuts in %1.")
+                .arg(QCoreApplication::applicationName().toHtmlEscaped());
+    html += "<br/><br/>";
+    for (const thisapp::Shortcut& shortcut : thisapp::shortcuts()) {
+        html += QLatin1String("<b>") + shortcut.keyText + "</b> - ";
+        html += shortcut.translatedDescription().toHtmlEscaped() + "<br/>";
+    }
+    html += "</body></html>";
+    m_ui->text->setHtml(html);
+}

@@ -1,0 +1,167 @@
+#include "ui/options/CGeneralOptionsFrame.h"
+
+#include "lib/settings/SAppOptions.h"
+#include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/shortcuts/Shortcuts.h"
+#include "ui/style/WheelGuard.h"
+#include "ui_CGeneralOptionsFrame.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QStandardItemModel>
+
+#include <algorithm>
+
+using thisapp::SAppOptions;
+
+/// A check box and the option that it stands for.
+struct CGeneralOptionsFrame::Box
+{
+    QCheckBox* widget;
+    bool SAppOptions::*option;
+};
+
+CGeneralOptionsFrame::CGeneralOptionsFrame(QWidget* parent)
+    : QFrame(parent), m_ui(new Ui::CGeneralOptionsFrame)
+{
+    m_ui->setupUi(this);
+    thisapp::guardFromWheel(*m_ui->comboLanguage);
+    thisapp::guardFromWheel(*m_ui->comboAlgorithm);
+    indentDependents();
+    fillShortcuts();
+
+    for (QWidget* widget :
+         {static_cast<QWidget*>(m_ui->labelOutputDir), static_cast<QWidget*>(m_ui->editOutputDir),
+          static_cast<QWidget*>(m_ui->buttonBrowse)}) {
+        widget->setEnabled(m_ui->checkUseOutputDir->isChecked());
+        connect(m_ui->checkUseOutputDir, &QCheckBox::toggled, widget, &QWidget::setEnabled);
+    }
+    connect(m_ui->buttonBrowse, &QPushButton::clicked, this, &CGeneralOptionsFrame::browseClicked);
+    connect(m_ui->comboLanguage, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &CGeneralOptionsFrame::languageChanged);
+    connect(m_ui->checkDeleteSource, &QCheckBox::stateChanged, this,
+            &CGeneralOptionsFrame::deleteSourceChanged);
+    connect(m_ui->comboAlgorithm, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &CGeneralOptionsFrame::changed);
+    connect(m_ui->editOutputDir, &QLineEdit::textChanged, this, &CGeneralOptionsFrame::changed);
+    for (const Box& box : boxes())
+        connect(box.widget, &QCheckBox::toggled, this, &CGeneralOptionsFrame::changed);
+}
+
+CGeneralOptionsFrame::~CGeneralOptionsFrame() = default;
+
+std::vector<CGeneralOptionsFrame::Box> CGeneralOptionsFrame::boxes() const
+{
+    return {{m_ui->checkContextMenu, &SAppOptions::integrateToShellContextMenu},
+            {m_ui->checkSendTo, &SAppOptions::addToSendMenu},
+            {m_ui->checkUseDefaultAlgorithm, &SAppOptions::useDefaultAlgorithmAtStarting},
+            {m_ui->checkShowPassword, &SAppOptions::showPassword},
+            {m_ui->checkConfirmPassword, &SAppOptions::useConfirmPassword},
+            {m_ui->checkAdvancedMode, &SAppOptions::showAdvancedPasswordOptions},
+            {m_ui->checkSalt, &SAppOptions::useSalt},
+            {m_ui->checkShowConfirm, &SAppOptions::showConfirmDialog},
+            {m_ui->checkRewrite, &SAppOptions::rewriteOutputFile},
+            {m_ui->checkAutogenerate, &SAppOptions::useOutputFileAutogenerator},
+            {m_ui->checkUseOutputDir, &SAppOptions::useDefaultOutputDir},
+            {m_ui->checkDeleteSource, &SAppOptions::deleteSourceFileAfterEncryption},
+            {m_ui->checkConfirmDelete, &SAppOptions::confirmDeleteSourceFileAfterEncryption}};
+}
+
+void CGeneralOptionsFrame::setLanguages(const std::vector<tessaly::i18n::Language>& languages)
+{
+    m_ui->comboLanguage->clear();
+    for (const tessaly::i18n::Language& language : languages)
+        m_ui->comboLanguage->addItem(QString::fromStdString(language.displayName), language.lcid);
+}
+
+void CGeneralOptionsFrame::setAlgProvider(const thisapp::ICryptoAlgProvider& provider)
+{
+    m_algorithms.clear();
+    m_ui->comboAlgorithm->clear();
+    auto* model = qobject_cast<QStandardItemModel*>(m_ui->comboAlgorithm->model());
+    for (int index = 0; index < provider.count(); ++index) {
+        thisapp::AlgSelection selection;
+        bool enabled = false;
+        if (!provider.entry(index, selection, enabled))
+            continue;
+        auto* item = new QStandardItem(provider.displayName(selection));
+        if (!enabled)
+            item->setFlags(item->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
+        m_algorithms.push_back(selection);
+        model->appendRow(item);
+    }
+}
+
+void CGeneralOptionsFrame::setOptions(const SAppOptions& options)
+{
+    for (const Box& box : boxes())
+        box.widget->setChecked(options.*box.option);
+    setConfirmDeleteEnabled(options.deleteSourceFileAfterEncryption);
+    m_ui->comboLanguage->setCurrentIndex(m_ui->comboLanguage->findData(options.localeId));
+    const auto found = std::find(m_algorithms.begin(), m_algorithms.end(), options.defaultAlgorithm());
+    m_ui->comboAlgorithm->setCurrentIndex(
+        found != m_algorithms.end() ? static_cast<int>(found - m_algorithms.begin()) : -1);
+    setOutputDir(options.outputDirPath);
+}
+
+void CGeneralOptionsFrame::store(SAppOptions& options) const
+{
+    for (const Box& box : boxes())
+        options.*box.option = box.widget->isChecked();
+    if (m_ui->comboLanguage->currentIndex() >= 0)
+        options.localeId = m_ui->comboLanguage->currentData().toUInt();
+    const int algorithm = m_ui->comboAlgorithm->currentIndex();
+    options.setDefaultAlgorithm(algorithm >= 0 ? m_algorithms.at(static_cast<std::size_t>(algorithm))
+                                               : thisapp::AlgSelection{});
+    options.outputDirPath = QDir::toNativeSeparators(outputDir().trimmed());
+}
+
+QString CGeneralOptionsFrame::outputDir() const
+{
+    return m_ui->editOutputDir->text();
+}
+
+void CGeneralOptionsFrame::setOutputDir(const QString& path)
+{
+    m_ui->editOutputDir->setText(path);
+}
+
+void CGeneralOptionsFrame::setConfirmDeleteEnabled(bool enabled)
+{
+    m_ui->checkConfirmDelete->setEnabled(enabled);
+}
+
+void CGeneralOptionsFrame::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        fillShortcuts();
+    }
+}
+
+/// What depends on a check box starts below the box's text.
+void CGeneralOptionsFrame::indentDependents()
+{
+    const int indent = style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                       style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
+    for (QLayout* dependents : {m_ui->folderLayout, m_ui->confirmDeleteLayout})
+        dependents->setContentsMargins(indent, 0, 0, 0);
+}
+
+void CGeneralOptionsFrame::fillShortcuts()
+{
+    QTableWidget& table = *m_ui->tableShortcuts;
+    table.setHorizontalHeaderLabels({tr("Shortcut key"), tr("Description")});
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    const auto shortcuts = thisapp::shortcuts();
+    table.setRowCount(static_cast<int>(shortcuts.size()));
+    int row = 0;
+    for (const thisapp::Shortcut& shortcut : shortcuts) {
+        table.setItem(row, 0, new QTableWidgetItem(shortcut.keyText));
+        table.setItem(row, 1, new QTableWidgetItem(shortcut.translatedDescription()));
+        ++row;
+    }
+    table.resizeColumnsToContents();
+    table.resizeRowsToContents();
+}

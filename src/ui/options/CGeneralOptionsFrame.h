@@ -1,0 +1,61 @@
+#pragma once
+
+#include "lib/i18n/Language.h"
+#include "lib/settings/AlgSelection.h"
+
+#include <QFrame>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class QCheckBox;
+
+namespace thisapp {
+class ICryptoAlgProvider;
+struct SAppOptions;
+} // namespace thisapp
+namespace Ui {
+class CGeneralOptionsFrame;
+}
+
+/// The "General settings" tab of the options dialog.
+class CGeneralOptionsFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit CGeneralOptionsFrame(QWidget* parent = nullptr);
+    ~CGeneralOptionsFrame() override;
+
+    void setLanguages(const std::vector<tessaly::i18n::Language>& languages);
+    /// Refills the algorithms; what the provider doesn't accept can't be chosen.
+    void setAlgProvider(const thisapp::ICryptoAlgProvider& provider);
+
+    void setOptions(const thisapp::SAppOptions& options);
+    /// Sets the values of this tab, and nothing else. A language that isn't offered stays as it was.
+    void store(thisapp::SAppOptions& options) const;
+
+    /// The default output folder, as typed.
+    QString outputDir() const;
+    void setOutputDir(const QString& path);
+    void setConfirmDeleteEnabled(bool enabled);
+
+signals:
+    void browseClicked();
+    void languageChanged(int index);
+    void deleteSourceChanged(int state);
+    void changed();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    struct Box;
+    std::vector<Box> boxes() const;
+    void indentDependents();
+    void fillShortcuts();
+
+    std::unique_ptr<Ui::CGeneralOptionsFrame> m_ui;
+    std::vector<thisapp::AlgSelection> m_algorithms; ///< by row of the combo box
+};

@@ -1,0 +1,224 @@
+#include "ui/options/COptionsDialog.h"
+
+#include "lib/naming/OutputNaming.h"
+#include "lib/settings/IAppOptionsChanged.h"
+#include "ui/info/CTextViewDialog.h"
+#include "ui/info/TextTail.h"
+#include "ui/style/MessageStyle.h"
+#include "ui/style/ReadOnlyField.h"
+#include "ui/style/TextSize.h"
+#include "ui_COptionsDialog.h"
+
+#include <QCloseEvent>
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
+#include <QShowEvent>
+
+using thisapp::NamingDirection;
+using thisapp::NamingSettings;
+
+namespace {
+
+const QString SampleInput = QStringLiteral("MyFile.txt");
+
+} // namespace
+
+COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::COptionsDialog)
+{
+    m_ui->setupUi(this);
+    setTitles();
+    for (QScrollArea* area : {m_ui->scrollGeneral, m_ui->scrollNames, m_ui->scrollAdvanced}) {
+        // The tab's own background shall show through.
+        area->viewport()->setAutoFillBackground(false);
+        area->widget()->setAutoFillBackground(false);
+    }
+    thisapp::showAsReadOnly(*m_ui->lineEditMsg);
+
+    connect(m_ui->frameGeneral, &CGeneralOptionsFrame::browseClicked, this,
+            &COptionsDialog::onUiOpenDefaultOutputDir);
+    connect(m_ui->frameGeneral, &CGeneralOptionsFrame::languageChanged, this,
+            &COptionsDialog::onUiLanguageChanged);
+    connect(m_ui->frameGeneral, &CGeneralOptionsFrame::deleteSourceChanged, this,
+            &COptionsDialog::onUiDeleteSourceFileAfterEncryptionChanged);
+    connect(m_ui->frameGeneral, &CGeneralOptionsFrame::changed, this, &COptionsDialog::updateSamples);
+    connect(m_ui->frameAdvanced, &CAdvancedOptionsFrame::changed, this, &COptionsDialog::updateSamples);
+    connect(m_ui->frameAdvanced, &CAdvancedOptionsFrame::viewLogFileClicked, this,
+            &COptionsDialog::onUiViewLogFileClicked);
+    connectNaming();
+    resize(thisapp::textSize(*this, 90, 38));
+}
+
+COptionsDialog::~COptionsDialog() = default;
+
+void COptionsDialog::connectNaming()
+{
+    using Frame = CNamingOptionsFrame;
+    using Dialog = COptionsDialog;
+    const auto* enc = m_ui->frameEncryption;
+    connect(enc, &Frame::addExtChanged, this, &Dialog::onUiEncFileNameAddExtChanged);
+    connect(enc, &Frame::addSuffixChanged, this, &Dialog::onUiEncFileNameAddSuffixChanged);
+    connect(enc, &Frame::addPrefixChanged, this, &Dialog::onUiEncFileNameAddPrefixChanged);
+    connect(enc, &Frame::addDateChanged, this, &Dialog::onUiEncFileNameAddDateChanged);
+    connect(enc, &Frame::extChanged, this, &Dialog::onUiEncFileNameExtChanged);
+    connect(enc, &Frame::suffixChanged, this, &Dialog::onUiEncFileNameSuffixChanged);
+    connect(enc, &Frame::prefixChanged, this, &Dialog::onUiEncFileNamePrefixChanged);
+    const auto* dec = m_ui->frameDecryption;
+    connect(dec, &Frame::addExtChanged, this, &Dialog::onUiDecFileNameAddExtChanged);
+    connect(dec, &Frame::addSuffixChanged, this, &Dialog::onUiDecFileNameAddSuffixChanged);
+    connect(dec, &Frame::addPrefixChanged, this, &Dialog::onUiDecFileNameAddPrefixChanged);
+    connect(dec, &Frame::addDateChanged, this, &Dialog::onUiDecFileNameAddDateChanged);
+    connect(dec, &Frame::extChanged, this, &Dialog::onUiDecFileNameExtChanged);
+    connect(dec, &Frame::suffixChanged, this, &Dialog::onUiDecFileNameSuffixChanged);
+    connect(dec, &Frame::prefixChanged, this, &Dialog::onUiDecFileNamePrefixChanged);
+}
+
+void COptionsDialog::setLanguages(const std::vector<tessaly::i18n::Language>& languages)
+{
+    m_ui->frameGeneral->setLanguages(languages);
+}
+
+void COptionsDialog::setAlgProvider(const thisapp::ICryptoAlgProvider& provider)
+{
+    m_ui->frameGeneral->setAlgProvider(provider);
+}
+
+void COptionsDialog::setLogFilePath(const QString& path)
+{
+    m_ui->frameAdvanced->setLogFilePath(QDir::toNativeSeparators(path));
+}
+
+void COptionsDialog::onUiOk()
+{
+    m_options = shownOptions();
+    accept();
+}
+
+void COptionsDialog::onUiApply()
+{
+    m_options = shownOptions();
+    if (m_receiver != nullptr)
+        m_receiver->appOptionsChanged(m_options);
+    thisapp::showMessage(*m_ui->lineEditMsg, tr("The options were applied."), thisapp::MessageKind::Success);
+}
+
+void COptionsDialog::onUiCancel()
+{
+    reject();
+}
+
+void COptionsDialog::onUiOpenDefaultOutputDir()
+{
+    CGeneralOptionsFrame& general = *m_ui->frameGeneral;
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, tr("Default output directory"), general.outputDir().trimmed(),
+                                          QFileDialog::ShowDirsOnly)
+            .trimmed();
+    if (!chosen.isEmpty())
+        general.setOutputDir(QDir::toNativeSeparators(chosen));
+}
+
+void COptionsDialog::onUiLanguageChanged(int)
+{
+    if (shownOptions().localeId != m_options.localeId)
+        thisapp::showMessage(*m_ui->lineEditMsg, tr("The language changes with OK or Apply."),
+                             thisapp::MessageKind::Plain);
+}
+
+void COptionsDialog::onUiViewLogFileClicked(const QString& path)
+{
+    if (const thisapp::TextTail log = thisapp::readTextTail(path); !log.ok) {
+        thisapp::showMessage(*m_ui->lineEditMsg, tr("The log file can't be read: %1").arg(log.text),
+                             thisapp::MessageKind::Warning);
+        return;
+    }
+    CTextViewDialog viewer(this);
+    viewer.setWindowTitle(tr("Log file"));
+    viewer.setSource([path] { return thisapp::readTextTail(path).text; });
+    viewer.exec();
+}
+
+void COptionsDialog::onUiDeleteSourceFileAfterEncryptionChanged(int state)
+{
+    m_ui->frameGeneral->setConfirmDeleteEnabled(state == Qt::Checked);
+}
+
+void COptionsDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    const NamingSettings naming(m_options);
+    m_ui->frameGeneral->setOptions(m_options);
+    m_ui->frameEncryption->setParts(naming.encryption);
+    m_ui->frameDecryption->setParts(naming.decryption);
+    m_ui->frameAdvanced->setOptions(m_options);
+    updateSamples();
+}
+
+void COptionsDialog::closeEvent(QCloseEvent* event)
+{
+    onUiCancel();
+    event->accept();
+}
+
+void COptionsDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        setTitles();
+    }
+}
+
+void COptionsDialog::setTitles()
+{
+    m_ui->frameEncryption->setTitle(tr("Name of &encrypted file"));
+    m_ui->frameDecryption->setTitle(tr("Name of &decrypted file"));
+}
+
+thisapp::SAppOptions COptionsDialog::shownOptions() const
+{
+    thisapp::SAppOptions options = m_options;
+    m_ui->frameGeneral->store(options);
+    NamingSettings naming(options);
+    naming.encryption = m_ui->frameEncryption->parts();
+    naming.decryption = m_ui->frameDecryption->parts();
+    naming.store(options);
+    m_ui->frameAdvanced->store(options);
+    return options;
+}
+
+void COptionsDialog::updateSamples()
+{
+    const NamingSettings naming(shownOptions());
+    const auto sample = [&](NamingDirection direction) {
+        return thisapp::outputFileName(SampleInput, direction, naming, QDate::currentDate());
+    };
+    m_ui->frameEncryption->setSample(sample(NamingDirection::Encryption));
+    m_ui->frameDecryption->setSample(sample(NamingDirection::Decryption));
+    thisapp::showMessage(*m_ui->lineEditMsg, namingWarning(naming), thisapp::MessageKind::Warning);
+}
+
+QString COptionsDialog::namingWarning(const NamingSettings& naming) const
+{
+    if (!naming.autogenerate)
+        return {};
+    if (naming.useDefaultOutputDir)
+        return naming.outputDirPath.isEmpty()
+                   ? tr("No default output folder is given: output files go beside their input files.")
+                   : QString();
+    const auto nextName = [&](const QString& name) {
+        return thisapp::outputFileName(name, thisapp::namingDirection(name, naming), naming,
+                                       QDate::currentDate());
+    };
+    const auto sameName = [](const QString& a, const QString& b) {
+        return a.compare(b, Qt::CaseInsensitive) == 0;
+    };
+    const QString encrypted = nextName(SampleInput);
+    if (sameName(encrypted, SampleInput))
+        return tr("Encrypted files would get the names of their input files.");
+    if (sameName(nextName(encrypted), encrypted))
+        return tr("Decrypted files would get the names of their input files.");
+    return {};
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "lib/i18n/Language.h"
+#include "lib/settings/SAppOptions.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <vector>
+
+namespace thisapp {
+class IAppOptionsChanged;
+class ICryptoAlgProvider;
+struct NamingSettings;
+} // namespace thisapp
+namespace Ui {
+class COptionsDialog;
+}
+
+/// Edits every setting. It never touches the settings store: the caller sets the values, runs the
+/// dialog, and after acceptance takes the values and makes them take effect. "Apply" does that at
+/// once through the receiver and leaves the dialog open.
+class COptionsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit COptionsDialog(QWidget* parent = nullptr);
+    ~COptionsDialog() override;
+
+    void setLanguages(const std::vector<tessaly::i18n::Language>& languages);
+    /// Offers the provider's algorithms as the default one; it is read at once and not kept.
+    void setAlgProvider(const thisapp::ICryptoAlgProvider& provider);
+    void setLogFilePath(const QString& path);
+    /// Gets what "Apply" takes over; may be null. It must outlive the dialog.
+    void setReceiver(thisapp::IAppOptionsChanged* receiver) { m_receiver = receiver; }
+
+    /// What the dialog shows when it opens.
+    void setOptions(const thisapp::SAppOptions& options) { m_options = options; }
+    /// What OK or Apply took over last; what was set as long as neither did.
+    const thisapp::SAppOptions& options() const { return m_options; }
+
+public slots:
+    void onUiOk();
+    void onUiApply();
+    void onUiCancel();
+    void onUiOpenDefaultOutputDir();
+    void onUiLanguageChanged(int index);
+    void onUiViewLogFileClicked(const QString& path);
+    void onUiDeleteSourceFileAfterEncryptionChanged(int state);
+
+    void onUiEncFileNameAddExtChanged(int) { updateSamples(); }
+    void onUiEncFileNameAddSuffixChanged(int) { updateSamples(); }
+    void onUiEncFileNameAddPrefixChanged(int) { updateSamples(); }
+    void onUiEncFileNameAddDateChanged(int) { updateSamples(); }
+    void onUiEncFileNameExtChanged(const QString&) { updateSamples(); }
+    void onUiEncFileNameSuffixChanged(const QString&) { updateSamples(); }
+    void onUiEncFileNamePrefixChanged(const QString&) { updateSamples(); }
+    void onUiDecFileNameAddExtChanged(int) { updateSamples(); }
+    void onUiDecFileNameAddSuffixChanged(int) { updateSamples(); }
+    void onUiDecFileNameAddPrefixChanged(int) { updateSamples(); }
+    void onUiDecFileNameAddDateChanged(int) { updateSamples(); }
+    void onUiDecFileNameExtChanged(const QString&) { updateSamples(); }
+    void onUiDecFileNameSuffixChanged(const QString&) { updateSamples(); }
+    void onUiDecFileNamePrefixChanged(const QString&) { updateSamples(); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void connectNaming();
+    void setTitles();
+    thisapp::SAppOptions shownOptions() const;
+    void updateSamples();
+    QString namingWarning(const thisapp::NamingSettings& naming) const;
+
+    std::unique_ptr<Ui::COptionsDialog> m_ui;
+    thisapp::IAppOptionsChanged* m_receiver = nullptr;
+    thisapp::SAppOptions m_options;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/algorithms/ICryptoAlgProvider.h"
+
+/// Three algorithms, the second of them disabled, and one index that yields nothing.
+class FakeAlgProvider final : public thisapp::ICryptoAlgProvider
+{
+public:
+    int count() const override { return 4; }
+    bool entry(int index, thisapp::AlgSelection& selection, bool& enabled) const override
+    {
+        if (index == 2)
+            return false;
+        selection = {1, index == 0 ? 252U : static_cast<std::uint32_t>(index)};
+        enabled = index != 1;
+        return true;
+    }
+    QString displayName(const thisapp::AlgSelection& selection) const override
+    {
+        return selection.algorithm == 252 ? QString("AES-256") : QString("Alg-%1").arg(selection.algorithm);
+    }
+    bool isValid(const thisapp::AlgSelection& selection) const override
+    {
+        return selection.library == 1 && (selection.algorithm == 252 || selection.algorithm == 3);
+    }
+};

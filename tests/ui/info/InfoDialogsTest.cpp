@@ -1,0 +1,144 @@
+#include "ui/info/CAboutDialog.h"
+#include "ui/info/CTextViewDialog.h"
+#include "ui/info/CkeyboardShortcutInfoDialog.h"
+#include "ui/info/TextTail.h"
+#include "ui/shortcuts/Shortcuts.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+#include <QTranslator>
+
+namespace {
+
+using thisapp::Command;
+
+TEST(Shortcuts, KeysOfTheMainWindow)
+{
+    const struct
+    {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        std::optional<Command> command;
+    } rows[] = {
+        {Qt::Key_F5, Qt::NoModifier, Command::Encrypt},
+        {Qt::Key_F5, Qt::ShiftModifier, Command::Encrypt},
+        {Qt::Key_F5, Qt::AltModifier, std::nullopt},
+        {Qt::Key_F5, Qt::ControlModifier, std::nullopt},
+        {Qt::Key_F6, Qt::NoModifier, Command::Decrypt},
+        {Qt::Key_F6, Qt::ControlModifier, std::nullopt},
+        {Qt::Key_F8, Qt::NoModifier, Command::Stop},
+        {Qt::Key_F8, Qt::ControlModifier, Command::Clear},
+        {Qt::Key_F8, Qt::ControlModifier | Qt::AltModifier, std::nullopt},
+        {Qt::Key_F9, Qt::ControlModifier, Command::OpenInputFolder},
+        {Qt::Key_F9, Qt::NoModifier, std::nullopt},
+        {Qt::Key_F10, Qt::ControlModifier | Qt::ShiftModifier, Command::OpenOutputFolder},
+        {Qt::Key_O, Qt::ControlModifier, Command::AddFile},
+        {Qt::Key_N, Qt::ControlModifier, Command::AddFile},
+        {Qt::Key_N, Qt::NoModifier, std::nullopt},
+        {Qt::Key_F7, Qt::NoModifier, std::nullopt},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(thisapp::commandFor(row.key, row.modifiers), row.command)
+            << row.key << ' ' << row.modifiers;
+    for (const thisapp::Shortcut& shortcut : thisapp::shortcuts())
+        EXPECT_EQ(QString(shortcut.keyText).section('\'', 1, 1), shortcut.sequence().toString());
+}
+
+/// Puts every text into capitals.
+class Capitals final : public QTranslator
+{
+public:
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return QString(source).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+QString shownShortcuts()
+{
+    CkeyboardShortcutInfoDialog dialog;
+    dialog.show();
+    return dialog.findChild<QTextEdit*>()->toPlainText();
+}
+
+TEST(KeyboardShortcutDialog, ListsTheShortcutsInTheCurrentLanguage)
+{
+    EXPECT_EQ(shownShortcuts().toStdString(), "This is a list of keyboard shortcuts in Quillet.\n\n"
+                                              "'F5' - Start encryption\n"
+                                              "'F6' - Start decryption\n"
+                                              "'F8' - Stop encryption/decryption\n"
+                                              "'Ctrl+F8' (Cmd+F8) - Clear entered data\n"
+                                              "'Ctrl+F9' (Cmd+F9) - Open folder with input file\n"
+                                              "'Ctrl+F10' (Cmd+F10) - Open folder with output file\n"
+                                              "'Ctrl+O' (Cmd+O) - Add file to encrypt/decrypt\n"
+                                              "'Ctrl+N' (Cmd+N) - Add file to encrypt/decrypt\n");
+    Capitals translator;
+    QApplication::installTranslator(&translator);
+    QApplication::setApplicationName("A <b> & c");
+    const QString translated = shownShortcuts();
+    QApplication::setApplicationName("Quillet");
+    QApplication::removeTranslator(&translator);
+    EXPECT_TRUE(translated.startsWith("THIS IS A LIST OF KEYBOARD SHORTCUTS IN A <b> & c."))
+        << qPrintable(translated);
+    EXPECT_TRUE(translated.contains("'Ctrl+F8' (Cmd+F8) - CLEAR ENTERED DATA\n"));
+}
+
+TEST(AboutDialog, ShowsTheVersionsAndClosesOnEnter)
+{
+    CAboutDialog dialog;
+    dialog.show();
+    EXPECT_EQ(dialog.windowTitle(), "About Quillet");
+    EXPECT_EQ(dialog.findChild<QLabel*>("labelVersion")->text(), "Version " QUILLET_VERSION);
+    EXPECT_EQ(dialog.findChild<QLabel*>("labelQt")->text(), qVersion());
+    EXPECT_TRUE(dialog.findChild<QLabel*>("labelCryptoPP")->text().startsWith("8."));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(TextViewDialog, RefreshesAndShowsTheEnd)
+{
+    int reads = 0;
+    CTextViewDialog dialog;
+    dialog.setSource([&reads] { return QString("line\n").repeated(500) + QString::number(++reads); });
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    auto* text = dialog.findChild<QPlainTextEdit*>();
+    EXPECT_TRUE(text->toPlainText().endsWith("\n1"));
+    QTest::keyClick(text, Qt::Key_A);
+    QTest::keyClick(&dialog, Qt::Key_F5);
+    EXPECT_TRUE(text->toPlainText().endsWith("\n2"));
+    EXPECT_TRUE(text->textCursor().atEnd());
+    QTest::keyClick(&dialog, Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([text] { return text->toPlainText().endsWith("\n3"); }));
+    QTest::keyClick(text, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(TextTail, KeepsOnlyWholeLinesOfTheEnd)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("log");
+    const auto tail = [&](const QByteArray& content, qint64 maxBytes) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        return thisapp::readTextTail(path, maxBytes).text;
+    };
+    EXPECT_EQ(tail("", 10), "");
+    EXPECT_EQ(tail("one\ntwo\n", 8), "one\ntwo\n");
+    EXPECT_EQ(tail("one\ntwo\n", 7), "two\n");
+    EXPECT_EQ(tail("o\xc3\xbc\nt\xc3\xbc\n", 6), QString::fromUtf8("t\xc3\xbc\n"));
+    EXPECT_EQ(tail("one long line", 4), "line");
+    EXPECT_FALSE(thisapp::readTextTail(folder.filePath("missing")).ok);
+}
+
+} // namespace
