@@ -16,10 +16,9 @@ class Signal::Event
 public:
     void put(bool on)
     {
-        {
-            std::lock_guard guard(m_mutex);
-            m_on = on;
-        }
+        // Notifying under the lock: a waiter that passes may destroy the event as soon as it has the lock.
+        std::lock_guard guard(m_mutex);
+        m_on = on;
         if (on)
             m_condition.notify_all();
     }
