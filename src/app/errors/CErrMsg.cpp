@@ -2,47 +2,22 @@
 
 #include "lib/err/ErrorCodes.h"
 #include "lib/err/ErrorTexts.h"
-#include "lib/platform/SystemMessage.h"
 
 #include <QCoreApplication>
 #include <QString>
 
 namespace thisapp {
 
-namespace {
-
-using namespace tessaly;
-
-constexpr char Context[] = "CErrMsg";
-
-bool lookupOwn(std::uint32_t code, std::string& text)
-{
-    const char* source = err::errorText(code);
-    if (source != nullptr)
-        text = QCoreApplication::translate(Context, source).toStdString();
-    return source != nullptr;
-}
-
-bool lookupSystem(std::uint32_t code, std::string& text)
-{
-    const auto message = platform::systemMessage(code);
-    if (message)
-        text = QString::fromLocal8Bit(message->c_str()).trimmed().toStdString();
-    return message.has_value();
-}
-
-} // namespace
-
 bool CErrMsg::lookup(std::uint32_t category, std::uint32_t code, std::string& text) const
 {
-    switch (category) {
-    case err::CategorySystem:
-        return lookupSystem(code, text);
-    case err::CategoryLibrary:
-        return lookupOwn(code, text);
-    default:
+    using namespace tessaly;
+    if (!err::ErrorTexts().lookup(category, code, text))
         return false;
-    }
+    const QString shown = category == err::CategorySystem
+                              ? QString::fromLocal8Bit(text.c_str()).trimmed()
+                              : QCoreApplication::translate("CErrMsg", text.c_str());
+    text = shown.toStdString();
+    return true;
 }
 
 } // namespace thisapp

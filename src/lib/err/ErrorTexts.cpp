@@ -40,14 +40,15 @@ constexpr CodeText CodeTexts[] = {
     {EngineNotInitialized, QT_TRANSLATE_NOOP("CErrMsg", "Cryptographic engine is not initialized")},
 };
 
-} // namespace
-
-const char* errorText(std::uint32_t code)
+/// Null when the code has no text.
+const char* ownText(std::uint32_t code)
 {
     const auto found = std::ranges::find_if(
         CodeTexts, [code](const CodeText& row) { return row.first <= code && code <= row.last; });
     return found == std::end(CodeTexts) ? nullptr : found->text;
 }
+
+} // namespace
 
 bool ErrorTexts::lookup(std::uint32_t category, std::uint32_t code, std::string& text) const
 {
@@ -56,7 +57,7 @@ bool ErrorTexts::lookup(std::uint32_t category, std::uint32_t code, std::string&
         text = message.value_or(std::string());
         return message.has_value();
     }
-    const char* own = category == CategoryLibrary ? errorText(code) : nullptr;
+    const char* own = category == CategoryLibrary ? ownText(code) : nullptr;
     text = own ? own : "";
     return own != nullptr;
 }

@@ -4,10 +4,8 @@
 
 namespace tessaly::err {
 
-/// The program's own sentence for a category 5 code, in English; null when it has none.
-const char* errorText(std::uint32_t code);
-
-/// The texts as they stand, untranslated: the system's message for category 1, ours for 5.
+/// The texts as they stand: the system's message for category 1, in the locale's language and
+/// encoding, and our English sentences for category 5.
 class ErrorTexts final : public IErrMsg<char>
 {
 public:
