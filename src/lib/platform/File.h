@@ -25,7 +25,7 @@ struct FileStatus
     std::uint64_t inode = 0;
     std::uint64_t hardLinks = 0;
     std::int64_t size = 0;
-    std::int64_t modifiedNs = 0; ///< since the system's epoch
+    std::int64_t modifiedNs = 0; ///< since the system's epoch, modulo 2^64: only to compare for equality
 
     bool sameFile(const FileStatus& other) const
     {
@@ -60,7 +60,7 @@ public:
     File(File&& other) noexcept;
     File& operator=(File&& other) noexcept;
 
-    /// Never blocks, not even on a FIFO.
+    /// Both close the file that was open before. Never blocks, not even on a FIFO.
     ResultCode openForReading(const std::wstring& path);
     ResultCode openForWriting(const std::wstring& path, Creation creation, Access access);
     bool isOpen() const { return m_handle >= 0; }

@@ -40,7 +40,10 @@ FileStatus fromStat(const struct stat& info)
     status.inode = info.st_ino;
     status.hardLinks = info.st_nlink;
     status.size = info.st_size;
-    status.modifiedNs = std::int64_t{info.st_mtim.tv_sec} * 1000000000 + info.st_mtim.tv_nsec;
+    // Unsigned, because files may be dated beyond 2262, where the signed product overflows.
+    status.modifiedNs =
+        static_cast<std::int64_t>(static_cast<std::uint64_t>(info.st_mtim.tv_sec) * 1000000000U +
+                                  static_cast<std::uint64_t>(info.st_mtim.tv_nsec));
     return status;
 }
 
@@ -107,6 +110,7 @@ File& File::operator=(File&& other) noexcept
 
 ResultCode File::openForReading(const std::wstring& path)
 {
+    (void)close();
     if (!isUsable(path))
         return err::system(ENOENT);
     const std::string name = nativePath(path);
@@ -120,6 +124,7 @@ ResultCode File::openForReading(const std::wstring& path)
 
 ResultCode File::openForWriting(const std::wstring& path, Creation creation, Access access)
 {
+    (void)close();
     if (!isUsable(path))
         return err::system(ENOENT);
     const std::string name = nativePath(path);
