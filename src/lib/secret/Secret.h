@@ -40,16 +40,17 @@ using SecretBytes = std::vector<std::uint8_t, WipingAllocator<std::uint8_t>>;
 class SecretText
 {
 public:
-    SecretText() : m_bytes(1, '\0') {}
+    SecretText() = default;
     explicit SecretText(std::string_view text) : m_bytes(text.begin(), text.end())
     {
         m_bytes.push_back('\0');
     }
 
-    const char* c_str() const { return m_bytes.data(); }
-    std::size_t size() const { return m_bytes.size() - 1; }
+    // Without bytes when default-constructed or moved from.
+    const char* c_str() const { return m_bytes.empty() ? "" : m_bytes.data(); }
+    std::size_t size() const { return m_bytes.empty() ? 0 : m_bytes.size() - 1; }
     bool empty() const { return size() == 0; }
-    std::string_view view() const { return {m_bytes.data(), size()}; }
+    std::string_view view() const { return {c_str(), size()}; }
 
 private:
     std::vector<char, WipingAllocator<char>> m_bytes;
