@@ -12,11 +12,13 @@ std::optional<bool> capsLockOn()
     constexpr std::string_view Suffix = "::capslock";
     std::optional<bool> on;
     std::error_code error;
-    for (const auto& light : std::filesystem::directory_iterator("/sys/class/leds", error)) {
-        if (!light.path().native().ends_with(Suffix))
+    // Stepped by hand: a keyboard unplugged meanwhile must not throw.
+    std::filesystem::directory_iterator light("/sys/class/leds", error);
+    for (; light != std::filesystem::directory_iterator(); light.increment(error)) {
+        if (!light->path().native().ends_with(Suffix))
             continue;
         int brightness = 0;
-        if (std::ifstream(light.path() / "brightness") >> brightness)
+        if (std::ifstream(light->path() / "brightness") >> brightness)
             on = on.value_or(false) || brightness > 0;
     }
     return on;
