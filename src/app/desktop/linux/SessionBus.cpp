@@ -18,8 +18,13 @@ namespace thisapp::desktop {
 
 namespace {
 
-const QString ConnectionName = QStringLiteral("quillet-desktop");
 constexpr unsigned FarewellMilliseconds = 500;
+
+/// Not a global: a thread that is left behind may still ask for it while the process ends.
+QString connectionName()
+{
+    return QStringLiteral("quillet-desktop");
+}
 
 /// The bus library would start a bus where there is none.
 bool isBusThere()
@@ -55,7 +60,7 @@ public:
     tessaly::ResultCode run(std::uint32_t, std::uintptr_t) override
     {
         if (isBusThere())
-            QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName);
+            QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
         while (m_wakeUp.wait()) {
             std::ignore = m_wakeUp.reset();
             const bool last = m_finishing;
@@ -63,14 +68,14 @@ public:
             if (last)
                 break;
         }
-        QDBusConnection::disconnectFromBus(ConnectionName);
+        QDBusConnection::disconnectFromBus(connectionName());
         return {};
     }
 
 private:
     void sendPending()
     {
-        const QDBusConnection bus(ConnectionName);
+        const QDBusConnection bus(connectionName());
         std::vector<QDBusMessage> messages;
         m_pending.with([&messages](auto& pending) { messages.swap(pending); });
         if (bus.isConnected())
