@@ -44,6 +44,7 @@ enum Code : std::uint32_t {
     OutputMatchesInput = 206,
     NoRunnable = 300,
     LaunchFailed = 303,
+    RunnableThrew = 304,
     UnknownHash = 700,
     OperationStopped = 1004,
     KeyingFailed = 4000,

@@ -11,6 +11,7 @@ class IRunnable
 public:
     virtual ~IRunnable() = default;
     /// The job, on the worker thread. `value` is the thread's value, `param` what start was given.
+    /// An exception ends the job with (5, 304).
     virtual ResultCode run(std::uint32_t value, std::uintptr_t param) = 0;
 };
 

@@ -8,6 +8,19 @@
 
 namespace tessaly::thread {
 
+namespace {
+
+ResultCode call(IRunnable& runnable, std::uint32_t value, std::uintptr_t param)
+{
+    try {
+        return runnable.run(value, param);
+    } catch (...) {
+        return err::library(err::RunnableThrew);
+    }
+}
+
+} // namespace
+
 void Thread::setRunnable(IRunnable* runnable)
 {
     m_runnable = runnable;
@@ -44,7 +57,7 @@ ResultCode Thread::start()
 void Thread::runJob(std::uintptr_t param)
 {
     if (IRunnable* runnable = m_runnable) {
-        const ResultCode result = runnable->run(m_value, param);
+        const ResultCode result = call(*runnable, m_value, param);
         std::lock_guard guard(m_lock);
         m_result = result;
     }

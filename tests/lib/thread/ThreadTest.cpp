@@ -43,6 +43,24 @@ TEST(Thread, WithoutRunnableOrJob)
     EXPECT_EQ(thread.value(), 1U);
     EXPECT_EQ(thread.reserved(), 0U);
     EXPECT_TRUE(thread.result().ok());
+    thread.setStopFlag(-7);
+    EXPECT_EQ(thread.stopFlag(), -7);
+}
+
+TEST(Thread, RunnableThatThrows)
+{
+    class Thrower final : public tessaly::thread::IRunnable
+    {
+        ResultCode run(std::uint32_t, std::uintptr_t) override { throw 1; }
+    } thrower;
+    Thread thread;
+    thread.setRunnable(&thrower);
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(thread.start().ok());
+        thread.wait();
+        EXPECT_FALSE(thread.isRunning());
+        EXPECT_EQ(thread.result(), err::library(err::RunnableThrew));
+    }
 }
 
 TEST(Thread, OneJobFromStartToResultAndAgain)
@@ -75,13 +93,14 @@ TEST(Thread, StartsAndEndsManyTimes)
 {
     Job job;
     ASSERT_TRUE(job.go.set().ok());
-    Thread thread;
-    thread.setRunnable(&job);
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 1000; ++i) {
+        Thread thread;
+        thread.setRunnable(&job);
         ASSERT_TRUE(thread.start().ok());
         ASSERT_EQ(thread.wait(), WaitStatus::Finished);
-    }
-    EXPECT_EQ(job.runs, 5000);
+        ASSERT_TRUE(thread.start().ok());
+    } // the destructor waits
+    EXPECT_EQ(job.runs, 2000);
 }
 
 TEST(Thread, ConcurrentStartsLaunchOneJob)
@@ -107,25 +126,6 @@ TEST(Thread, ConcurrentStartsLaunchOneJob)
         ASSERT_EQ(started, 1);
         ASSERT_EQ(busy, 1);
     }
-}
-
-TEST(Thread, DestructionWaitsForTheJob)
-{
-    Job job;
-    ASSERT_TRUE(job.go.set().ok());
-    for (int i = 0; i < 1000; ++i) {
-        Thread thread;
-        thread.setRunnable(&job);
-        ASSERT_TRUE(thread.start().ok());
-    }
-    EXPECT_EQ(job.runs, 1000);
-}
-
-TEST(Thread, StopFlagIsOnlyCarried)
-{
-    Thread thread;
-    thread.setStopFlag(-7);
-    EXPECT_EQ(thread.stopFlag(), -7);
 }
 
 } // namespace
