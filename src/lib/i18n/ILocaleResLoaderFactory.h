@@ -8,6 +8,7 @@
 
 namespace tessaly::i18n {
 
+/// Makes loaders of translation resources.
 class ILocaleResLoaderFactory
 {
 public:

@@ -6,6 +6,7 @@
 
 namespace tessaly::i18n {
 
+/// Makes loaders of translation lists.
 class ITranslationListLoaderFactory
 {
 public:
