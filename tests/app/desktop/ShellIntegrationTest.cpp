@@ -2,6 +2,7 @@
 #include "app/desktop/linux/CommandQuoting.h"
 #include "app/desktop/linux/OwnedFile.h"
 #include "support/Environment.h"
+#include "support/Eventually.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +12,6 @@
 #include <filesystem>
 #include <map>
 #include <string>
-#include <thread>
 
 namespace {
 
@@ -84,8 +84,7 @@ TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
         {ServiceMenu, executable},
     };
     auto both = contextMenu;
-    both.insert(sendTo.begin(), sendTo.end());
-
+    both.merge(std::map(sendTo));
     update(false, true);
     EXPECT_EQ(files(), sendTo);
     update(true, true);
@@ -111,9 +110,8 @@ TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
     const std::string script = folder / "data/nautilus/scripts/Encrypt with Quillet";
     const std::string command = "cd '" + folder.path().string() + "' && '" + script + "' '-start x'";
     ASSERT_EQ(std::system(command.c_str()), 0);
-    for (int i = 0; i < 5000 && read("arguments").empty(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    EXPECT_EQ(read("arguments"), "-encrypt|-start|-ifile|" + (folder / "-start x") + "|");
+    const std::string expected = "-encrypt|-start|-ifile|" + (folder / "-start x") + "|";
+    EXPECT_TRUE(test::eventually([&] { return read("arguments") == expected; })) << read("arguments");
 }
 
 TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)

@@ -2,13 +2,12 @@
 #include "lib/logger/Clock.h"
 #include "lib/logger/Log.h"
 #include "support/Environment.h"
+#include "support/Eventually.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace {
@@ -20,8 +19,7 @@ using Lines = std::vector<std::string>;
 Lines logged(const std::string& path, std::size_t count)
 {
     Lines lines;
-    for (int i = 0; i < 20000 && (lines = test::readLines(path)).size() < count; ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    EXPECT_TRUE(test::eventually([&] { return (lines = test::readLines(path)).size() >= count; }));
     for (std::string& line : lines)
         line.erase(33, line.find(" [mainwindow]") - 33);
     return lines;

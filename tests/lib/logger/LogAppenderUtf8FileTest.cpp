@@ -1,11 +1,9 @@
 #include "lib/logger/LogAppenderUtf8File.h"
+#include "support/Eventually.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
-#include <functional>
 #include <map>
 #include <string>
 #include <thread>
@@ -13,20 +11,9 @@
 
 namespace {
 
-using namespace std::chrono_literals;
 using tessaly::logger::LogAppenderUtf8File;
+using test::eventually;
 namespace fs = std::filesystem;
-
-bool eventually(const std::function<bool()>& condition)
-{
-    const auto deadline = std::chrono::steady_clock::now() + 20s;
-    while (!condition())
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        else
-            std::this_thread::sleep_for(1ms);
-    return true;
-}
 
 class LogAppenderUtf8FileTest : public testing::Test
 {
@@ -93,7 +80,7 @@ TEST_F(LogAppenderUtf8FileTest, DropsWhatGoesBeyondTheQueue)
     EXPECT_EQ(test::readLines(path).size(), 10001U);
 }
 
-TEST_F(LogAppenderUtf8FileTest, StartsAfreshPastTheLimit)
+TEST_F(LogAppenderUtf8FileTest, StartsAfreshPastTheLimitOrWithoutItsFile)
 {
     LogAppenderUtf8File appender(1, path);
     appender.setMaxSize(static_cast<std::int64_t>(line("0").size()));
@@ -103,6 +90,9 @@ TEST_F(LogAppenderUtf8FileTest, StartsAfreshPastTheLimit)
     EXPECT_EQ(test::readFile(path), line("0") + line("1")) << "a file of the limit goes on";
     write(appender, "2");
     EXPECT_EQ(test::readFile(path), line("2"));
+    fs::remove(path);
+    write(appender, "3");
+    EXPECT_EQ(test::readFile(path), line("3"));
 }
 
 TEST_F(LogAppenderUtf8FileTest, OneByteDecidesAboutAnOldFile)
@@ -136,16 +126,6 @@ TEST_F(LogAppenderUtf8FileTest, LivesWithoutAFile)
             EXPECT_FALSE(test::readFile(path).starts_with(line("lost") + line("lost too")));
         }
     }
-}
-
-TEST_F(LogAppenderUtf8FileTest, ReturnsToItsPathWhenTheFileIsDeleted)
-{
-    LogAppenderUtf8File appender(1, path);
-    ASSERT_TRUE(appender.start().ok());
-    write(appender, "1");
-    fs::remove(path);
-    write(appender, "2");
-    EXPECT_EQ(test::readFile(path), line("2"));
 }
 
 TEST_F(LogAppenderUtf8FileTest, EveryLineOfFourThreadsAndTwoAppendersIsWhole)

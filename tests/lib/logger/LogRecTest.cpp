@@ -1,7 +1,6 @@
 #include "lib/err/ErrorCodes.h"
 #include "lib/logger/Clock.h"
 #include "lib/logger/Log.h"
-#include "lib/platform/Path.h"
 #include "lib/platform/Process.h"
 
 #include <gtest/gtest.h>
@@ -122,18 +121,6 @@ TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)
     appenders.remove(2);
     log(Fatal, "test") << 3;
     EXPECT_EQ(notes, (Messages{"a:1:1", "b:1:1", "b:1:2", "a:1:3"}));
-}
-
-TEST(Level, WideTableHasTheSameRows)
-{
-    for (const auto& row : levels<char>) {
-        const auto* wide = findLevel<wchar_t>(row.level);
-        ASSERT_NE(wide, nullptr);
-        EXPECT_EQ(tessaly::platform::nativePath(wide->tag.view()), row.tag.view());
-        EXPECT_EQ(tessaly::platform::nativePath(wide->name.view()), row.name.view());
-        EXPECT_EQ(row.tag.view().size(), 5U);
-    }
-    EXPECT_EQ(findLevel(7), nullptr);
 }
 
 } // namespace
