@@ -1,0 +1,90 @@
+#include "crypto/AlgInfo.h"
+#include "crypto/Catalogue.h"
+#include "ui/Widgets.h"
+#include "ui/algorithms/AlgInfoReport.h"
+#include "ui/algorithms/CAlgInfoDialog.h"
+#include "ui/algorithms/CCryptoAlgProvider.h"
+
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+namespace {
+
+struct ReportCase
+{
+    std::uint32_t id;
+    QStringList lines; ///< below the separator and the name
+};
+
+class AlgInfoReport : public testing::TestWithParam<ReportCase>
+{
+};
+
+TEST_P(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
+{
+    const QString report =
+        thisapp::algInfoReport(QStringLiteral("Name"), tessaly::crypto::AlgInfo().record(GetParam().id));
+    ASSERT_TRUE(report.endsWith("\r\n"));
+    QStringList expected{QString(51, '/'), "Algorithm name: Name"};
+    expected += GetParam().lines;
+    expected += QString();
+    EXPECT_EQ(report.split("\r\n"), expected) << report;
+}
+
+const QString HashLine = "Hash function to calculate a key via password: ";
+const QString TruncatedFrom =
+    "The length of the hash is not equal to the length of key. Therefore, the hash will "
+    "be truncated from ";
+
+INSTANTIATE_TEST_SUITE_P(
+    Algorithms, AlgInfoReport,
+    testing::Values(ReportCase{250,
+                               {"Key size: 16", "IV size: 16", "Mandatory block size: 16", "Cipher mode: CBC",
+                                HashLine + "SHA3-224", TruncatedFrom + "28 to 16 bytes."}},
+                    ReportCase{50,
+                               {"Key size: 32", "IV size: 32", "Stream cipher", "Endianness: Little-endian",
+                                HashLine + "SHA3-256"}},
+                    ReportCase{150,
+                               {"Key size: 16", "IV size: 8", "Stream cipher", HashLine + "SHA3-224",
+                                TruncatedFrom + "28 to 16 bytes."}},
+                    ReportCase{354,
+                               {"Key size: 56", "IV size: 16", "Mandatory block size: 16", "Cipher mode: CBC",
+                                HashLine + "SHA3-512", TruncatedFrom + "64 to 56 bytes."}},
+                    ReportCase{1012,
+                               {"Key size: 128", "IV size: 128", "Mandatory block size: 128",
+                                "Cipher mode: CBC", HashLine + "SHA3-512"}},
+                    ReportCase{253, {"The parameters are not defined", HashLine + "Unknown"}}));
+
+TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
+{
+    const thisapp::CCryptoAlgProvider provider;
+    CAlgInfoDialog dialog;
+    dialog.setProvider(provider);
+    open(dialog);
+    auto& list = child<QListWidget>(dialog, "listWidgetAlg");
+    auto& pane = child<QPlainTextEdit>(dialog, "plainTextEditInfo");
+    const auto click = [&list](int row, Qt::KeyboardModifiers modifiers) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
+                          list.visualItemRect(list.item(row)).center());
+    };
+    EXPECT_EQ(pane.toPlainText(), QString());
+    click(4, Qt::NoModifier);
+    click(0, Qt::ControlModifier);
+    click(2, Qt::ControlModifier);
+    EXPECT_EQ(pane.toPlainText(), QString()) << "printed before the delay";
+
+    ASSERT_TRUE(QTest::qWaitFor([&pane] { return !pane.toPlainText().isEmpty(); }));
+    QStringList names;
+    for (const QString& line : pane.toPlainText().split('\n'))
+        if (line.startsWith("Algorithm name: ") || line.startsWith("//"))
+            names += line;
+    const QString separator(51, '/');
+    EXPECT_EQ(names,
+              (QStringList{separator, "Algorithm name: Panama", separator, "Algorithm name: Sosemanuk-192",
+                           separator, "Algorithm name: Salsa20-128"}));
+
+    list.clearSelection();
+    EXPECT_TRUE(QTest::qWaitFor([&pane] { return pane.toPlainText().isEmpty(); }));
+}
+
+} // namespace
