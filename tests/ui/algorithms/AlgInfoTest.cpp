@@ -1,5 +1,4 @@
 #include "crypto/AlgInfo.h"
-#include "crypto/Catalogue.h"
 #include "ui/Widgets.h"
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/CAlgInfoDialog.h"
@@ -10,50 +9,32 @@
 
 namespace {
 
-struct ReportCase
+TEST(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
 {
-    std::uint32_t id;
-    QStringList lines; ///< below the separator and the name
-};
-
-class AlgInfoReport : public testing::TestWithParam<ReportCase>
-{
-};
-
-TEST_P(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
-{
-    const QString report =
-        thisapp::algInfoReport(QStringLiteral("Name"), tessaly::crypto::AlgInfo().record(GetParam().id));
-    ASSERT_TRUE(report.endsWith("\r\n"));
-    QStringList expected{QString(51, '/'), "Algorithm name: Name"};
-    expected += GetParam().lines;
-    expected += QString();
-    EXPECT_EQ(report.split("\r\n"), expected) << report;
+    const QString hash = "Hash function to calculate a key via password: ";
+    const QString truncated =
+        "The length of the hash is not equal to the length of key. Therefore, the hash will "
+        "be truncated from ";
+    const std::pair<std::uint32_t, QStringList> cases[] = {
+        {250,
+         {"Key size: 16", "IV size: 16", "Mandatory block size: 16", "Cipher mode: CBC", hash + "SHA3-224",
+          truncated + "28 to 16 bytes."}},
+        {50,
+         {"Key size: 32", "IV size: 32", "Stream cipher", "Endianness: Little-endian", hash + "SHA3-256"}},
+        {354,
+         {"Key size: 56", "IV size: 16", "Mandatory block size: 16", "Cipher mode: CBC", hash + "SHA3-512",
+          truncated + "64 to 56 bytes."}},
+        {1012,
+         {"Key size: 128", "IV size: 128", "Mandatory block size: 128", "Cipher mode: CBC",
+          hash + "SHA3-512"}},
+        {253, {"The parameters are not defined", hash + "Unknown"}},
+    };
+    for (const auto& [id, lines] : cases) {
+        const QString report = thisapp::algInfoReport("Name", tessaly::crypto::AlgInfo().record(id));
+        EXPECT_EQ(report,
+                  (QStringList{QString(51, '/'), "Algorithm name: Name"} + lines).join("\r\n") + "\r\n");
+    }
 }
-
-const QString HashLine = "Hash function to calculate a key via password: ";
-const QString TruncatedFrom =
-    "The length of the hash is not equal to the length of key. Therefore, the hash will "
-    "be truncated from ";
-
-INSTANTIATE_TEST_SUITE_P(
-    Algorithms, AlgInfoReport,
-    testing::Values(ReportCase{250,
-                               {"Key size: 16", "IV size: 16", "Mandatory block size: 16", "Cipher mode: CBC",
-                                HashLine + "SHA3-224", TruncatedFrom + "28 to 16 bytes."}},
-                    ReportCase{50,
-                               {"Key size: 32", "IV size: 32", "Stream cipher", "Endianness: Little-endian",
-                                HashLine + "SHA3-256"}},
-                    ReportCase{150,
-                               {"Key size: 16", "IV size: 8", "Stream cipher", HashLine + "SHA3-224",
-                                TruncatedFrom + "28 to 16 bytes."}},
-                    ReportCase{354,
-                               {"Key size: 56", "IV size: 16", "Mandatory block size: 16", "Cipher mode: CBC",
-                                HashLine + "SHA3-512", TruncatedFrom + "64 to 56 bytes."}},
-                    ReportCase{1012,
-                               {"Key size: 128", "IV size: 128", "Mandatory block size: 128",
-                                "Cipher mode: CBC", HashLine + "SHA3-512"}},
-                    ReportCase{253, {"The parameters are not defined", HashLine + "Unknown"}}));
 
 TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
 {

@@ -110,35 +110,22 @@ TEST(SelectAlgFrame, RefusesWhatTheProviderDoesNotAccept)
     EXPECT_EQ(frame.selection(), thisapp::DefaultAlgSelection) << "the keyboard passes over the disabled one";
 }
 
-struct DefaultCase
+TEST(DefaultAlgCommand, OpensOnTheStoredDefaultOrTheBuiltInOne)
 {
-    std::optional<AlgSelection> stored;
-    AlgSelection opensOn;
-};
-
-class DefaultAlgCommand : public testing::TestWithParam<DefaultCase>
-{
-};
-
-TEST_P(DefaultAlgCommand, OpensOnTheStoredDefaultOrTheBuiltInOne)
-{
+    using Stored = std::optional<AlgSelection>;
+    const std::pair<Stored, AlgSelection> cases[] = {{std::nullopt, {1, 252}},
+                                                     {Stored({2, 400}), {1, 252}},
+                                                     {Stored({1, 253}), {1, 252}},
+                                                     {Stored({1, 400}), {1, 400}}};
     const CCryptoAlgProvider provider;
-    AlgSelection opened;
-    whenModal([&opened](QWidget& modal) {
-        opened = static_cast<CSetAlgDialog&>(modal).selection();
-        press(Qt::Key_Return);
-    });
-    const auto outcome = thisapp::askDefaultAlgorithm(nullptr, provider, GetParam().stored);
-    EXPECT_EQ(opened, GetParam().opensOn);
-    ASSERT_TRUE(outcome);
-    EXPECT_EQ(outcome->current, GetParam().opensOn);
-    EXPECT_FALSE(outcome->storeAsDefault);
+    for (const auto& [stored, opensOn] : cases) {
+        whenModal([](QWidget&) { press(Qt::Key_Return); });
+        const auto outcome = thisapp::askDefaultAlgorithm(nullptr, provider, stored);
+        ASSERT_TRUE(outcome);
+        EXPECT_EQ(outcome->current, opensOn);
+        EXPECT_FALSE(outcome->storeAsDefault);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Stored, DefaultAlgCommand,
-                         testing::Values(DefaultCase{std::nullopt, {1, 252}},
-                                         DefaultCase{{{2, 400}}, {1, 252}}, DefaultCase{{{1, 253}}, {1, 252}},
-                                         DefaultCase{{{1, 400}}, {1, 400}}));
 
 TEST(DefaultAlgCommand, StoresWhenAskedToAndDoesNothingWhenCancelled)
 {

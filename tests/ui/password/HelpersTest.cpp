@@ -1,4 +1,3 @@
-#include "lib/secret/Hex.h"
 #include "ui/Widgets.h"
 #include "ui/password/CapsLockWatcher.h"
 #include "ui/password/PasswordStrength.h"
@@ -8,15 +7,6 @@
 namespace {
 
 using thisapp::PasswordStrength;
-
-TEST(EncodeHex, IsTakenBackByDecodeHex)
-{
-    const tessaly::SecretBytes bytes{0x00, 0x9a, 0xff, 0x10, 0x0f};
-    const tessaly::SecretText text = tessaly::encodeHex(bytes);
-    EXPECT_EQ(text.view(), "009AFF10 0F");
-    EXPECT_EQ(tessaly::decodeHex(text.view()), bytes);
-    EXPECT_TRUE(tessaly::encodeHex({}).empty());
-}
 
 TEST(PasswordStrength, RatesGuessability)
 {

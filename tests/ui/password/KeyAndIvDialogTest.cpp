@@ -1,11 +1,10 @@
 #include "lib/secret/Hex.h"
-#include "support/ScratchFolder.h"
+#include "support/TempFolder.h"
 #include "ui/Widgets.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 
 #include <QClipboard>
 #include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -37,59 +36,42 @@ struct KeyAndIvDialog : testing::Test
     QPlainTextEdit& iv = child<QPlainTextEdit>(dialog, "plainTextEditIv");
 };
 
-struct HexCase
+TEST_F(KeyAndIvDialog, JudgesTheTextsOnEveryChangeAndAtOk)
 {
-    const char* iv;
-    const char* key;
-    const char* message; ///< empty: accepted
-    const char* counts;  ///< of the IV and the key
-};
-
-class HexEntry : public testing::TestWithParam<HexCase>
-{
-};
-
-TEST_P(HexEntry, IsJudgedOnEveryChangeAndAtOk)
-{
-    const HexCase& test = GetParam();
-    CSetKeyAndIvDialog dialog;
-    dialog.setExpectedLengths(4, 2);
-    open(dialog);
-    // A change in each field, so that empty ones are judged as well.
-    child<QPlainTextEdit>(dialog, "plainTextEditIv").insertPlainText(QString::fromUtf8(test.iv));
-    child<QPlainTextEdit>(dialog, "plainTextEditKey").insertPlainText(QString::fromUtf8(test.key));
-    QTest::mouseClick(&child(dialog, "buttonOk"), Qt::LeftButton);
-    const bool accepted = *test.message == '\0';
-    EXPECT_EQ(dialog.isVisible(), !accepted);
-    EXPECT_EQ(child<QLineEdit>(dialog, "lineEditMsg").text(), test.message);
-    EXPECT_EQ(child<QLabel>(dialog, "labelIvCount").text() + ", " +
-                  child<QLabel>(dialog, "labelKeyCount").text(),
-              test.counts);
-    EXPECT_EQ(dialog.key().size(), accepted ? 4U : 0U);
-    EXPECT_EQ(dialog.iv().size(), accepted ? 2U : 0U);
+    const QString ivHex = "Invalid IV: invalid hexadecimal characters. ";
+    const QString keyHex = "Invalid key: invalid hexadecimal characters. ";
+    struct
+    {
+        const char* iv;
+        const char* key;
+        QString message; ///< empty: accepted
+        int ivCount, keyCount;
+    } const cases[] = {
+        {"", "", "Empty IV. Empty key. ", 0, 0},
+        {" \n\t", "00112233", "Empty IV. ", 0, 4},
+        {"aBcD", "00 11\n2 2\t33 ", "", 2, 4},
+        {"00\u00a011", "0011\u30002233", "", 2, 4}, // no-break and ideographic space
+        {"001", "00112233", ivHex, 1, 4},
+        {"0011", "0x112233", keyHex, 2, 3},
+        {"0011", "0011223\u00e9", keyHex, 2, 3},
+        {"001122", "0011", "Invalid IV size: entered 3 bytes. Invalid key size: entered 2 bytes. ", 3, 2},
+        {"00112", "zz", ivHex + keyHex, 2, 0},
+    };
+    for (const auto& test : cases) {
+        dialog.setTyped({});
+        open(dialog);
+        iv.insertPlainText(QString::fromUtf8(test.iv));
+        key.insertPlainText(QString::fromUtf8(test.key));
+        EXPECT_EQ(label("labelIvCount"), QString("%1 of 2 bytes entered").arg(test.ivCount)) << test.iv;
+        EXPECT_EQ(label("labelKeyCount"), QString("%1 of 4 bytes entered").arg(test.keyCount)) << test.key;
+        QTest::mouseClick(&child(dialog, "buttonOk"), Qt::LeftButton);
+        const bool accepted = test.message.isEmpty();
+        EXPECT_EQ(message(), test.message);
+        EXPECT_EQ(dialog.isVisible(), !accepted) << test.key;
+        EXPECT_EQ(dialog.key(), accepted ? bytes("00112233") : SecretBytes()) << test.key;
+        dialog.reject();
+    }
 }
-
-#define COUNTS(iv, key) #iv " of 2 bytes entered, " #key " of 4 bytes entered"
-INSTANTIATE_TEST_SUITE_P(
-    Texts, HexEntry,
-    testing::Values(
-        HexCase{"", "", "Empty IV. Empty key. ", COUNTS(0, 0)},
-        HexCase{" \n\t", "00112233", "Empty IV. ", COUNTS(0, 4)},
-        HexCase{"aBcD", "00 11\n2 2\t33 ", "", COUNTS(2, 4)},
-        HexCase{"00\xc2\xa0"
-                "11",
-                "0011\xe3\x80\x80"
-                "2233",
-                "", COUNTS(2, 4)},
-        HexCase{"001", "00112233", "Invalid IV: invalid hexadecimal characters. ", COUNTS(1, 4)},
-        HexCase{"0011", "0x112233", "Invalid key: invalid hexadecimal characters. ", COUNTS(2, 3)},
-        HexCase{"0011", "0011223\xc3\xa9", "Invalid key: invalid hexadecimal characters. ", COUNTS(2, 3)},
-        HexCase{"001122", "0011", "Invalid IV size: entered 3 bytes. Invalid key size: entered 2 bytes. ",
-                COUNTS(3, 2)},
-        HexCase{"00112", "zz",
-                "Invalid IV: invalid hexadecimal characters. Invalid key: invalid hexadecimal characters. ",
-                COUNTS(2, 0)}));
-#undef COUNTS
 
 TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
 {
@@ -125,8 +107,8 @@ TEST_F(KeyAndIvDialog, TitlesAndLabelsTellModeAndLengths)
 {
     open(dialog);
     EXPECT_EQ(dialog.windowTitle(), "Key and IV to encrypt");
-    EXPECT_EQ(label("labelKey").remove('&'), "Key, length: 4 bytes (HEX format)");
-    EXPECT_EQ(label("labelIv").remove('&'), "Initialization vector (IV), length: 2 bytes (HEX format)");
+    EXPECT_EQ(label("labelKey"), "&Key, length: 4 bytes (HEX format)");
+    EXPECT_EQ(label("labelIv"), "&Initialization vector (IV), length: 2 bytes (HEX format)");
     dialog.reject();
     dialog.setEncryptMode(false);
     open(dialog);
@@ -178,11 +160,24 @@ TEST_F(KeyAndIvDialog, ForgetsEverythingWhenCancelled)
     EXPECT_FALSE(key.document()->isUndoAvailable());
 }
 
+/// Saves through the file dialog; confirms if it asks whether to replace the file.
+void saveFrom(QWidget& dialog, const std::string& path)
+{
+    QApplication::setActiveWindow(&dialog);
+    whenModal([path](QWidget& modal) {
+        auto& name = child<QLineEdit>(modal, "fileNameEdit");
+        name.setText(QString::fromStdString(path));
+        if (QFile::exists(name.text()))
+            whenModal([](QWidget&) { press(Qt::Key_Y, Qt::AltModifier); });
+        QTest::keyClick(&name, Qt::Key_Return);
+    });
+    press(Qt::Key_S, Qt::AltModifier);
+}
+
 TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
 {
-    const test::ScratchFolder folder;
-    const QString path = QString::fromStdWString(folder.write("key.txt", "an older key"));
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+    const test::TempFolder folder;
+    folder.write("key.txt", "an older key that others may read");
     open(dialog);
     EXPECT_FALSE(child(dialog, "buttonCopy").isEnabled()) << "nothing to copy yet";
     press(Qt::Key_G, Qt::AltModifier);
@@ -191,41 +186,23 @@ TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
     press(Qt::Key_G, Qt::AltModifier);
     EXPECT_NE(key.toPlainText(), generated);
 
-    QApplication::clipboard()->clear();
     const QString text = QString("Quillet key and initialization vector\nAlgorithm: Toy\n"
                                  "Initialization vector (IV): %1\nKey: %2\n")
                              .arg(iv.toPlainText(), key.toPlainText());
     press(Qt::Key_C, Qt::AltModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), text);
 
-    whenModal([&path](QWidget& modal) {
-        auto& name = child<QLineEdit>(modal, "fileNameEdit");
-        name.setText(path);
-        whenModal([](QWidget&) { press(Qt::Key_Y, Qt::AltModifier); }); // replace it?
-        QTest::keyClick(&name, Qt::Key_Return);
-    });
-    press(Qt::Key_S, Qt::AltModifier);
+    saveFrom(dialog, folder / "key.txt");
     EXPECT_EQ(message(), "The key and IV were saved. Only you can read the file.");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QFile::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(file.readAll()), text);
-    EXPECT_FALSE(file.permissions() & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther));
-    EXPECT_EQ(QFileInfo(path).dir().entryList(QDir::Files), QStringList("key.txt"))
-        << "no temporary file is left";
-}
+    EXPECT_EQ(test::readFile(folder / "key.txt"), text.toStdString());
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(folder / "key.txt").permissions(),
+              perms::owner_read | perms::owner_write);
+    const std::filesystem::directory_iterator files(folder.path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "a temporary file is left";
 
-TEST_F(KeyAndIvDialog, SaysWhyTheKeyCouldNotBeSaved)
-{
-    dialog.setKeyAndIv(bytes("a1a2a3a4"), bytes("0102"));
-    open(dialog);
-    whenModal([](QWidget& modal) {
-        auto& name = child<QLineEdit>(modal, "fileNameEdit");
-        name.setText("/proc/key.txt"); // where nobody can write
-        QTest::keyClick(&name, Qt::Key_Return);
-    });
-    press(Qt::Key_S, Qt::AltModifier);
+    saveFrom(dialog, "/proc/key.txt"); // where nobody can write
     EXPECT_TRUE(message().startsWith("The key and IV could not be saved: ")) << message();
-    EXPECT_FALSE(message().endsWith(": ")) << "no reason";
 }
 
 } // namespace
