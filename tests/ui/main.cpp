@@ -3,6 +3,13 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+/// LeakSanitizer's: the offscreen platform never frees its screen.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libqoffscreen.so\n";
+}
+
 /// Runs the tests of the widgets without a screen, in a user profile of their own.
 int main(int argc, char** argv)
 {

@@ -1,5 +1,7 @@
 #include "crypto/RandomBytes.h"
 
+#include "crypto/cryptopp/Guard.h"
+
 #include <cryptopp/osrng.h>
 
 namespace tessaly::crypto {
@@ -7,13 +9,11 @@ namespace tessaly::crypto {
 CryptoResult randomBytes(std::size_t count, SecretBytes& bytes)
 {
     bytes.assign(count, 0);
-    try {
-        CryptoPP::OS_GenerateRandomBlock(false, bytes.data(), bytes.size());
-        return {};
-    } catch (const CryptoPP::Exception& exception) {
+    const CryptoResult result = cryptopp::guarded(
+        {}, [&bytes] { CryptoPP::OS_GenerateRandomBlock(false, bytes.data(), bytes.size()); });
+    if (!result.ok())
         bytes.clear();
-        return ResultCode{err::CategoryCryptoPP, static_cast<std::uint32_t>(exception.GetErrorType())};
-    }
+    return result;
 }
 
 } // namespace tessaly::crypto

@@ -5,6 +5,7 @@
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/style/TextSize.h"
 #include "ui_CAlgInfoDialog.h"
 
 #include <QShowEvent>
@@ -32,8 +33,7 @@ CAlgInfoDialog::CAlgInfoDialog(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::CAlgInfoDialog>())
 {
     m_ui->setupUi(this);
-    m_ui->plainTextEditInfo->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
-    m_ui->plainTextEditInfo->setMinimumHeight(fontMetrics().lineSpacing() * 20);
+    m_ui->plainTextEditInfo->setMinimumSize(thisapp::textSize(*this, 60, 20));
     m_timer.setSingleShot(true);
     m_timer.setInterval(PrintDelay);
     connect(&m_timer, &QTimer::timeout, this, &CAlgInfoDialog::onUiPrintAlgInfo);

@@ -4,6 +4,8 @@
 #include "ui/algorithms/ICryptoAlgProvider.h"
 #include "ui_CSelectAlgFrame.h"
 
+#include <QEvent>
+
 using thisapp::AlgSelection;
 
 CSelectAlgFrame::CSelectAlgFrame(QWidget* parent)
@@ -41,6 +43,13 @@ bool CSelectAlgFrame::setSelection(const AlgSelection& selection)
     m_reportedIndex = index;
     m_ui->comboBoxAlg->setCurrentIndex(index);
     return true;
+}
+
+void CSelectAlgFrame::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        m_ui->retranslateUi(this);
+    QFrame::changeEvent(event);
 }
 
 void CSelectAlgFrame::onUiAlgActivated(int index)

@@ -34,6 +34,9 @@ signals:
     /// The user, not the program, chose another algorithm.
     void notifyAlgChanged();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private slots:
     void onUiAlgActivated(int index);
 

@@ -1,16 +1,13 @@
 #include "ui/options/CGeneralOptionsFrame.h"
 
 #include "lib/settings/SAppOptions.h"
-#include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/algorithms/AlgListFiller.h"
 #include "ui/shortcuts/Shortcuts.h"
 #include "ui/style/WheelGuard.h"
 #include "ui_CGeneralOptionsFrame.h"
 
 #include <QDir>
 #include <QEvent>
-#include <QStandardItemModel>
-
-#include <algorithm>
 
 using thisapp::SAppOptions;
 
@@ -76,20 +73,7 @@ void CGeneralOptionsFrame::setLanguages(const std::vector<tessaly::i18n::Languag
 
 void CGeneralOptionsFrame::setAlgProvider(const thisapp::ICryptoAlgProvider& provider)
 {
-    m_algorithms.clear();
-    m_ui->comboAlgorithm->clear();
-    auto* model = qobject_cast<QStandardItemModel*>(m_ui->comboAlgorithm->model());
-    for (int index = 0; index < provider.count(); ++index) {
-        thisapp::AlgSelection selection;
-        bool enabled = false;
-        if (!provider.entry(index, selection, enabled))
-            continue;
-        auto* item = new QStandardItem(provider.displayName(selection));
-        if (!enabled)
-            item->setFlags(item->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
-        m_algorithms.push_back(selection);
-        model->appendRow(item);
-    }
+    thisapp::fillAlgList(*m_ui->comboAlgorithm, provider);
 }
 
 void CGeneralOptionsFrame::setOptions(const SAppOptions& options)
@@ -98,9 +82,8 @@ void CGeneralOptionsFrame::setOptions(const SAppOptions& options)
         box.widget->setChecked(options.*box.option);
     setConfirmDeleteEnabled(options.deleteSourceFileAfterEncryption);
     m_ui->comboLanguage->setCurrentIndex(m_ui->comboLanguage->findData(options.localeId));
-    const auto found = std::find(m_algorithms.begin(), m_algorithms.end(), options.defaultAlgorithm());
     m_ui->comboAlgorithm->setCurrentIndex(
-        found != m_algorithms.end() ? static_cast<int>(found - m_algorithms.begin()) : -1);
+        thisapp::findAlg(*m_ui->comboAlgorithm, options.defaultAlgorithm()));
     setOutputDir(options.outputDirPath);
 }
 
@@ -110,9 +93,7 @@ void CGeneralOptionsFrame::store(SAppOptions& options) const
         options.*box.option = box.widget->isChecked();
     if (m_ui->comboLanguage->currentIndex() >= 0)
         options.localeId = m_ui->comboLanguage->currentData().toUInt();
-    const int algorithm = m_ui->comboAlgorithm->currentIndex();
-    options.setDefaultAlgorithm(algorithm >= 0 ? m_algorithms.at(static_cast<std::size_t>(algorithm))
-                                               : thisapp::AlgSelection{});
+    options.setDefaultAlgorithm(m_ui->comboAlgorithm->currentData().value<thisapp::AlgSelection>());
     options.outputDirPath = QDir::toNativeSeparators(outputDir().trimmed());
 }
 

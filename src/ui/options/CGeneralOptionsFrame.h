@@ -1,7 +1,6 @@
 #pragma once
 
 #include "lib/i18n/Language.h"
-#include "lib/settings/AlgSelection.h"
 
 #include <QFrame>
 
@@ -57,5 +56,4 @@ private:
     void fillShortcuts();
 
     std::unique_ptr<Ui::CGeneralOptionsFrame> m_ui;
-    std::vector<thisapp::AlgSelection> m_algorithms; ///< by row of the combo box
 };

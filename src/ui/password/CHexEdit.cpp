@@ -50,5 +50,5 @@ QSize CHexEdit::sizeHint() const
     const int margins = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
     const int width = fontMetrics().horizontalAdvance(QString(CharactersPerLine + 1, QLatin1Char('0')));
     return {width + margins + style()->pixelMetric(QStyle::PM_ScrollBarExtent),
-            fontMetrics().lineSpacing() * lines + margins};
+            fontMetrics().lineSpacing() * (2 * lines + 1) / 2 + margins};
 }

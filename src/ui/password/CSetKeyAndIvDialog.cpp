@@ -8,6 +8,7 @@
 #include "ui/password/SecretFields.h"
 #include "ui/style/InfoText.h"
 #include "ui/style/MessageStyle.h"
+#include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
 #include <QClipboard>
@@ -37,7 +38,7 @@ CSetKeyAndIvDialog::CSetKeyAndIvDialog(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->labelNormalMode->setLinkText(tr("Show simple options"));
-    m_ui->lineEditMsg->setMinimumWidth(fontMetrics().averageCharWidth() * 90);
+    m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 90, 1).width());
     connectWidgets();
 }
 

@@ -6,6 +6,7 @@
 #include "ui/password/SecretFields.h"
 #include "ui/style/InfoText.h"
 #include "ui/style/MessageStyle.h"
+#include "ui/style/TextSize.h"
 #include "ui_CSetPasswordDialog.h"
 
 #include <QShowEvent>
@@ -14,7 +15,7 @@ CSetPasswordDialog::CSetPasswordDialog(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::CSetPasswordDialog>())
 {
     m_ui->setupUi(this);
-    m_ui->lineEditMsg->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+    m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 56, 1).width());
     m_ui->labelAdvancedMode->setLinkText(tr("Show advanced options"));
     connectWidgets();
 }

@@ -1,12 +1,13 @@
 #include "ui/style/CRoundedComboBox.h"
 
+#include "ui/style/WheelGuard.h"
+
 #include <QPainter>
 #include <QStyleOption>
-#include <QWheelEvent>
 
 CRoundedComboBox::CRoundedComboBox(QWidget* parent) : QComboBox(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
+    thisapp::guardFromWheel(*this);
     setStyleSheet(
         QStringLiteral("QComboBox {"
                        " border: 1px solid palette(mid); border-radius: 0.4em; padding: 0.2em 0.6em;"
@@ -27,12 +28,4 @@ void CRoundedComboBox::paintEvent(QPaintEvent* event)
                                      QRect(end.x() - size / 2, end.y() - size / 2, size, size));
     QPainter painter(this);
     style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter);
-}
-
-void CRoundedComboBox::wheelEvent(QWheelEvent* event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }

@@ -1,0 +1,73 @@
+#include "ui/Widgets.h"
+#include "ui/password/CapsLockWatcher.h"
+#include "ui/password/PasswordStrength.h"
+
+#include <QLineEdit>
+
+namespace {
+
+using thisapp::PasswordStrength;
+
+TEST(PasswordStrength, RatesGuessability)
+{
+    const std::pair<const char*, PasswordStrength> cases[] = {
+        {"password", PasswordStrength::VeryWeak},
+        {"Quillet1", PasswordStrength::VeryWeak},
+        {"aaaaaaaaaaaaaaaaaaaaaaaa", PasswordStrength::VeryWeak},
+        {"Tr0ub4dor&3", PasswordStrength::Fair},
+        {"correct horse battery staple", PasswordStrength::VeryStrong},
+        {"kq8#Zp2!vLw9", PasswordStrength::VeryStrong},
+    };
+    for (const auto& [password, strength] : cases)
+        EXPECT_EQ(thisapp::passwordStrength(password), strength) << password;
+    EXPECT_LT(thisapp::passwordStrength(QString::fromUtf8("пароль")), PasswordStrength::Fair)
+        << "six letters are no more than six letters of Latin";
+}
+
+/// A key press of the form "a", "^a" (with Shift) or "!" for the Caps Lock key.
+void send(QObject& field, const QString& key)
+{
+    const bool shift = key.startsWith('^');
+    QKeyEvent event(QEvent::KeyPress, key == "!" ? Qt::Key_CapsLock : Qt::Key_unknown,
+                    shift ? Qt::ShiftModifier : Qt::NoModifier, key == "!" ? QString() : key.right(1));
+    QApplication::sendEvent(&field, &event);
+}
+
+TEST(CapsLockWatcher, LearnsFromThePlatformAndFromTheKeys)
+{
+    struct
+    {
+        std::optional<bool> platform;
+        const char* keys;
+        bool on;
+    } const cases[] = {
+        {std::nullopt, "", false},
+        {std::nullopt, "a", false},
+        {std::nullopt, "A", true},
+        {std::nullopt, "^A", false},
+        {std::nullopt, "^a", true},
+        {std::nullopt, "1 ^!", false},
+        {std::nullopt, "!", false},
+        {std::nullopt, "A !", false},
+        {std::nullopt, "a !", true},
+        {std::nullopt, "A 1 b", false},
+        {true, "", true},
+        {true, "a", false},
+        {true, "!", false},
+        {false, "! !", false},
+    };
+    for (const auto& test : cases) {
+        QLineEdit field;
+        CapsLockWatcher watcher([&test] { return test.platform; });
+        bool on = false;
+        QObject::connect(&watcher, &CapsLockWatcher::notifyCapsLockChanged, [&on](bool now) { on = now; });
+        watcher.watch(field);
+        QFocusEvent focus(QEvent::FocusIn);
+        QApplication::sendEvent(&field, &focus);
+        for (const QString& key : QString(test.keys).split(' ', Qt::SkipEmptyParts))
+            send(field, key);
+        EXPECT_EQ(on, test.on) << test.keys;
+    }
+}
+
+} // namespace

@@ -1,0 +1,169 @@
+#include "ui/Widgets.h"
+#include "ui/password/CSetPasswordDialog.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextEdit>
+
+namespace {
+
+/// The dialog, set up for an encryption with confirmation, with its widgets at hand.
+struct PasswordDialog : testing::Test
+{
+    PasswordDialog() { dialog.setAlgorithmName("AES-256"); }
+
+    QString message() { return child<QLineEdit>(dialog, "lineEditMsg").text(); }
+
+    CSetPasswordDialog dialog;
+    QLineEdit& password = child<QLineEdit>(dialog, "lineEditPassword");
+    QLineEdit& confirmation = child<QLineEdit>(dialog, "lineEditConfirmPassword");
+};
+
+TEST_F(PasswordDialog, ShowsAMismatchWhileTypingAndStaysOpen)
+{
+    struct
+    {
+        const char* password;
+        const char* confirmation;
+        const char* message; ///< empty: the dialog closes
+    } const cases[] = {
+        {"abc", "abd", "The passwords do not match. Password length: 3"},
+        {"abc", "abcd", "The passwords do not match. Password length: 3/4"},
+        {"abc", "ABC", "The passwords do not match. Password length: 3"},
+        {"abc", "", "The passwords do not match. Password length: 3/0"},
+        {"", "", ""},
+        {"abc ", "abc ", ""},
+    };
+    for (const auto& test : cases) {
+        open(dialog);
+        type(test.password);
+        press(Qt::Key_Tab);
+        type(test.confirmation);
+        EXPECT_EQ(message(), test.message);
+        press(Qt::Key_Return);
+        const bool closes = *test.message == '\0';
+        EXPECT_EQ(dialog.isVisible(), !closes) << test.confirmation;
+        EXPECT_EQ(dialog.password().view(), closes ? test.password : "");
+        dialog.reject();
+    }
+}
+
+TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
+{
+    dialog.setUseSalt(true);
+    open(dialog);
+    type("p\xc3\xa4ss");
+    press(Qt::Key_Tab);
+    type("p\xc3\xa4ss");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(password.echoMode(), QLineEdit::Password);
+    press(Qt::Key_Space); // show password
+    EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space); // use salt
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space); // rewrite
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &child(dialog, "labelAdvancedMode"));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &child(dialog, "buttonOk"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_FALSE(dialog.switchToAdvanced());
+    EXPECT_EQ(dialog.password().view(), "p\xc3\xa4ss") << "in UTF-8";
+    EXPECT_FALSE(dialog.useSalt());
+    EXPECT_TRUE(dialog.rewriteOutputFile());
+}
+
+TEST_F(PasswordDialog, DecryptingAsksOnce)
+{
+    dialog.setEncryptMode(false);
+    open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), "Password to decrypt");
+    EXPECT_EQ(child<QTextEdit>(dialog, "textEditInfo").toPlainText(),
+              "Enter the password to decrypt the file. \nSelected cryptographic algorithm: AES-256.");
+    for (const char* hidden : {"labelConfirmPassword", "lineEditConfirmPassword", "checkBoxUseSalt"})
+        EXPECT_FALSE(child(dialog, hidden).isVisible()) << hidden;
+    EXPECT_TRUE(child(dialog, "checkBoxRewrite").isVisible());
+    type("abc");
+    EXPECT_EQ(message(), QString());
+    EXPECT_EQ(child<QLabel>(dialog, "labelStrength").text(), QString());
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.password().view(), "abc");
+}
+
+TEST_F(PasswordDialog, FollowsTheSettings)
+{
+    dialog.setUseConfirmPassword(false);
+    dialog.setShowPassword(true);
+    dialog.setShowAdvancedOptions(false);
+    open(dialog);
+    EXPECT_FALSE(confirmation.isVisible());
+    EXPECT_FALSE(child(dialog, "labelAdvancedMode").isVisible());
+    EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
+    type("abc");
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(PasswordDialog, HandsOverToTheKeyDialogWithTheOptionsButNoPassword)
+{
+    open(dialog);
+    type("abc"); // not confirmed: no matter here
+    press(Qt::Key_R, Qt::AltModifier);
+    child(dialog, "labelAdvancedMode").setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_TRUE(dialog.switchToAdvanced());
+    EXPECT_TRUE(dialog.rewriteOutputFile());
+    EXPECT_TRUE(dialog.password().empty());
+}
+
+TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
+{
+    open(dialog);
+    press(Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(confirmation.hasFocus());
+    press(Qt::Key_P, Qt::AltModifier);
+    type("secret");
+    const QString storage = password.text(); // shares the field's characters
+    press(Qt::Key_Escape);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_TRUE(dialog.password().empty());
+    EXPECT_EQ(storage, QString(6, QChar(0)));
+    EXPECT_EQ(password.text(), QString());
+    password.undo();
+    EXPECT_EQ(password.text(), QString());
+}
+
+TEST_F(PasswordDialog, KeepsWhatWasTypedWhileMinimised)
+{
+    open(dialog);
+    type("secret");
+    QHideEvent minimised;
+    QSpontaneKeyEvent::setSpontaneous(&minimised);
+    qApp->notify(&dialog, &minimised);
+    QShowEvent restored;
+    QSpontaneKeyEvent::setSpontaneous(&restored);
+    qApp->notify(&dialog, &restored);
+    EXPECT_EQ(password.text(), "secret");
+}
+
+TEST_F(PasswordDialog, NamesTheStrengthAndWarnsOfCapsLock)
+{
+    open(dialog);
+    auto& strength = child<QLabel>(dialog, "labelStrength");
+    auto& capsLock = child<QLabel>(dialog, "labelCapsLock");
+    type("password");
+    EXPECT_EQ(strength.text(), "Password strength: very weak, guessed at once.");
+    EXPECT_EQ(capsLock.text(), QString());
+    QKeyEvent upperWithoutShift(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "X");
+    QApplication::sendEvent(&password, &upperWithoutShift);
+    EXPECT_EQ(capsLock.text(), "Caps Lock is on.");
+    password.selectAll();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(strength.text(), QString());
+}
+
+} // namespace
