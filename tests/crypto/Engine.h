@@ -30,6 +30,7 @@ namespace test {
 using tessaly::SecretBytes;
 using tessaly::crypto::CatalogueEntry;
 using tessaly::crypto::CryptoResult;
+using tessaly::crypto::findAlgorithm;
 namespace err = tessaly::err;
 
 inline Bytes fromHex(std::string_view hex)
@@ -55,29 +56,45 @@ inline Bytes noise(std::size_t count, std::uint32_t seed = 1)
     return bytes;
 }
 
-inline std::unique_ptr<tessaly::crypto::ISymmetricEncryptor> encryptorOf(const CatalogueEntry& algorithm)
+inline Bytes operator^(Bytes first, const Bytes& second)
 {
-    std::unique_ptr<tessaly::crypto::ISymmetricEncryptor> made;
-    EXPECT_TRUE(tessaly::cryptopp::CEncryptorFactory().create(1, algorithm.id, &made).ok());
-    return made;
+    for (std::size_t i = 0; i < first.size(); ++i)
+        first[i] ^= second.at(i);
+    return first;
 }
 
-inline std::unique_ptr<tessaly::crypto::ISymmetricDecryptor> decryptorOf(const CatalogueEntry& algorithm)
+struct Outcome
 {
-    std::unique_ptr<tessaly::crypto::ISymmetricDecryptor> made;
-    EXPECT_TRUE(tessaly::cryptopp::CDecryptorFactory().create(1, algorithm.id, &made).ok());
-    return made;
-}
+    CryptoResult result;
+    Bytes bytes;
+    int writes = 0;
+};
 
-/// The one way through which most tests go: full form, everything in memory.
+/// An encryptor and a decryptor with all that their full forms take, from memory to memory.
 struct Job
 {
-    explicit Job(std::string_view name) : Job(*tessaly::crypto::findAlgorithm(name)) {}
+    explicit Job(std::string_view name) : Job(*findAlgorithm(name)) {}
     explicit Job(const CatalogueEntry& entry)
         : algorithm(entry),
           key(secret(noise(entry.record.keyLength, 2))),
           iv(secret(noise(entry.record.ivLength, 3)))
     {
+        EXPECT_TRUE(tessaly::cryptopp::CEncryptorFactory().create(1, entry.id, &encryptor).ok());
+        EXPECT_TRUE(tessaly::cryptopp::CDecryptorFactory().create(1, entry.id, &decryptor).ok());
+    }
+
+    Outcome encrypt(MemoryInput in, const Faults& outputFaults = {}) const
+    {
+        MemoryOutput out(outputFaults);
+        const auto result =
+            encryptor->encrypt(&in, &out, key, iv, chunkSize, intervalMs, salt, callback, nullptr);
+        return {result, out.bytes, out.calls};
+    }
+    Outcome decrypt(MemoryInput in, const Faults& outputFaults = {}) const
+    {
+        MemoryOutput out(outputFaults);
+        const auto result = decryptor->decrypt(&in, &out, key, iv, chunkSize, intervalMs, callback, nullptr);
+        return {result, out.bytes, out.calls};
     }
 
     const CatalogueEntry& algorithm;
@@ -87,66 +104,35 @@ struct Job
     std::uint32_t intervalMs = 0;
     bool salt = false;
     tessaly::crypto::ICipherCallback* callback = nullptr;
-    void* userData = nullptr;
-
-    CryptoResult encrypt(MemoryInput& in, MemoryOutput& out) const
-    {
-        return encryptorOf(algorithm)->encrypt(&in, &out, key, iv, chunkSize, intervalMs, salt, callback,
-                                               userData);
-    }
-    CryptoResult decrypt(MemoryInput& in, MemoryOutput& out) const
-    {
-        return decryptorOf(algorithm)->decrypt(&in, &out, key, iv, chunkSize, intervalMs, callback, userData);
-    }
-    Bytes encrypted(const Bytes& plain) const
-    {
-        MemoryInput in(plain);
-        MemoryOutput out;
-        EXPECT_EQ(encrypt(in, out), CryptoResult()) << algorithm.name;
-        return out.bytes;
-    }
+    std::unique_ptr<tessaly::crypto::ISymmetricEncryptor> encryptor;
+    std::unique_ptr<tessaly::crypto::ISymmetricDecryptor> decryptor;
 };
 
-/// What an encryption of `data` enciphers: header, data and padding.
-inline Bytes plainFile(const CatalogueEntry& algorithm, const Bytes& data)
+inline Bytes headerOf(const CatalogueEntry& algorithm, std::uint64_t length)
 {
-    Bytes file(tessaly::crypto::HeaderSize);
-    EXPECT_TRUE(tessaly::crypto::makeHeader(algorithm.id, data.size(), false,
-                                            std::span<std::uint8_t, tessaly::crypto::HeaderSize>(file))
+    Bytes header(tessaly::crypto::HeaderSize, 0xAA);
+    EXPECT_TRUE(tessaly::crypto::makeHeader(algorithm.id, length, false,
+                                            std::span<std::uint8_t, tessaly::crypto::HeaderSize>(header))
                     .ok());
-    file.insert(file.end(), data.begin(), data.end());
-    file.resize(tessaly::crypto::roundUp(file.size(), algorithm.record.blockLength));
-    return file;
+    return header;
 }
 
-inline Bytes operator^(Bytes first, const Bytes& second)
-{
-    for (std::size_t i = 0; i < first.size(); ++i)
-        first[i] ^= second.at(i);
-    return first;
-}
-
-/// One block under a block cipher alone: the IV is chosen so that CBC feeds it to the cipher.
-inline Bytes enciphered(const CatalogueEntry& algorithm, const Bytes& key, const Bytes& block)
+/// The start of what the cipher alone makes of `input`. For a block cipher that is one block: the IV
+/// is chosen so that CBC feeds it to the cipher. For a stream cipher it is the IV, and the answer
+/// the start of the key stream.
+inline Bytes enciphered(const CatalogueEntry& algorithm, const Bytes& key, const Bytes& input,
+                        std::size_t count)
 {
     Job job(algorithm);
+    Bytes plainFile = headerOf(algorithm, count);
+    plainFile.resize(plainFile.size() + count + input.size());
     job.key = secret(key);
-    job.iv = secret(block ^ plainFile(algorithm, {0}));
-    Bytes file = job.encrypted({0});
-    file.resize(block.size());
+    job.iv = secret(algorithm.record.stream ? input : input ^ plainFile);
+    Bytes file = job.encrypt(Bytes(count)).bytes;
+    if (algorithm.record.stream)
+        file = file ^ plainFile;
+    file.resize(count);
     return file;
-}
-
-/// The first `count` bytes of a stream cipher's key stream.
-inline Bytes keyStream(const CatalogueEntry& algorithm, const Bytes& key, const Bytes& iv, std::size_t count)
-{
-    Job job(algorithm);
-    job.key = secret(key);
-    job.iv = secret(iv);
-    const Bytes zeros(count);
-    Bytes stream = job.encrypted(zeros) ^ plainFile(algorithm, zeros);
-    stream.resize(count);
-    return stream;
 }
 
 } // namespace test

@@ -19,22 +19,19 @@ using Bytes = std::vector<std::uint8_t>;
 /// What a memory stream reports when it is told to fail.
 inline constexpr tessaly::ResultCode StreamFault = tessaly::err::system(EIO);
 
-/// The ways in which a stream can misbehave. Calls count from 1.
-struct StreamFaults
+/// How a stream is to misbehave. Calls count from 1.
+struct Faults
 {
-    int failAtCall = 0; ///< 0: never
+    int failAtCall = 0;
     std::int64_t mostAtOnce = std::numeric_limits<std::int64_t>::max();
-    std::function<void(int)> onCall; ///< runs first, with the call's number
+    std::int64_t endsAt = std::numeric_limits<std::int64_t>::max(); ///< whatever the size says
+    std::function<void(int)> onCall = [](int) {};
 };
 
 class MemoryInput final : public tessaly::io::IStreamBytes
 {
 public:
-    explicit MemoryInput(Bytes bytes) : m_bytes(std::move(bytes)) {}
-
-    StreamFaults faults;
-    std::int64_t shrinksTo = std::numeric_limits<std::int64_t>::max(); ///< while size stays
-    int calls = 0;
+    MemoryInput(Bytes bytes, Faults faults = {}) : m_bytes(std::move(bytes)), m_faults(std::move(faults)) {}
 
     bool isAtStart() const override { return m_position == 0; }
     bool isAtEnd() const override { return m_position >= size(); }
@@ -43,15 +40,12 @@ public:
 
     [[nodiscard]] bool read(void* buffer, std::int64_t count, std::int64_t& countRead) override
     {
-        ++calls;
-        if (faults.onCall)
-            faults.onCall(calls);
-        countRead = 0;
-        m_error = calls == faults.failAtCall ? StreamFault : tessaly::ResultCode{};
-        const std::int64_t left = std::min(size(), shrinksTo) - m_position;
-        if (!m_error.ok() || left < 1)
+        m_faults.onCall(++m_calls);
+        m_error = m_calls == m_faults.failAtCall ? StreamFault : tessaly::ResultCode{};
+        const std::int64_t left = std::min(size(), m_faults.endsAt) - m_position;
+        countRead = m_error.ok() ? std::min({count, left, m_faults.mostAtOnce}) : 0;
+        if (countRead < 1)
             return false;
-        countRead = std::min({count, left, faults.mostAtOnce});
         std::copy_n(m_bytes.begin() + m_position, countRead, static_cast<std::uint8_t*>(buffer));
         m_position += countRead;
         return true;
@@ -59,34 +53,34 @@ public:
 
 private:
     Bytes m_bytes;
+    Faults m_faults;
     std::int64_t m_position = 0;
+    int m_calls = 0;
     tessaly::ResultCode m_error;
 };
 
 class MemoryOutput final : public tessaly::io::OStreamBytes
 {
 public:
+    explicit MemoryOutput(Faults faults = {}) : m_faults(std::move(faults)) {}
+
     Bytes bytes;
-    StreamFaults faults;
     int calls = 0;
 
     tessaly::ResultCode lastError() const override { return m_error; }
 
     [[nodiscard]] std::int64_t write(const void* buffer, std::int64_t count) override
     {
-        ++calls;
-        if (faults.onCall)
-            faults.onCall(calls);
-        m_error = calls == faults.failAtCall ? StreamFault : tessaly::ResultCode{};
-        if (!m_error.ok())
-            return 0;
+        m_faults.onCall(++calls);
+        m_error = calls == m_faults.failAtCall ? StreamFault : tessaly::ResultCode{};
+        const std::int64_t taken = m_error.ok() ? std::min(count, m_faults.mostAtOnce) : 0;
         const auto* begin = static_cast<const std::uint8_t*>(buffer);
-        const std::int64_t taken = std::min(count, faults.mostAtOnce);
         bytes.insert(bytes.end(), begin, begin + taken);
         return taken;
     }
 
 private:
+    Faults m_faults;
     tessaly::ResultCode m_error;
 };
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <stdexcept>
 
@@ -18,192 +19,139 @@ public:
     std::vector<float> percents;
     CryptoResult result;
     void* data = nullptr;
-    std::function<void()> onStarted;
-    std::function<void()> onProgress;
+    std::function<void()> onStarted = [] {};
+    std::function<void()> onProgress = [] {};
 
     void started(void* userData) override
     {
         calls += 's';
         data = userData;
-        if (onStarted)
-            onStarted();
+        onStarted();
     }
     void progress(std::int64_t count, float percent, void* userData) override
     {
         calls += userData == data ? 'p' : '?';
         processed.push_back(count);
         percents.push_back(percent);
-        if (onProgress)
-            onProgress();
+        onProgress();
     }
-    void finished(bool stopped, const CryptoResult& final, void* userData) override
+    void finished(bool stopped, const CryptoResult& outcome, void* userData) override
     {
         calls += userData != data ? '?' : stopped ? 'F' : 'f';
-        result = final;
+        result = outcome;
     }
 };
 
-/// Both directions of one algorithm over the same small chunks; the tests go through all of them.
-struct Direction
+/// One way of one algorithm over five small chunks, whose course is recorded.
+struct Way
 {
-    Job job;
-    bool isEncryption;
-    std::uint64_t chunk; ///< as the engine rounds it
-
-    Direction(const char* name, bool encryption) : job(name), isEncryption(encryption)
+    Way(const char* name, bool encryption) : isEncryption(encryption), job(name)
     {
         job.chunkSize = 60;
         chunk = tessaly::crypto::effectiveChunkSize(60, job.algorithm.record.blockLength);
+        const Bytes data = noise(4 * chunk);
+        const Bytes encrypted = job.encrypt(data).bytes;
+        input = isEncryption ? data : encrypted;
+        output = isEncryption ? encrypted : data;
+        job.callback = &recorder;
     }
 
-    Bytes data() const { return noise(4 * chunk); }
-    Bytes input() const { return isEncryption ? data() : Job(job.algorithm).encrypted(data()); }
-    Bytes output() const { return isEncryption ? Job(job.algorithm).encrypted(data()) : data(); }
-    CryptoResult run(MemoryInput& in, MemoryOutput& out) const
+    Outcome run(const Faults& inputFaults = {}, const Faults& outputFaults = {})
     {
-        return isEncryption ? job.encrypt(in, out) : job.decrypt(in, out);
+        recorder.calls.clear();
+        return isEncryption ? job.encrypt({input, inputFaults}, outputFaults)
+                            : job.decrypt({input, inputFaults}, outputFaults);
     }
-    /// What the first `chunks` chunks write.
+    void stop() { isEncryption ? job.encryptor->stop() : job.decryptor->stop(); }
     Bytes outputOf(std::size_t chunks) const
     {
-        const std::size_t size = chunks == 0 ? 0 : chunks * chunk - (isEncryption ? 0 : 56);
-        Bytes start = output();
-        start.resize(std::min(size, start.size()));
+        Bytes start = output;
+        start.resize(std::min(chunks == 0 ? 0 : chunks * chunk - (isEncryption ? 0 : 56), output.size()));
         return start;
     }
+
+    bool isEncryption;
+    Job job;
+    std::uint64_t chunk; ///< as the engine rounds it
+    Bytes input;
+    Bytes output;
+    Recorder recorder;
 };
 
-std::vector<Direction> directions()
+constexpr int Chunks = 5;
+
+/// The calls up to a chunk, of which the first reports nothing.
+std::string courseUpTo(int chunks)
 {
-    std::vector<Direction> all;
-    for (const char* name : {"Sosemanuk-192", "Blowfish-448", "Serpent-192", "Threefish-1024"})
-        for (const bool isEncryption : {true, false})
-            all.emplace_back(name, isEncryption);
-    return all;
+    return "s" + std::string(static_cast<std::size_t>(std::max(chunks - 1, 0)), 'p');
 }
 
-constexpr std::size_t Chunks = 5; ///< of 4 chunks of data and the header
-
-/// Runs until call number `failing` of the stream fails; expects that error and the chunks before it.
-void expectFailureAt(int failing, Direction direction, bool failInput)
+void forEveryWay(const std::function<void(Way&)>& action)
 {
-    SCOPED_TRACE(std::string(direction.job.algorithm.name) + ", call " + std::to_string(failing));
-    MemoryInput in(direction.input());
-    MemoryOutput out;
-    (failInput ? in.faults : out.faults).failAtCall = failing;
-    Recorder recorder;
-    direction.job.callback = &recorder;
-    const CryptoResult expected(failInput ? err::ReadStreamFailed : err::WriteStreamFailed, StreamFault);
-    EXPECT_EQ(direction.run(in, out), expected);
-    EXPECT_EQ(recorder.result, expected);
-    EXPECT_EQ(recorder.calls.front(), 's');
-    EXPECT_EQ(recorder.calls.back(), 'f');
-    EXPECT_EQ(out.bytes, direction.outputOf(static_cast<std::size_t>(failing - 1)));
+    for (const char* name : {"Sosemanuk-192", "Blowfish-448", "Serpent-192", "Threefish-1024"})
+        for (const bool isEncryption : {true, false}) {
+            SCOPED_TRACE(name + std::string(isEncryption ? " encrypts" : " decrypts"));
+            Way way(name, isEncryption);
+            action(way);
+        }
 }
 
 TEST(Operation, EveryReadAndWriteMayFail)
 {
-    for (const Direction& direction : directions()) {
-        MemoryInput in(direction.input());
-        MemoryOutput out;
-        ASSERT_EQ(direction.run(in, out), CryptoResult());
-        ASSERT_EQ(in.calls, static_cast<int>(Chunks));
-        ASSERT_EQ(out.calls, static_cast<int>(Chunks));
-        for (int call = 1; call <= in.calls; ++call) {
-            expectFailureAt(call, direction, true);
-            expectFailureAt(call, direction, false);
-        }
-    }
-}
-
-TEST(Operation, AShrinkingInputAndAShortWriteAreErrors)
-{
-    for (const Direction& direction : directions()) {
-        const Bytes input = direction.input();
-        for (std::int64_t size = 0; size < std::ssize(input); size += 13) {
-            MemoryInput in(input);
-            in.shrinksTo = size;
-            MemoryOutput out;
-            EXPECT_EQ(direction.run(in, out), CryptoResult(err::ReadStreamFailed)) << size;
-        }
-        MemoryInput in(input);
-        MemoryOutput out;
-        out.faults.mostAtOnce = 3;
-        EXPECT_EQ(direction.run(in, out), CryptoResult(err::WriteStreamFailed));
-        EXPECT_EQ(out.calls, 1);
-    }
+    forEveryWay([](Way& way) {
+        for (int call = 1; call <= Chunks; ++call)
+            for (const bool reading : {true, false}) {
+                const Faults fault = {.failAtCall = call};
+                const Outcome outcome = reading ? way.run(fault) : way.run({}, fault);
+                const CryptoResult expected(reading ? err::ReadStreamFailed : err::WriteStreamFailed,
+                                            StreamFault);
+                EXPECT_EQ(outcome.result, expected) << call;
+                EXPECT_EQ(way.recorder.result, expected);
+                EXPECT_EQ(way.recorder.calls, courseUpTo(call - 1) + "f");
+                EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(call - 1)));
+            }
+        for (std::int64_t size = 0; size < std::ssize(way.input); size += 13)
+            EXPECT_EQ(way.run({.endsAt = size}).result, CryptoResult(err::ReadStreamFailed)) << size;
+        EXPECT_EQ(way.run({}, {.mostAtOnce = 3}).result, CryptoResult(err::WriteStreamFailed));
+    });
 }
 
 TEST(Operation, StopsAfterTheChunkAtHand)
 {
-    for (const Direction& direction : directions())
-        for (std::size_t chunks = 0; chunks <= Chunks; ++chunks) {
-            SCOPED_TRACE(std::string(direction.job.algorithm.name) + ", " + std::to_string(chunks));
-            const Job& job = direction.job;
-            const auto encryptor = encryptorOf(job.algorithm);
-            const auto decryptor = decryptorOf(job.algorithm);
-            const auto stop = [&] { direction.isEncryption ? encryptor->stop() : decryptor->stop(); };
-            stop(); // an early stop is forgotten at the start
-            MemoryInput in(direction.input());
-            MemoryOutput out;
-            Recorder recorder;
-            if (chunks == 0)
-                recorder.onStarted = stop;
-            out.faults.onCall = [&](int call) {
-                if (static_cast<std::size_t>(call) == chunks)
-                    stop();
-            };
-            EXPECT_EQ(direction.isEncryption ? encryptor->encrypt(&in, &out, job.key, job.iv, job.chunkSize,
-                                                                  0, false, &recorder, nullptr)
-                                             : decryptor->decrypt(&in, &out, job.key, job.iv, job.chunkSize,
-                                                                  0, &recorder, nullptr),
-                      CryptoResult());
-            EXPECT_EQ(recorder.calls, "s" + std::string(chunks < 2 ? 0 : chunks - 2, 'p') + "F");
-            EXPECT_EQ(out.bytes, direction.outputOf(chunks));
+    forEveryWay([](Way& way) {
+        for (int chunks = 0; chunks <= Chunks; ++chunks) {
+            way.stop(); // an early stop is forgotten at the start
+            way.recorder.onStarted = [&] { chunks == 0 ? way.stop() : void(); };
+            const Outcome outcome =
+                way.run({}, {.onCall = [&](int call) { call == chunks ? way.stop() : void(); }});
+            EXPECT_EQ(outcome.result, CryptoResult());
+            EXPECT_EQ(way.recorder.calls, courseUpTo(chunks - 1) + "F");
+            EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(chunks)));
         }
+    });
 }
 
 TEST(Operation, ReportsItsCourseInOrder)
 {
-    for (Direction direction : directions()) {
-        Recorder recorder;
-        int mark = 0;
-        direction.job.callback = &recorder;
-        direction.job.userData = &mark;
-        MemoryInput in(direction.input());
-        MemoryOutput out;
-        recorder.onStarted = [&] { EXPECT_EQ(in.calls, 0); };
-        ASSERT_EQ(direction.run(in, out), CryptoResult());
-        EXPECT_EQ(recorder.calls, "sppppf") << "the first chunk reports nothing";
-        EXPECT_EQ(recorder.data, &mark);
-        const auto total = static_cast<std::int64_t>(direction.data().size());
-        const auto chunk = static_cast<std::int64_t>(direction.chunk);
-        EXPECT_EQ(recorder.processed,
-                  (std::vector<std::int64_t>{2 * chunk - 56, 3 * chunk - 56, 4 * chunk - 56, total}));
-        EXPECT_FLOAT_EQ(recorder.percents.back(), 100);
-        EXPECT_FLOAT_EQ(recorder.percents.front(),
-                        static_cast<float>(2 * chunk - 56) * 100 / static_cast<float>(total));
+    forEveryWay([](Way& way) {
+        EXPECT_EQ(way.run().bytes, way.output);
+        EXPECT_EQ(way.recorder.calls, "sppppf") << "the first chunk reports nothing";
+        const auto chunk = static_cast<std::int64_t>(way.chunk);
+        EXPECT_EQ(way.recorder.processed,
+                  (std::vector{2 * chunk - 56, 3 * chunk - 56, 4 * chunk - 56, 4 * chunk}));
+        EXPECT_FLOAT_EQ(way.recorder.percents.front(),
+                        static_cast<float>(2 * chunk - 56) * 25 / static_cast<float>(chunk));
+        EXPECT_FLOAT_EQ(way.recorder.percents.back(), 100);
 
-        Recorder patient;
-        direction.job.callback = &patient;
-        direction.job.intervalMs = 100000;
-        MemoryInput again(direction.input());
-        ASSERT_EQ(direction.run(again, out), CryptoResult());
-        EXPECT_EQ(patient.calls, "sf");
-    }
-}
+        way.job.intervalMs = 100000;
+        EXPECT_EQ(way.run().bytes, way.output);
+        EXPECT_EQ(way.recorder.calls, "sf") << "no report is due yet";
 
-TEST(Operation, AnEmptyInputGivesAnEmptyOutput)
-{
-    for (Direction direction : directions()) {
-        Recorder recorder;
-        direction.job.callback = &recorder;
-        MemoryInput in({});
-        MemoryOutput out;
-        EXPECT_EQ(direction.run(in, out), CryptoResult());
-        EXPECT_EQ(recorder.calls, "sf");
-        EXPECT_EQ(out.calls, 0);
-    }
+        way.input.clear();
+        EXPECT_EQ(way.run().result, CryptoResult()) << "nothing gives nothing";
+        EXPECT_EQ(way.recorder.calls, "sf");
+        EXPECT_EQ(way.run().writes, 0);
+    });
 }
 
 /// All arguments are wrong; one after the other is put right.
@@ -211,87 +159,55 @@ TEST(Operation, ArgumentsAreCheckedInOrderWithoutACallback)
 {
     const Job right("AES-192");
     MemoryInput memoryInput(noise(10));
-    MemoryOutput out;
+    MemoryOutput memoryOutput;
     Recorder recorder;
-    for (int correct = 0; correct < 5; ++correct) {
+    const std::array codes = {err::NoInputStream, err::NoOutputStream, err::ChunkTooSmall,
+                              err::KeyLengthDiffers, err::IvLengthDiffers};
+    for (std::size_t correct = 0; correct < codes.size(); ++correct) {
         MemoryInput* in = correct > 0 ? &memoryInput : nullptr;
-        MemoryOutput* output = correct > 1 ? &out : nullptr;
+        MemoryOutput* out = correct > 1 ? &memoryOutput : nullptr;
         const std::uint32_t chunk = correct > 2 ? 8 : 7;
         const SecretBytes key = correct > 3 ? right.key : SecretBytes(right.key.size() + 1);
         const SecretBytes iv(right.iv.size() - 1);
-        const CryptoResult expected = std::array{err::NoInputStream, err::NoOutputStream, err::ChunkTooSmall,
-                                                 err::KeyLengthDiffers, err::IvLengthDiffers}
-                                          .at(static_cast<std::size_t>(correct));
-        EXPECT_EQ(
-            encryptorOf(right.algorithm)->encrypt(in, output, key, iv, chunk, 0, false, &recorder, nullptr),
-            expected);
-        EXPECT_EQ(decryptorOf(right.algorithm)->decrypt(in, output, key, iv, chunk, 0, &recorder, nullptr),
-                  expected);
+        EXPECT_EQ(right.encryptor->encrypt(in, out, key, iv, chunk, 0, false, &recorder, nullptr),
+                  CryptoResult(codes[correct]));
+        EXPECT_EQ(right.decryptor->decrypt(in, out, key, iv, chunk, 0, &recorder, nullptr),
+                  CryptoResult(codes[correct]));
     }
-    EXPECT_EQ(recorder.calls, "");
-    EXPECT_EQ(memoryInput.calls + out.calls, 0);
-}
-
-TEST(Operation, AKeyThatCannotBeDerivedEndsIt)
-{
-    const CatalogueEntry& algorithm = *tessaly::crypto::findAlgorithm("AES-256");
-    MemoryInput in(noise(10));
-    MemoryOutput out;
-    Recorder recorder;
     const auto derivation = err::library(err::KeyDerivationFailed);
-    const CryptoResult unknownHash(err::UnknownHash, derivation);
-    EXPECT_EQ(encryptorOf(algorithm)->encryptWithPassword(&in, &out, "x", 99, false, &recorder, nullptr),
-              unknownHash);
-    EXPECT_EQ(decryptorOf(algorithm)->decryptWithPassword(&in, &out, "x", 99, &recorder, nullptr),
-              unknownHash);
-    EXPECT_EQ(encryptorOf(algorithm)->encryptWithPassword(&in, &out, nullptr, false, &recorder, nullptr),
+    EXPECT_EQ(
+        right.encryptor->encryptWithPassword(&memoryInput, &memoryOutput, "x", 99, false, &recorder, nullptr),
+        CryptoResult(err::UnknownHash, derivation));
+    EXPECT_EQ(right.decryptor->decryptWithPassword(&memoryInput, &memoryOutput, nullptr, &recorder, nullptr),
               CryptoResult(err::NullArgument, derivation));
     EXPECT_EQ(recorder.calls, "");
-    EXPECT_EQ(in.calls + out.calls, 0);
+    EXPECT_TRUE(memoryInput.isAtStart() && memoryOutput.calls == 0);
 }
 
 TEST(Operation, OnlyOneRunsAtATime)
 {
-    const Job job("Twofish-128");
-    const auto encryptor = encryptorOf(job.algorithm);
-    MemoryInput in(noise(10));
-    MemoryInput second(noise(10));
-    MemoryOutput out;
-    Recorder recorder;
-    Recorder refused;
-    recorder.onStarted = [&] {
-        EXPECT_TRUE(encryptor->isBusy());
-        EXPECT_EQ(encryptor->encrypt(&second, &out, job.key, job.iv, false, &refused, nullptr),
-                  CryptoResult(err::Busy));
+    Way way("Twofish-128", true);
+    way.recorder.onStarted = [&] {
+        EXPECT_TRUE(way.job.encryptor->isBusy());
+        EXPECT_EQ(way.job.encrypt(way.input).result, CryptoResult(err::Busy));
     };
-    EXPECT_EQ(encryptor->encrypt(&in, &out, job.key, job.iv, false, &recorder, nullptr), CryptoResult());
-    EXPECT_FALSE(encryptor->isBusy());
-    EXPECT_EQ(recorder.calls + refused.calls, "sf");
-    EXPECT_EQ(encryptor->encrypt(&second, &out, job.key, job.iv, false, &refused, nullptr), CryptoResult());
+    EXPECT_EQ(way.run().bytes, way.output);
+    EXPECT_EQ(way.recorder.calls, "sppppf");
+    EXPECT_FALSE(way.job.encryptor->isBusy());
 }
 
 TEST(Operation, NoExceptionLeavesIt)
 {
-    const auto raise = [] { throw std::runtime_error("of the caller"); };
+    const auto raise = [](auto...) { throw std::runtime_error("of the caller"); };
     const CryptoResult expected({err::CategoryCryptoPP, 6}, err::library(err::ProcessingFailed));
     for (int thrower = 0; thrower < 3; ++thrower) {
-        Job job("AES-128");
-        job.chunkSize = 64;
-        Recorder recorder;
-        MemoryInput in(noise(500));
-        MemoryOutput out;
-        if (thrower == 0)
-            recorder.onStarted = raise;
-        else if (thrower == 1)
-            recorder.onProgress = raise;
-        else
-            in.faults.onCall = [&](int) { raise(); };
-        const auto encryptor = encryptorOf(job.algorithm);
-        EXPECT_EQ(encryptor->encrypt(&in, &out, job.key, job.iv, job.chunkSize, 0, false, &recorder, nullptr),
-                  expected);
-        EXPECT_EQ(recorder.calls.back(), 'f');
-        EXPECT_EQ(recorder.result, expected);
-        EXPECT_FALSE(encryptor->isBusy());
+        Way way("AES-128", true);
+        if (thrower < 2)
+            (thrower == 0 ? way.recorder.onStarted : way.recorder.onProgress) = raise;
+        EXPECT_EQ(way.run(thrower == 2 ? Faults{.onCall = raise} : Faults{}).result, expected);
+        EXPECT_EQ(way.recorder.calls.back(), 'f');
+        EXPECT_EQ(way.recorder.result, expected);
+        EXPECT_FALSE(way.job.encryptor->isBusy());
     }
 }
 

@@ -5,73 +5,49 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <string>
 #include <sys/stat.h>
 
 namespace {
 
 using namespace tessaly::io;
-using tessaly::platform::widePath;
+namespace fs = std::filesystem;
 
-class PathCheck : public testing::Test
+TEST(PathCheck, TellsWhatStandsThereAndChangesNothing)
 {
-protected:
-    void SetUp() override
+    const test::TempFolder folder;
+    const auto wide = [&](const char* name) { return tessaly::platform::widePath(folder / name); };
+    test::writeFile(folder / "file", "data");
+    test::writeFile(folder / "other", "");
+    fs::create_directory(folder / "folder");
+    fs::create_symlink("file", folder / "link");
+    fs::create_symlink("nowhere", folder / "dangling");
+    fs::create_hard_link(folder / "file", folder / "hard");
+    ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
+    const struct
     {
-        test::writeFile(folder / "file", "data");
-        test::writeFile(folder / "other", "");
-        std::filesystem::create_directory(folder / "folder");
-        std::filesystem::create_symlink("file", folder / "link");
-        std::filesystem::create_symlink("other", folder / "otherlink");
-        std::filesystem::create_symlink("nowhere", folder / "dangling");
-        std::filesystem::create_hard_link(folder / "file", folder / "hard");
-        ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
+        const char* name;
+        InputCheck asInput;
+        OutputCheck asOutput;
+    } rows[] = {
+        {"new", InputCheck::NotFound, OutputCheck::Free},
+        {"other", InputCheck::Usable, OutputCheck::Exists},
+        {"file", InputCheck::Usable, OutputCheck::MatchesInput},
+        {"FILE", InputCheck::NotFound, OutputCheck::MatchesInput},
+        {"folder/../file", InputCheck::Usable, OutputCheck::MatchesInput},
+        {"link", InputCheck::Usable, OutputCheck::MatchesInput},
+        {"hard", InputCheck::Usable, OutputCheck::MatchesInput},
+        {"folder", InputCheck::NotRegular, OutputCheck::NotRegular},
+        {"fifo", InputCheck::NotRegular, OutputCheck::NotRegular},
+        {"/dev/null", InputCheck::NotRegular, OutputCheck::NotRegular},
+        {"dangling", InputCheck::NotFound, OutputCheck::NotRegular},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(checkInput(wide(row.name)), row.asInput) << row.name;
+        EXPECT_EQ(checkOutput(wide("file"), wide(row.name)), row.asOutput) << row.name;
     }
-    std::wstring wide(const std::string& name) const { return widePath(folder / name); }
-
-    test::TempFolder folder;
-};
-
-TEST_F(PathCheck, OutputIsComparedWithWhatStandsThere)
-{
-    const std::pair<const char*, OutputCheck> rows[] = {
-        {"new", OutputCheck::Free},
-        {"other", OutputCheck::Exists},
-        {"otherlink", OutputCheck::Exists},
-        {"file", OutputCheck::MatchesInput},
-        {"FILE", OutputCheck::MatchesInput},
-        {"folder/../file", OutputCheck::MatchesInput},
-        {"link", OutputCheck::MatchesInput},
-        {"hard", OutputCheck::MatchesInput},
-        {"folder", OutputCheck::NotRegular},
-        {"fifo", OutputCheck::NotRegular},
-        {"dangling", OutputCheck::NotRegular},
-    };
-    for (const auto& [name, expected] : rows)
-        EXPECT_EQ(checkOutput(wide("file"), wide(name)), expected) << name;
-    EXPECT_EQ(checkOutput(wide("file"), L"/dev/null"), OutputCheck::NotRegular);
-    EXPECT_FALSE(std::filesystem::exists(folder / "new"));
-}
-
-TEST_F(PathCheck, InputIsARegularFile)
-{
-    const std::pair<const char*, InputCheck> rows[] = {
-        {"file", InputCheck::Usable},       {"link", InputCheck::Usable},
-        {"new", InputCheck::NotFound},      {"dangling", InputCheck::NotFound},
-        {"folder", InputCheck::NotRegular}, {"fifo", InputCheck::NotRegular},
-    };
-    for (const auto& [name, expected] : rows)
-        EXPECT_EQ(checkInput(wide(name)), expected) << name;
-    EXPECT_EQ(checkInput(L""), InputCheck::NotFound);
-}
-
-TEST_F(PathCheck, AFileIsRemovedByItsWholeNameAlone)
-{
+    EXPECT_FALSE(fs::exists(folder / "new"));
     EXPECT_FALSE(tessaly::platform::removeFile(wide("file").append(1, L'\0').append(L"x")).ok());
-    EXPECT_TRUE(std::filesystem::exists(folder / "file"));
-    EXPECT_TRUE(tessaly::platform::removeFile(wide("file")).ok());
-    EXPECT_FALSE(std::filesystem::exists(folder / "file"));
+    EXPECT_TRUE(fs::exists(folder / "file")) << "no half of a name removes it";
 }
 
 TEST(SamePath, IgnoresLetterCaseInEveryLanguage)
@@ -79,7 +55,7 @@ TEST(SamePath, IgnoresLetterCaseInEveryLanguage)
     EXPECT_TRUE(samePath(L"/a/Straße/ÄÖ", L"/A/./b/../straße/äö"));
     EXPECT_TRUE(samePath(L"/ФАЙЛ", L"/файл"));
     EXPECT_FALSE(samePath(L"/a/b", L"/a/c"));
-    EXPECT_TRUE(samePath(L"file", std::filesystem::current_path().wstring() + L"/FILE"));
+    EXPECT_TRUE(samePath(L"file", fs::current_path().wstring() + L"/FILE"));
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -10,20 +10,25 @@ namespace test {
 
 using Row = std::vector<std::string>;
 
-/// The rows of a text file in tests/data, split into fields at blanks. Empty lines and those that
-/// begin with '#' are skipped; "-" stands for an empty field.
+/// The rows of a text file in tests/data, or of all files in a folder there, split into fields at
+/// blanks. Lines that begin with '#' are skipped; "-" stands for an empty field.
 inline std::vector<Row> dataRows(const std::string& name)
 {
-    std::ifstream file(std::string(TEST_DATA_DIR "/") + name);
-    if (!file)
-        throw std::runtime_error("no " + name);
+    const std::filesystem::path path = std::filesystem::path(TEST_DATA_DIR) / name;
     std::vector<Row> rows;
+    if (std::filesystem::is_directory(path)) {
+        for (const auto& entry : std::filesystem::directory_iterator(path))
+            for (const Row& row : dataRows(name + "/" + entry.path().filename().string()))
+                rows.push_back(row);
+        return rows;
+    }
+    std::ifstream file(path);
     for (std::string line; std::getline(file, line);) {
         std::istringstream fields(line);
         Row row;
         for (std::string field; fields >> field;)
             row.push_back(field == "-" ? "" : field);
-        if (!row.empty() && !row.front().starts_with('#'))
+        if (!line.starts_with('#'))
             rows.push_back(row);
     }
     return rows;
