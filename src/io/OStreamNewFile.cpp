@@ -1,5 +1,6 @@
 #include "io/OStreamNewFile.h"
 
+#include <mutex>
 #include <utility>
 
 namespace tessaly::io {
@@ -13,10 +14,12 @@ ResultCode OStreamNewFile::create()
 {
     if (isCreated() || !m_createError.ok())
         return m_createError;
-    m_createError = m_stream.open(m_path, platform::Creation::CreateNew, m_access);
-    if (m_createError.ok())
+    const ResultCode opened = m_stream.open(m_path, platform::Creation::CreateNew, m_access);
+    if (opened.ok())
         m_created = m_stream.status();
-    return m_createError;
+    std::lock_guard guard(m_lock);
+    m_createError = opened;
+    return opened;
 }
 
 std::int64_t OStreamNewFile::write(const void* buffer, std::int64_t count)
@@ -26,6 +29,7 @@ std::int64_t OStreamNewFile::write(const void* buffer, std::int64_t count)
 
 ResultCode OStreamNewFile::lastError() const
 {
+    std::lock_guard guard(m_lock);
     return m_createError.ok() ? m_stream.lastError() : m_createError;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "io/OStreamFile.h"
+#include "lib/sync/Locker.h"
 
 #include <string>
 
@@ -33,7 +34,8 @@ private:
     platform::Access m_access;
     OStreamFile<wchar_t> m_stream;
     platform::FileStatus m_created;
-    ResultCode m_createError; ///< kept: once refused, the file is not tried again
+    mutable sync::Locker m_lock; ///< guards m_createError
+    ResultCode m_createError;    ///< kept: once refused, the file is not tried again
 };
 
 } // namespace tessaly::io

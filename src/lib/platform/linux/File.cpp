@@ -75,6 +75,8 @@ FileStatus fileStatus(const std::wstring& path)
 
 ResultCode removeFile(const std::wstring& path)
 {
+    if (!isUsable(path))
+        return err::system(ENOENT);
     return outcome(::unlink(nativePath(path).c_str()) == 0);
 }
 
@@ -84,8 +86,8 @@ ResultCode syncFolderOf(const std::wstring& path)
     if (folder.empty())
         folder = ".";
     const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return err::system(errno);
+    if (handle < 0) // a folder that takes files without showing them can't be synced; the file itself was
+        return outcome(errno == EACCES);
     ResultCode result = outcome(::fsync(handle) == 0);
     if (result == err::system(EINVAL)) // some file systems have nothing to sync in a folder
         result = {};

@@ -1,0 +1,67 @@
+#include "crypto/AlgInfo.h"
+#include "crypto/Engine.h"
+#include "support/DataRows.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace test;
+using tessaly::crypto::AlgInfo;
+using tessaly::crypto::CipherMode;
+using tessaly::cryptopp::CDecryptorFactory;
+using tessaly::cryptopp::CEncryptorFactory;
+
+TEST(Catalogue, IsTheOnePublished)
+{
+    const auto rows = dataRows("algorithms.txt");
+    ASSERT_EQ(rows.size(), tessaly::crypto::catalogue().size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const CatalogueEntry& entry = tessaly::crypto::catalogue()[i];
+        const auto expectRow = [&](const tessaly::crypto::ISymmetricEngine& engine) {
+            const Row row = {
+                std::to_string(engine.algorithmId()), std::string(entry.name),
+                std::to_string(engine.keyLength()),   std::to_string(engine.blockLength()),
+                std::to_string(engine.ivLength()),    std::to_string(AlgInfo().keyDerivationHash(entry.id))};
+            EXPECT_EQ(row, rows[i]);
+        };
+        const Job job(entry);
+        expectRow(*job.encryptor);
+        expectRow(*job.decryptor);
+        const bool stream = job.encryptor->blockLength() == 0;
+        const tessaly::crypto::AlgRecord expected = {job.encryptor->keyLength(),
+                                                     job.encryptor->ivLength(),
+                                                     stream ? CipherMode::Stream : CipherMode::Cbc,
+                                                     job.encryptor->blockLength(),
+                                                     entry.name == "Panama",
+                                                     stream};
+        EXPECT_EQ(AlgInfo().record(entry.id), expected);
+        EXPECT_EQ(findAlgorithm(entry.name), &entry);
+    }
+    EXPECT_EQ(findAlgorithm("aes-256")->id, tessaly::crypto::DefaultAlgorithmId);
+}
+
+TEST(Catalogue, WhatItDoesNotHoldIsUnknownEverywhere)
+{
+    const auto expectUnknown = [](std::uint32_t provider, std::uint32_t id) {
+        Job job("AES-256");
+        EXPECT_EQ(CEncryptorFactory().create(provider, id, &job.encryptor),
+                  CryptoResult(err::UnknownAlgorithm));
+        EXPECT_EQ(CDecryptorFactory().create(provider, id, &job.decryptor),
+                  CryptoResult(err::UnknownAlgorithm));
+        EXPECT_TRUE(!job.encryptor && !job.decryptor);
+    };
+    for (const std::uint32_t id : {0U, 49U, 51U, 103U, 253U, 1013U, 1063U, 4294967295U}) {
+        EXPECT_EQ(AlgInfo().record(id), tessaly::crypto::AlgRecord());
+        EXPECT_EQ(AlgInfo().keyDerivationHash(id), 0U);
+        EXPECT_EQ(tessaly::crypto::displayName(id), "");
+        expectUnknown(1, id);
+    }
+    expectUnknown(0, 252);
+    expectUnknown(10, 252);
+    EXPECT_EQ(findAlgorithm("AES"), nullptr);
+    EXPECT_EQ(CEncryptorFactory().create(1, 252, nullptr), CryptoResult(err::NullArgument));
+    EXPECT_EQ(CDecryptorFactory().create(9, 9, nullptr), CryptoResult(err::NullArgument));
+}
+
+} // namespace

@@ -1,0 +1,138 @@
+#pragma once
+
+#include "crypto/Catalogue.h"
+#include "crypto/CipherRun.h"
+#include "crypto/FileHeader.h"
+#include "crypto/MemoryStreams.h"
+#include "crypto/cryptopp/CDecryptorFactory.h"
+#include "crypto/cryptopp/CEncryptorFactory.h"
+#include "lib/secret/Hex.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+namespace tessaly::crypto {
+
+inline void PrintTo(const CryptoResult& result, std::ostream* out)
+{
+    *out << '(' << result.module << ", " << result.code << "; " << result.subModule << ", " << result.subCode
+         << ')';
+}
+
+} // namespace tessaly::crypto
+
+namespace test {
+
+using tessaly::SecretBytes;
+using tessaly::crypto::CatalogueEntry;
+using tessaly::crypto::CryptoResult;
+using tessaly::crypto::findAlgorithm;
+namespace err = tessaly::err;
+
+inline Bytes fromHex(std::string_view hex)
+{
+    const auto bytes = tessaly::decodeHex(hex).value();
+    return {bytes.begin(), bytes.end()};
+}
+
+inline SecretBytes secret(const Bytes& bytes)
+{
+    return {bytes.begin(), bytes.end()};
+}
+
+/// Bytes without any order, the same ones in every run.
+inline Bytes noise(std::size_t count, std::uint32_t seed = 1)
+{
+    Bytes bytes(count);
+    std::uint32_t state = seed * 2654435761U;
+    for (std::uint8_t& byte : bytes) {
+        state = state * 1664525U + 1013904223U;
+        byte = static_cast<std::uint8_t>(state >> 24);
+    }
+    return bytes;
+}
+
+inline Bytes operator^(Bytes first, const Bytes& second)
+{
+    for (std::size_t i = 0; i < first.size(); ++i)
+        first[i] ^= second.at(i);
+    return first;
+}
+
+struct Outcome
+{
+    CryptoResult result;
+    Bytes bytes;
+    int writes = 0;
+};
+
+/// An encryptor and a decryptor with all that their full forms take, from memory to memory.
+struct Job
+{
+    explicit Job(std::string_view name) : Job(*findAlgorithm(name)) {}
+    explicit Job(const CatalogueEntry& entry)
+        : algorithm(entry),
+          key(secret(noise(entry.record.keyLength, 2))),
+          iv(secret(noise(entry.record.ivLength, 3)))
+    {
+        EXPECT_TRUE(tessaly::cryptopp::CEncryptorFactory().create(1, entry.id, &encryptor).ok());
+        EXPECT_TRUE(tessaly::cryptopp::CDecryptorFactory().create(1, entry.id, &decryptor).ok());
+    }
+
+    Outcome encrypt(MemoryInput in, const Faults& outputFaults = {}) const
+    {
+        MemoryOutput out(outputFaults);
+        const auto result =
+            encryptor->encrypt(&in, &out, key, iv, chunkSize, intervalMs, salt, callback, nullptr);
+        return {result, out.bytes, out.calls};
+    }
+    Outcome decrypt(MemoryInput in, const Faults& outputFaults = {}) const
+    {
+        MemoryOutput out(outputFaults);
+        const auto result = decryptor->decrypt(&in, &out, key, iv, chunkSize, intervalMs, callback, nullptr);
+        return {result, out.bytes, out.calls};
+    }
+
+    const CatalogueEntry& algorithm;
+    SecretBytes key;
+    SecretBytes iv;
+    std::uint32_t chunkSize = tessaly::crypto::DefaultChunkSize;
+    std::uint32_t intervalMs = 0;
+    bool salt = false;
+    tessaly::crypto::ICipherCallback* callback = nullptr;
+    std::unique_ptr<tessaly::crypto::ISymmetricEncryptor> encryptor;
+    std::unique_ptr<tessaly::crypto::ISymmetricDecryptor> decryptor;
+};
+
+inline Bytes headerOf(const CatalogueEntry& algorithm, std::uint64_t length)
+{
+    Bytes header(tessaly::crypto::HeaderSize, 0xAA);
+    EXPECT_TRUE(tessaly::crypto::makeHeader(algorithm.id, length, false,
+                                            std::span<std::uint8_t, tessaly::crypto::HeaderSize>(header))
+                    .ok());
+    return header;
+}
+
+/// The start of what the cipher alone makes of `input`. For a block cipher that is one block: the IV
+/// is chosen so that CBC feeds it to the cipher. For a stream cipher it is the IV, and the answer
+/// the start of the key stream.
+inline Bytes enciphered(const CatalogueEntry& algorithm, const Bytes& key, const Bytes& input,
+                        std::size_t count)
+{
+    Job job(algorithm);
+    Bytes plainFile = headerOf(algorithm, count);
+    plainFile.resize(plainFile.size() + count + input.size());
+    job.key = secret(key);
+    job.iv = secret(algorithm.record.stream ? input : input ^ plainFile);
+    Bytes file = job.encrypt(Bytes(count)).bytes;
+    if (algorithm.record.stream)
+        file = file ^ plainFile;
+    file.resize(count);
+    return file;
+}
+
+} // namespace test

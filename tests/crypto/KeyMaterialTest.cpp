@@ -1,0 +1,36 @@
+#include "crypto/KeyMaterial.h"
+#include "crypto/Engine.h"
+#include "support/DataRows.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace test;
+using tessaly::crypto::deriveKey;
+
+TEST(KeyMaterial, IsWhatAnotherProgramComputes)
+{
+    for (const Row& row : dataRows("keys.txt")) {
+        const auto hashId = static_cast<std::uint32_t>(std::stoul(row.at(0)));
+        const Bytes letters = fromHex(row.at(2));
+        SecretBytes key = {1, 2, 3};
+        EXPECT_EQ(deriveKey(key, static_cast<std::uint32_t>(std::stoul(row[1])), hashId,
+                            std::string(letters.begin(), letters.end()).append("\0cut", 4).c_str()),
+                  CryptoResult());
+        EXPECT_EQ(key, secret(fromHex(row.at(3)))) << row[0] << ' ' << row[1] << ' ' << row[2];
+    }
+}
+
+TEST(KeyMaterial, FailsWithoutAKey)
+{
+    SecretBytes key;
+    for (const std::uint32_t hashId : {0U, 2U, 24U, 1U}) {
+        key = {1, 2, 3};
+        EXPECT_EQ(deriveKey(key, 32, hashId, "password"), CryptoResult(err::UnknownHash));
+        EXPECT_TRUE(key.empty());
+    }
+    EXPECT_EQ(deriveKey(key, 32, 21, nullptr), CryptoResult(err::NullArgument));
+}
+
+} // namespace

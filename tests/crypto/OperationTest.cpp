@@ -1,0 +1,214 @@
+#include "crypto/Engine.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <functional>
+#include <stdexcept>
+
+namespace {
+
+using namespace test;
+
+/// Notes every call: s(tarted), p(rogress), f(inished), F(inished after a stop).
+class Recorder final : public tessaly::crypto::ICipherCallback
+{
+public:
+    std::string calls;
+    std::vector<std::int64_t> processed;
+    std::vector<float> percents;
+    CryptoResult result;
+    void* data = nullptr;
+    std::function<void()> onStarted = [] {};
+    std::function<void()> onProgress = [] {};
+
+    void started(void* userData) override
+    {
+        calls += 's';
+        data = userData;
+        onStarted();
+    }
+    void progress(std::int64_t count, float percent, void* userData) override
+    {
+        calls += userData == data ? 'p' : '?';
+        processed.push_back(count);
+        percents.push_back(percent);
+        onProgress();
+    }
+    void finished(bool stopped, const CryptoResult& outcome, void* userData) override
+    {
+        calls += userData != data ? '?' : stopped ? 'F' : 'f';
+        result = outcome;
+    }
+};
+
+/// One way of one algorithm over five small chunks, whose course is recorded.
+struct Way
+{
+    Way(const char* name, bool encryption) : isEncryption(encryption), job(name)
+    {
+        job.chunkSize = 60;
+        chunk = tessaly::crypto::effectiveChunkSize(60, job.algorithm.record.blockLength);
+        const Bytes data = noise(4 * chunk);
+        const Bytes encrypted = job.encrypt(data).bytes;
+        input = isEncryption ? data : encrypted;
+        output = isEncryption ? encrypted : data;
+        job.callback = &recorder;
+    }
+
+    Outcome run(const Faults& inputFaults = {}, const Faults& outputFaults = {})
+    {
+        recorder.calls.clear();
+        return isEncryption ? job.encrypt({input, inputFaults}, outputFaults)
+                            : job.decrypt({input, inputFaults}, outputFaults);
+    }
+    void stop() { isEncryption ? job.encryptor->stop() : job.decryptor->stop(); }
+    Bytes outputOf(std::size_t chunks) const
+    {
+        Bytes start = output;
+        start.resize(std::min(chunks == 0 ? 0 : chunks * chunk - (isEncryption ? 0 : 56), output.size()));
+        return start;
+    }
+
+    bool isEncryption;
+    Job job;
+    std::uint64_t chunk; ///< as the engine rounds it
+    Bytes input;
+    Bytes output;
+    Recorder recorder;
+};
+
+constexpr int Chunks = 5;
+
+/// The calls up to a chunk, of which the first reports nothing.
+std::string courseUpTo(int chunks)
+{
+    return "s" + std::string(static_cast<std::size_t>(std::max(chunks - 1, 0)), 'p');
+}
+
+void forEveryWay(const std::function<void(Way&)>& action)
+{
+    for (const char* name : {"Sosemanuk-192", "Blowfish-448", "Serpent-192", "Threefish-1024"})
+        for (const bool isEncryption : {true, false}) {
+            SCOPED_TRACE(name + std::string(isEncryption ? " encrypts" : " decrypts"));
+            Way way(name, isEncryption);
+            action(way);
+        }
+}
+
+TEST(Operation, EveryReadAndWriteMayFail)
+{
+    forEveryWay([](Way& way) {
+        for (int call = 1; call <= Chunks; ++call)
+            for (const bool reading : {true, false}) {
+                const Faults fault = {.failAtCall = call};
+                const Outcome outcome = reading ? way.run(fault) : way.run({}, fault);
+                const CryptoResult expected(reading ? err::ReadStreamFailed : err::WriteStreamFailed,
+                                            StreamFault);
+                EXPECT_EQ(outcome.result, expected) << call;
+                EXPECT_EQ(way.recorder.result, expected);
+                EXPECT_EQ(way.recorder.calls, courseUpTo(call - 1) + "f");
+                EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(call - 1)));
+            }
+        for (std::int64_t size = 0; size < std::ssize(way.input); size += 13)
+            EXPECT_EQ(way.run({.endsAt = size}).result, CryptoResult(err::ReadStreamFailed)) << size;
+        EXPECT_EQ(way.run({}, {.mostAtOnce = 3}).result, CryptoResult(err::WriteStreamFailed));
+    });
+}
+
+TEST(Operation, StopsAfterTheChunkAtHand)
+{
+    forEveryWay([](Way& way) {
+        for (int chunks = 0; chunks <= Chunks; ++chunks) {
+            way.stop(); // an early stop is forgotten at the start
+            way.recorder.onStarted = [&] { chunks == 0 ? way.stop() : void(); };
+            const Outcome outcome =
+                way.run({}, {.onCall = [&](int call) { call == chunks ? way.stop() : void(); }});
+            EXPECT_EQ(outcome.result, CryptoResult());
+            EXPECT_EQ(way.recorder.calls, courseUpTo(chunks - 1) + "F");
+            EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(chunks)));
+        }
+    });
+}
+
+TEST(Operation, ReportsItsCourseInOrder)
+{
+    forEveryWay([](Way& way) {
+        EXPECT_EQ(way.run().bytes, way.output);
+        EXPECT_EQ(way.recorder.calls, "sppppf") << "the first chunk reports nothing";
+        const auto chunk = static_cast<std::int64_t>(way.chunk);
+        EXPECT_EQ(way.recorder.processed,
+                  (std::vector{2 * chunk - 56, 3 * chunk - 56, 4 * chunk - 56, 4 * chunk}));
+        EXPECT_FLOAT_EQ(way.recorder.percents.front(),
+                        static_cast<float>(2 * chunk - 56) * 25 / static_cast<float>(chunk));
+        EXPECT_FLOAT_EQ(way.recorder.percents.back(), 100);
+
+        way.job.intervalMs = 100000;
+        EXPECT_EQ(way.run().bytes, way.output);
+        EXPECT_EQ(way.recorder.calls, "sf") << "no report is due yet";
+
+        way.input.clear();
+        EXPECT_EQ(way.run().result, CryptoResult()) << "nothing gives nothing";
+        EXPECT_EQ(way.recorder.calls, "sf");
+        EXPECT_EQ(way.run().writes, 0);
+    });
+}
+
+/// All arguments are wrong; one after the other is put right.
+TEST(Operation, ArgumentsAreCheckedInOrderWithoutACallback)
+{
+    const Job right("AES-192");
+    MemoryInput memoryInput(noise(10));
+    MemoryOutput memoryOutput;
+    Recorder recorder;
+    const std::array codes = {err::NoInputStream, err::NoOutputStream, err::ChunkTooSmall,
+                              err::KeyLengthDiffers, err::IvLengthDiffers};
+    for (std::size_t correct = 0; correct < codes.size(); ++correct) {
+        MemoryInput* in = correct > 0 ? &memoryInput : nullptr;
+        MemoryOutput* out = correct > 1 ? &memoryOutput : nullptr;
+        const std::uint32_t chunk = correct > 2 ? 8 : 7;
+        const SecretBytes key = correct > 3 ? right.key : SecretBytes(right.key.size() + 1);
+        const SecretBytes iv(right.iv.size() - 1);
+        EXPECT_EQ(right.encryptor->encrypt(in, out, key, iv, chunk, 0, false, &recorder, nullptr),
+                  CryptoResult(codes[correct]));
+        EXPECT_EQ(right.decryptor->decrypt(in, out, key, iv, chunk, 0, &recorder, nullptr),
+                  CryptoResult(codes[correct]));
+    }
+    const auto derivation = err::library(err::KeyDerivationFailed);
+    EXPECT_EQ(
+        right.encryptor->encryptWithPassword(&memoryInput, &memoryOutput, "x", 99, false, &recorder, nullptr),
+        CryptoResult(err::UnknownHash, derivation));
+    EXPECT_EQ(right.decryptor->decryptWithPassword(&memoryInput, &memoryOutput, nullptr, &recorder, nullptr),
+              CryptoResult(err::NullArgument, derivation));
+    EXPECT_EQ(recorder.calls, "");
+    EXPECT_TRUE(memoryInput.isAtStart() && memoryOutput.calls == 0);
+}
+
+TEST(Operation, OnlyOneRunsAtATime)
+{
+    Way way("Twofish-128", true);
+    way.recorder.onStarted = [&] {
+        EXPECT_TRUE(way.job.encryptor->isBusy());
+        EXPECT_EQ(way.job.encrypt(way.input).result, CryptoResult(err::Busy));
+    };
+    EXPECT_EQ(way.run().bytes, way.output);
+    EXPECT_EQ(way.recorder.calls, "sppppf");
+    EXPECT_FALSE(way.job.encryptor->isBusy());
+}
+
+TEST(Operation, NoExceptionLeavesIt)
+{
+    const auto raise = [](auto...) { throw std::runtime_error("of the caller"); };
+    const CryptoResult expected({err::CategoryCryptoPP, 6}, err::library(err::ProcessingFailed));
+    for (int thrower = 0; thrower < 3; ++thrower) {
+        Way way("AES-128", true);
+        if (thrower < 2)
+            (thrower == 0 ? way.recorder.onStarted : way.recorder.onProgress) = raise;
+        EXPECT_EQ(way.run(thrower == 2 ? Faults{.onCall = raise} : Faults{}).result, expected);
+        EXPECT_EQ(way.recorder.calls.back(), 'f');
+        EXPECT_EQ(way.recorder.result, expected);
+        EXPECT_FALSE(way.job.encryptor->isBusy());
+    }
+}
+
+} // namespace

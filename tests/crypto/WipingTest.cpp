@@ -1,0 +1,97 @@
+#include "crypto/AlgInfo.h"
+#include "crypto/Engine.h"
+#include "crypto/KeyMaterial.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <malloc.h>
+#include <new>
+
+namespace {
+
+using namespace test;
+
+/// What must not be in memory that is given back; null: nobody looks.
+std::atomic<const std::vector<Bytes>*> searched = nullptr;
+std::atomic<int> found = 0;
+
+int leaksOf(const std::vector<Bytes>& secrets, const std::function<void()>& work)
+{
+    found = 0;
+    searched = &secrets;
+    work();
+    searched = nullptr;
+    return found;
+}
+
+} // namespace
+
+// This program's own: every block is looked through before it goes back to the system.
+void operator delete(void* memory) noexcept
+{
+    const auto* begin = static_cast<const std::uint8_t*>(memory);
+    if (const std::vector<Bytes>* secrets = searched; memory != nullptr && secrets != nullptr)
+        for (const Bytes& secret : *secrets) {
+            const auto* end = begin + ::malloc_usable_size(memory);
+            found += std::search(begin, end, secret.begin(), secret.end()) != end ? 1 : 0;
+        }
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    operator delete(memory);
+}
+void* operator new(std::size_t size)
+{
+    if (void* memory = std::malloc(std::max<std::size_t>(size, 1)))
+        return memory;
+    throw std::bad_alloc();
+}
+
+namespace {
+
+TEST(Wiping, TheSearchFindsWhatIsNotWiped)
+{
+    const Bytes bytes = noise(16);
+    EXPECT_EQ(leaksOf({bytes}, [&] { const Bytes careless = bytes; }), 1);
+    EXPECT_EQ(leaksOf({bytes}, [&] { const SecretBytes careful = secret(bytes); }), 0);
+}
+
+/// Password, key and plain data stay in no freed block, whether all goes well or not.
+TEST(Wiping, NoSecretStaysBehind)
+{
+    const char* const password = "a password of some length";
+    const Bytes plain = noise(50000);
+    for (const char* name : {"AES-256", "Salsa20-256", "Threefish-1024"})
+        for (const int failingWrite : {0, 1, 2}) {
+            const Job job(name);
+            SecretBytes key;
+            ASSERT_TRUE(tessaly::crypto::deriveKey(
+                            key, job.algorithm.record.keyLength,
+                            tessaly::crypto::AlgInfo().keyDerivationHash(job.algorithm.id), password)
+                            .ok());
+            const std::vector<Bytes> secrets = {{password, password + 16},
+                                                {key.begin(), key.begin() + 16},
+                                                {plain.begin() + 1000, plain.begin() + 1016},
+                                                {plain.begin() + 40000, plain.begin() + 40016}};
+            MemoryInput in(plain);
+            MemoryOutput out;
+            MemoryOutput decrypted({.failAtCall = failingWrite});
+            decrypted.bytes.reserve(plain.size()); // growing would leave copies of its own
+            const auto encrypt = [&] {
+                (void)job.encryptor->encryptWithPassword(&in, &out, password, false, nullptr, nullptr);
+            };
+            EXPECT_EQ(leaksOf(secrets, encrypt), 0);
+            MemoryInput encrypted(out.bytes);
+            const auto decrypt = [&] {
+                (void)job.decryptor->decryptWithPassword(&encrypted, &decrypted, password, nullptr, nullptr);
+            };
+            EXPECT_EQ(leaksOf(secrets, decrypt), 0);
+            EXPECT_EQ(decrypted.bytes == plain, failingWrite == 0);
+        }
+}
+
+} // namespace

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace test {
+
+using Row = std::vector<std::string>;
+
+/// The rows of a text file in tests/data, or of all files in a folder there, split into fields at
+/// blanks. Lines that begin with '#' are skipped; "-" stands for an empty field.
+inline std::vector<Row> dataRows(const std::string& name)
+{
+    const std::filesystem::path path = std::filesystem::path(TEST_DATA_DIR) / name;
+    std::vector<Row> rows;
+    if (std::filesystem::is_directory(path)) {
+        for (const auto& entry : std::filesystem::directory_iterator(path))
+            for (const Row& row : dataRows(name + "/" + entry.path().filename().string()))
+                rows.push_back(row);
+        return rows;
+    }
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);) {
+        std::istringstream fields(line);
+        Row row;
+        for (std::string field; fields >> field;)
+            row.push_back(field == "-" ? "" : field);
+        if (!line.starts_with('#'))
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+} // namespace test
