@@ -147,7 +147,8 @@ void saveOptionsDialog(Gallery& gallery)
     dialog.setOptions(options);
     gallery.save(QStringLiteral("options_general"), dialog);
     auto* scrollBar = dialog.findChild<QScrollArea*>(QStringLiteral("scrollGeneral"))->verticalScrollBar();
-    gallery.save(QStringLiteral("options_general_end"), dialog, [=] { scrollBar->setValue(scrollBar->maximum()); });
+    gallery.save(QStringLiteral("options_general_end"), dialog,
+                 [=] { scrollBar->setValue(scrollBar->maximum()); });
     dialog.findChild<QCheckBox*>(QStringLiteral("checkUseOutputDir"))->setChecked(true);
     gallery.save(QStringLiteral("options_small"), dialog, [&dialog] { dialog.resize(400, 300); });
     dialog.resize(dialog.sizeHint());
@@ -166,7 +167,8 @@ void saveInfoDialogs(Gallery& gallery)
 
     CTextViewDialog log;
     log.setSource([] {
-        const auto line = QStringLiteral("[2024.03.05 14:07:09:042] [INFRM] [04312] [00988] [mainwindow] Line %1\n");
+        const auto line =
+            QStringLiteral("[2024.03.05 14:07:09:042] [INFRM] [04312] [00988] [mainwindow] Line %1\n");
         QString text;
         for (int number = 1; number <= 100; ++number)
             text += line.arg(number);

@@ -3,39 +3,25 @@
 #include "lib/logger/Level.h"
 #include "lib/settings/SAppOptions.h"
 #include "ui/style/ReadOnlyField.h"
-#include "ui/style/WheelGuard.h"
 #include "ui_CAdvancedOptionsFrame.h"
 
 #include <QEvent>
-
-namespace {
-
-/// A button that looks like a link: unlike a link in a label it is one stop for the keyboard.
-void makeLink(QPushButton& button)
-{
-    button.setStyleSheet(QStringLiteral(
-        "QPushButton { border: 1px solid transparent; color: palette(link); text-decoration: underline; }"
-        "QPushButton:focus { border: 1px dotted palette(link); }"));
-}
-
-} // namespace
 
 CAdvancedOptionsFrame::CAdvancedOptionsFrame(QWidget* parent)
     : QFrame(parent), m_ui(new Ui::CAdvancedOptionsFrame)
 {
     m_ui->setupUi(this);
-    thisapp::guardFromWheel(*m_ui->comboLevel);
     thisapp::showAsReadOnly(*m_ui->editLogFile);
     for (const auto& row : tessaly::logger::levels<char>) {
         const std::string_view name = row.name.view();
         m_ui->comboLevel->addItem(QString::fromLatin1(name.data(), static_cast<int>(name.size())),
                                   static_cast<unsigned>(row.level));
     }
-    makeLink(*m_ui->buttonViewLog);
+    m_ui->labelViewLog->setLinkText(tr("View log file"));
     connect(m_ui->comboLevel, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &CAdvancedOptionsFrame::changed);
     connect(m_ui->checkUseLogFile, &QCheckBox::toggled, this, &CAdvancedOptionsFrame::changed);
-    connect(m_ui->buttonViewLog, &QPushButton::clicked, this,
+    connect(m_ui->labelViewLog, &QLabel::linkActivated, this,
             [this] { emit viewLogFileClicked(m_ui->editLogFile->text()); });
 }
 
@@ -62,6 +48,8 @@ void CAdvancedOptionsFrame::store(thisapp::SAppOptions& options) const
 void CAdvancedOptionsFrame::changeEvent(QEvent* event)
 {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        m_ui->labelViewLog->setLinkText(tr("View log file"));
+    }
 }

@@ -3,7 +3,6 @@
 #include "lib/settings/SAppOptions.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/shortcuts/Shortcuts.h"
-#include "ui/style/WheelGuard.h"
 #include "ui_CGeneralOptionsFrame.h"
 
 #include <QDir>
@@ -22,8 +21,6 @@ CGeneralOptionsFrame::CGeneralOptionsFrame(QWidget* parent)
     : QFrame(parent), m_ui(new Ui::CGeneralOptionsFrame)
 {
     m_ui->setupUi(this);
-    thisapp::guardFromWheel(*m_ui->comboLanguage);
-    thisapp::guardFromWheel(*m_ui->comboAlgorithm);
     indentDependents();
     fillShortcuts();
 

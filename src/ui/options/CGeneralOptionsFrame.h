@@ -4,7 +4,6 @@
 
 #include <QFrame>
 
-#include <cstdint>
 #include <memory>
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "ui/password/CLinkLabel.h"
+#include "ui/style/CLinkLabel.h"
 
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
