@@ -206,7 +206,7 @@ QString COptionsDialog::namingWarning(const NamingSettings& naming) const
         return {};
     if (naming.useDefaultOutputDir)
         return naming.outputDirPath.isEmpty()
-                   ? tr("No default output folder is given: output files go beside their input files.")
+                   ? tr("No default output folder is given: files go beside their input.")
                    : QString();
     const auto nextName = [&](const QString& name) {
         return thisapp::outputFileName(name, thisapp::namingDirection(name, naming), naming,
