@@ -12,54 +12,40 @@ namespace {
 using thisapp::NamingSettings;
 
 const QDate Today(2024, 3, 5);
-const auto NoFolder = [](const QString&) { return false; };
 
-using Change = std::function<void(NamingSettings&)>;
 void asIs(NamingSettings&)
 {
 }
-
-void decorate(thisapp::NameParts& parts)
+void decorated(NamingSettings& settings)
 {
-    parts.addPrefix = parts.addSuffix = parts.addDate = true;
-    parts.prefix = "x-";
-    parts.suffix = "-y";
-}
-void decorateBoth(NamingSettings& settings)
-{
-    decorate(settings.encryption);
-    decorate(settings.decryption);
+    for (thisapp::NameParts* parts : {&settings.encryption, &settings.decryption}) {
+        parts->addPrefix = parts->addSuffix = parts->addDate = true;
+        parts->prefix = "x-";
+        parts->suffix = "-y";
+    }
 }
 void withoutExt(NamingSettings& settings)
 {
     settings.encryption.addExt = settings.decryption.addExt = false;
 }
-void emptyExt(NamingSettings& settings)
+std::function<void(NamingSettings&)> ext(const char* encryption, const char* decryption)
 {
-    settings.encryption.ext = settings.decryption.ext = "";
+    return [=](NamingSettings& settings) {
+        settings.encryption.ext = encryption;
+        settings.decryption.ext = decryption;
+    };
 }
-void dottedExt(NamingSettings& settings)
-{
-    settings.encryption.ext = settings.decryption.ext = ".q";
-}
-
-struct Row
-{
-    QString input;
-    Change change;
-    QString output;
-};
 
 TEST(OutputNaming, Table)
 {
-    const Row rows[] = {
+    const QString stem124(124, 'n');
+    const std::tuple<QString, std::function<void(NamingSettings&)>, QString> rows[] = {
         {"report.txt", asIs, "report.txt.enc"},
         {"report.txt.enc", asIs, "report.txt.dec"},
         {"report.txt.dec", asIs, "report.txt.enc"},
         {"FILE.ENC", asIs, "FILE.dec"},
         {"FILE.DEC", asIs, "FILE.enc"},
         {"README", asIs, "README.enc"},
-        {"enc", asIs, "enc.enc"},
         {"archive.tar.gz", asIs, "archive.tar.gz.enc"},
         {"a.enc.txt", asIs, "a.enc.txt.enc"},
         {".bashrc", asIs, ".bashrc.enc"},
@@ -67,68 +53,37 @@ TEST(OutputNaming, Table)
         {"report.", asIs, "report.enc"},
         {"#1 50% ü 日本.txt", asIs, "#1 50% ü 日本.txt.enc"},
 
-        {"report.txt", decorateBoth, "x-report_2024_03_05-y.txt.enc"},
-        {"report.txt.enc", decorateBoth, "x-report.txt_2024_03_05-y.dec"},
-        {"report.txt.dec", decorateBoth, "x-report.txt_2024_03_05-y.enc"},
-        {"README", decorateBoth, "x-README_2024_03_05-y.enc"},
-        {".bashrc", decorateBoth, "x-_2024_03_05-y.bashrc.enc"},
+        {"report.txt", decorated, "x-report_2024_03_05-y.txt.enc"},
+        {"report.txt.enc", decorated, "x-report.txt_2024_03_05-y.dec"},
+        {"report.txt.dec", decorated, "x-report.txt_2024_03_05-y.enc"},
+        {"README", decorated, "x-README_2024_03_05-y.enc"},
+        {stem124 + ".txt", decorated, "x-" + stem124 + "_2024_03_05-y.txt.enc"},
+        {stem124 + "n.txt", decorated, stem124 + "n.txt.enc"},
 
         {"report.txt", withoutExt, "report.txt"},
         {"report.txt.enc", withoutExt, "report.txt.dec"},
         {"report.txt.dec", withoutExt, "report.txt.enc"},
 
-        {"report.txt", emptyExt, "report.txt"},
-        {"README", emptyExt, "README"},
-        {"report.txt.enc", [](NamingSettings& s) { s.decryption.ext = ""; }, "report.txt"},
-        {"report.txt", dottedExt, "report.txt.q"},
-        {"README",
-         [](NamingSettings& s) {
-             s.encryption.suffix = ".";
-             s.encryption.addSuffix = true;
-         },
-         "README.enc"},
-        {"MyFile.txt", [](NamingSettings& s) { s.encryption.ext = "TXT"; }, "MyFile.dec"},
-        {"same.x", [](NamingSettings& s) { s.encryption.ext = s.decryption.ext = "x"; }, "same.x"},
+        {"README", ext("", ""), "README"},
+        {"report.txt.enc", ext("enc", ""), "report.txt"},
+        {"report.txt", ext(".q", "dec"), "report.txt.q"},
+        {"MyFile.txt", ext("TXT", "dec"), "MyFile.dec"},
+        {stem124 + ".enc", ext("enc", "decrypted"), stem124 + ".decrypted"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [input, change, output] : rows) {
         NamingSettings settings;
-        row.change(settings);
-        EXPECT_EQ(thisapp::outputPath("/in/" + row.input, settings, Today, NoFolder), "/in/" + row.output);
+        change(settings);
+        EXPECT_EQ(thisapp::outputPath("/in/" + input, settings, Today).toStdString(),
+                  "/in/" + output.toStdString());
     }
-}
-
-TEST(OutputNaming, LongNamesAreNotDecorated)
-{
-    NamingSettings settings;
-    decorateBoth(settings);
-    const auto name = [&](int length) {
-        const QString input = QString(length - 4, 'n') + ".txt";
-        return thisapp::outputFileName(input, thisapp::namingDirection(input, settings), settings, Today);
-    };
-    EXPECT_EQ(name(128), "x-" + QString(124, 'n') + "_2024_03_05-y.txt.enc");
-    EXPECT_EQ(name(129), QString(125, 'n') + ".txt.enc");
-    // What counts is the name after its extension was replaced.
-    settings.decryption.ext = "decrypted";
-    EXPECT_EQ(thisapp::outputPath("/in/" + QString(124, 'n') + ".enc", settings, Today, NoFolder),
-              "/in/" + QString(124, 'n') + ".decrypted");
 }
 
 TEST(OutputNaming, DatePartsOfZeroAreLeftOut)
 {
     NamingSettings settings;
     settings.encryption.addDate = true;
-    EXPECT_EQ(thisapp::outputPath("/in/a.txt", settings, QDate(), NoFolder), "/in/a.txt.enc");
-    EXPECT_EQ(thisapp::outputPath("/in/a.txt", settings, QDate(987, 12, 31), NoFolder),
-              "/in/a_0987_12_31.txt.enc");
-}
-
-TEST(OutputNaming, DirectionCanBeForced)
-{
-    const auto forced = [](const char* name) {
-        return thisapp::outputFileName(name, thisapp::NamingDirection::Decryption, NamingSettings(), Today);
-    };
-    EXPECT_EQ(forced("MyFile.txt"), "MyFile.txt.dec");
-    EXPECT_EQ(forced("MyFile.enc"), "MyFile.dec");
+    EXPECT_EQ(thisapp::outputPath("/in/a.txt", settings, QDate()), "/in/a.txt.enc");
+    EXPECT_EQ(thisapp::outputPath("/in/a.txt", settings, QDate(987, 12, 31)), "/in/a_0987_12_31.txt.enc");
 }
 
 TEST(OutputNaming, NothingToPropose)
@@ -145,22 +100,21 @@ TEST(OutputNaming, DefaultFolder)
     const QTemporaryDir temporary;
     const QDir root(temporary.path());
     NamingSettings settings;
-    settings.outputDirPath = root.filePath("deep/er");
-
-    EXPECT_EQ(thisapp::outputPath("/in/a", settings, Today), "/in/a.enc");
+    const auto outputFor = [&](const char* folder) {
+        settings.outputDirPath = root.filePath(folder);
+        return thisapp::outputPath("/in/a", settings, Today);
+    };
+    EXPECT_EQ(outputFor("deep/er"), "/in/a.enc");
     EXPECT_FALSE(root.exists("deep")) << "switched off, the folder is left alone";
 
     settings.useDefaultOutputDir = true;
-    EXPECT_EQ(thisapp::outputPath("/in/a", settings, Today), root.filePath("deep/er/a.enc"));
+    EXPECT_EQ(outputFor("deep/er"), root.filePath("deep/er/a.enc"));
     EXPECT_TRUE(root.exists("deep/er"));
-    EXPECT_EQ(thisapp::outputPath("/in/a", settings, Today), root.filePath("deep/er/a.enc"));
+    EXPECT_EQ(outputFor("deep/er"), root.filePath("deep/er/a.enc")) << "it exists by now";
 
-    QFile file(root.filePath("file"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    settings.outputDirPath = root.filePath("file/below");
-    EXPECT_EQ(thisapp::outputPath("/in/a", settings, Today), "/in/a.enc");
-    settings.outputDirPath = root.filePath("file");
-    EXPECT_EQ(thisapp::outputPath("/in/a", settings, Today), "/in/a.enc");
+    ASSERT_TRUE(QFile(root.filePath("file")).open(QIODevice::WriteOnly));
+    EXPECT_EQ(outputFor("file/below"), "/in/a.enc");
+    EXPECT_EQ(outputFor("file"), "/in/a.enc");
 
     settings.outputDirPath = "";
     EXPECT_EQ(thisapp::outputPath("a", settings, Today), QDir::current().filePath("a.enc"));

@@ -52,28 +52,12 @@ SAppOptions everythingChanged()
     return options;
 }
 
-TEST_F(Settings, FreshProfileHasTheDefaults)
-{
-    const SAppOptions options = read();
-    EXPECT_EQ(options, SAppOptions());
-    EXPECT_EQ(options.localeId, 1033U);
-    EXPECT_EQ(options.defaultAlgorithm(), thisapp::DefaultAlgSelection);
-    EXPECT_EQ(options.encFileNameExt, "enc");
-    EXPECT_EQ(options.decFileNameExt, "dec");
-    EXPECT_TRUE(options.useConfirmPassword);
-    EXPECT_FALSE(options.useSalt);
-    EXPECT_FALSE(QFile::exists(file())) << "reading writes nothing";
-}
-
 TEST_F(Settings, StoredAtTheUsersPlace)
 {
     CAppSettings settings;
     EXPECT_EQ(settings.fileName(), file());
     EXPECT_EQ(settings.productId(), tessaly::QuilletProductId);
     EXPECT_NE(tessaly::AppSettings(77).fileName(), file());
-    CAppSettings::setApplicationProductId(77);
-    EXPECT_EQ(CAppSettings().fileName(), tessaly::AppSettings(77).fileName());
-    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
 
     qputenv("XDG_CONFIG_HOME", "relative");
     EXPECT_EQ(CAppSettings().fileName(), QDir::home().filePath(".config/Tessaly/Quillet.conf"));
@@ -91,29 +75,31 @@ TEST_F(Settings, EveryValueSurvivesWritingAndReading)
     EXPECT_EQ(read(), options);
 
     const thisapp::NamingSettings naming = thisapp::readNamingSettings(CAppSettings());
-    EXPECT_EQ(naming.outputDirPath, options.outputDirPath);
-    EXPECT_TRUE(naming.useDefaultOutputDir);
-    EXPECT_FALSE(naming.autogenerate);
-    EXPECT_FALSE(naming.encryption.addExt);
     EXPECT_EQ(naming.encryption.suffix, options.encFileNameSuffix);
-    EXPECT_EQ(naming.decryption.prefix, options.decFileNamePrefix);
-    EXPECT_EQ(naming.decryption.ext, options.decFileNameExt);
+    SAppOptions other = options;
+    thisapp::NamingSettings().store(other);
+    EXPECT_NE(other, options);
+    naming.store(other);
+    EXPECT_EQ(other, options);
 }
 
-TEST_F(Settings, WrittenInOrder)
+TEST_F(Settings, DefaultsInTheOrderOfWriting)
 {
-    QStringList names;
-    for (const auto& [name, value] : thisapp::writtenValues(SAppOptions()))
-        names << name;
-    EXPECT_EQ(
-        names.join(' ').toStdString(),
-        "IntegrateToShellContextMenu AddToSendMenu UseDefaultAlgorithmAtStarting LogLevel UseLogFile UseSalt "
-        "RewriteOutputFile ShowAdvancedPasswordOptions ShowPassword ShowConfirmDialog UseConfirmPassword "
-        "UseOutputFileAutogenerator OutputDirPath UseDefaultOutputDir DeleteSourceFileAfterEncryption "
-        "ConfirmDeleteSourceFileAfterEncryption EncFileNameAddExt EncFileNameAddSuffix EncFileNameAddPrefix "
-        "EncFileNameAddDate EncFileNameExt EncFileNameSuffix EncFileNamePrefix DecFileNameAddExt "
-        "DecFileNameAddSuffix DecFileNameAddPrefix DecFileNameAddDate DecFileNameExt DecFileNameSuffix "
-        "DecFileNamePrefix");
+    std::string values;
+    for (const auto& [name, value] : thisapp::writtenValues(read()))
+        values += std::string(name.data()) + '=' + value.toString().toStdString() + ' ';
+    EXPECT_EQ(values,
+              "IntegrateToShellContextMenu=true AddToSendMenu=true UseDefaultAlgorithmAtStarting=true "
+              "LogLevel=0 UseLogFile=false UseSalt=false RewriteOutputFile=false "
+              "ShowAdvancedPasswordOptions=true ShowPassword=false ShowConfirmDialog=true "
+              "UseConfirmPassword=true UseOutputFileAutogenerator=true OutputDirPath= "
+              "UseDefaultOutputDir=false DeleteSourceFileAfterEncryption=false "
+              "ConfirmDeleteSourceFileAfterEncryption=true EncFileNameAddExt=true "
+              "EncFileNameAddSuffix=false EncFileNameAddPrefix=false EncFileNameAddDate=false "
+              "EncFileNameExt=enc EncFileNameSuffix= EncFileNamePrefix= DecFileNameAddExt=true "
+              "DecFileNameAddSuffix=false DecFileNameAddPrefix=false DecFileNameAddDate=false "
+              "DecFileNameExt=dec DecFileNameSuffix= DecFileNamePrefix= ");
+    EXPECT_FALSE(QFile::exists(file())) << "reading writes nothing";
 }
 
 TEST_F(Settings, WritingWithoutChangesStoresAllButLocaleAndAlgorithm)
@@ -132,52 +118,26 @@ TEST_F(Settings, WritingWithoutChangesStoresAllButLocaleAndAlgorithm)
     EXPECT_TRUE(thisapp::writeOptions(settings, options));
 }
 
-/// Stores a value under every key of one type and expects the defaults.
+/// Stores each value under every key of one type.
 template <typename T>
-void storeUnderKeysOfType(const QVariant& value)
+void expectDefaultsFor(const std::vector<QVariant>& values)
 {
-    CAppSettings settings;
+    for (const QVariant& value : values) {
+        CAppSettings settings;
 #define SETTING(Type, Key, member, fallback)                                                                 \
     if (std::is_same_v<Type, T>)                                                                             \
         settings.setValue(keys::Key.name, value);
 #include "lib/settings/SettingsKeys.def"
+        EXPECT_EQ(thisapp::readStoredOptions(settings), SAppOptions()) << value.toString().toStdString();
+    }
 }
 
 TEST_F(Settings, WrongTypesReadAsTheDefaults)
 {
-    const QVariant listed = QStringList{"a", "b"};
-    for (const QVariant& value : {QVariant("banana"), QVariant(""), QVariant(2), QVariant("-1"), QVariant(),
-                                  listed, QVariant(QByteArray("\x80\x81"))}) {
-        storeUnderKeysOfType<bool>(value);
-        EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()), SAppOptions())
-            << value.toString().toStdString();
-    }
-    for (const QVariant& value : {QVariant("true"), QVariant("1.5"), QVariant("-1"), QVariant("99999999999"),
-                                  QVariant(""), QVariant(true), QVariant(), listed}) {
-        storeUnderKeysOfType<std::uint32_t>(value);
-        EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()), SAppOptions())
-            << value.toString().toStdString();
-    }
-    for (const QVariant& value : {listed, QVariant(), QVariant(QVariantMap{{"a", 1}})}) {
-        storeUnderKeysOfType<QString>(value);
-        EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()), SAppOptions());
-    }
-}
-
-TEST_F(Settings, HandWrittenFileIsUnderstood)
-{
-    QDir(profile.path()).mkpath("Tessaly");
-    QFile conf(file());
-    ASSERT_TRUE(conf.open(QIODevice::WriteOnly));
-    conf.write(
-        "[General]\nUseSalt=1\nShowPassword=TRUE\nUseConfirmPassword=0\nLogLevel=4\nEncFileNameExt=7\n");
-    conf.close();
-    SAppOptions expected;
-    expected.useSalt = expected.showPassword = true;
-    expected.useConfirmPassword = false;
-    expected.logLevel = 4;
-    expected.encFileNameExt = "7";
-    EXPECT_EQ(read(), expected);
+    const QStringList list{"a", "b"};
+    expectDefaultsFor<bool>({"banana", "", 2, "-1", QVariant(), list, QByteArray("\x80\x81")});
+    expectDefaultsFor<std::uint32_t>({"true", "1.5", "-1", "99999999999", "", true, QVariant(), list});
+    expectDefaultsFor<QString>({list, QVariant(), QVariantMap{{"a", 1}}});
 }
 
 TEST_F(Settings, IdsOutOfRange)

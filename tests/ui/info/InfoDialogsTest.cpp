@@ -1,3 +1,4 @@
+#include "ui/Widgets.h"
 #include "ui/info/CAboutDialog.h"
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/CkeyboardShortcutInfoDialog.h"
@@ -6,12 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTextEdit>
 #include <QTranslator>
 
@@ -21,32 +20,19 @@ using thisapp::Command;
 
 TEST(Shortcuts, KeysOfTheMainWindow)
 {
-    const struct
-    {
-        int key;
-        Qt::KeyboardModifiers modifiers;
-        std::optional<Command> command;
-    } rows[] = {
-        {Qt::Key_F5, Qt::NoModifier, Command::Encrypt},
-        {Qt::Key_F5, Qt::ShiftModifier, Command::Encrypt},
-        {Qt::Key_F5, Qt::AltModifier, std::nullopt},
-        {Qt::Key_F5, Qt::ControlModifier, std::nullopt},
-        {Qt::Key_F6, Qt::NoModifier, Command::Decrypt},
-        {Qt::Key_F6, Qt::ControlModifier, std::nullopt},
-        {Qt::Key_F8, Qt::NoModifier, Command::Stop},
-        {Qt::Key_F8, Qt::ControlModifier, Command::Clear},
-        {Qt::Key_F8, Qt::ControlModifier | Qt::AltModifier, std::nullopt},
-        {Qt::Key_F9, Qt::ControlModifier, Command::OpenInputFolder},
-        {Qt::Key_F9, Qt::NoModifier, std::nullopt},
-        {Qt::Key_F10, Qt::ControlModifier | Qt::ShiftModifier, Command::OpenOutputFolder},
-        {Qt::Key_O, Qt::ControlModifier, Command::AddFile},
-        {Qt::Key_N, Qt::ControlModifier, Command::AddFile},
-        {Qt::Key_N, Qt::NoModifier, std::nullopt},
-        {Qt::Key_F7, Qt::NoModifier, std::nullopt},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(thisapp::commandFor(row.key, row.modifiers), row.command)
-            << row.key << ' ' << row.modifiers;
+    using Row = std::tuple<int, Qt::KeyboardModifiers, std::optional<Command>>;
+    const Qt::KeyboardModifiers none, ctrl = Qt::ControlModifier, alt = Qt::AltModifier,
+                                      shift = Qt::ShiftModifier;
+    for (const auto& [key, modifiers, command] :
+         {Row{Qt::Key_F5, none, Command::Encrypt}, Row{Qt::Key_F5, shift, Command::Encrypt},
+          Row{Qt::Key_F5, alt, std::nullopt}, Row{Qt::Key_F5, ctrl, std::nullopt},
+          Row{Qt::Key_F6, none, Command::Decrypt}, Row{Qt::Key_F6, ctrl, std::nullopt},
+          Row{Qt::Key_F8, none, Command::Stop}, Row{Qt::Key_F8, ctrl, Command::Clear},
+          Row{Qt::Key_F8, ctrl | alt, std::nullopt}, Row{Qt::Key_F9, ctrl, Command::OpenInputFolder},
+          Row{Qt::Key_F9, none, std::nullopt}, Row{Qt::Key_F10, ctrl | shift, Command::OpenOutputFolder},
+          Row{Qt::Key_O, ctrl, Command::AddFile}, Row{Qt::Key_N, ctrl, Command::AddFile},
+          Row{Qt::Key_N, none, std::nullopt}, Row{Qt::Key_F7, none, std::nullopt}})
+        EXPECT_EQ(thisapp::commandFor(key, modifiers), command) << key << ' ' << modifiers;
     for (const thisapp::Shortcut& shortcut : thisapp::shortcuts())
         EXPECT_EQ(QString(shortcut.keyText).section('\'', 1, 1), shortcut.sequence().toString());
 }
@@ -96,9 +82,9 @@ TEST(AboutDialog, ShowsTheVersionsAndClosesOnEnter)
     CAboutDialog dialog;
     dialog.show();
     EXPECT_EQ(dialog.windowTitle(), "About Quillet");
-    EXPECT_EQ(dialog.findChild<QLabel*>("labelVersion")->text(), "Version " QUILLET_VERSION);
-    EXPECT_EQ(dialog.findChild<QLabel*>("labelQt")->text(), qVersion());
-    EXPECT_TRUE(dialog.findChild<QLabel*>("labelCryptoPP")->text().startsWith("8."));
+    EXPECT_EQ(child<QLabel>(dialog, "labelVersion").text(), "Version " QUILLET_VERSION);
+    EXPECT_EQ(child<QLabel>(dialog, "labelQt").text(), qVersion());
+    EXPECT_TRUE(child<QLabel>(dialog, "labelCryptoPP").text().startsWith("8."));
     QTest::keyClick(&dialog, Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
 }
@@ -108,17 +94,16 @@ TEST(TextViewDialog, RefreshesAndShowsTheEnd)
     int reads = 0;
     CTextViewDialog dialog;
     dialog.setSource([&reads] { return QString("line\n").repeated(500) + QString::number(++reads); });
-    dialog.show();
-    QApplication::setActiveWindow(&dialog);
-    auto* text = dialog.findChild<QPlainTextEdit*>();
-    EXPECT_TRUE(text->toPlainText().endsWith("\n1"));
-    QTest::keyClick(text, Qt::Key_A);
-    QTest::keyClick(&dialog, Qt::Key_F5);
-    EXPECT_TRUE(text->toPlainText().endsWith("\n2"));
-    EXPECT_TRUE(text->textCursor().atEnd());
-    QTest::keyClick(&dialog, Qt::Key_R, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([text] { return text->toPlainText().endsWith("\n3"); }));
-    QTest::keyClick(text, Qt::Key_Escape);
+    open(dialog);
+    const auto& text = child<QPlainTextEdit>(dialog, "text");
+    EXPECT_TRUE(text.toPlainText().endsWith("\n1"));
+    press(Qt::Key_A);
+    press(Qt::Key_F5);
+    EXPECT_TRUE(text.toPlainText().endsWith("\n2"));
+    EXPECT_TRUE(text.textCursor().atEnd());
+    press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(text.toPlainText().endsWith("\n3"));
+    press(Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
 }
 

@@ -171,24 +171,20 @@ TEST_F(OptionsDialog, ApplyHandsOverAndCancelKeepsThat)
 
 TEST_F(OptionsDialog, DependentControlsFollowTheirCheckBoxes)
 {
-    const char* rows[][3] = {{"frameGeneral", "checkDeleteSource", "checkConfirmDelete"},
-                             {"frameGeneral", "checkUseOutputDir", "editOutputDir"},
-                             {"frameGeneral", "checkUseOutputDir", "buttonBrowse"},
-                             {"frameEncryption", "checkExt", "editExt"},
-                             {"frameEncryption", "checkSuffix", "editSuffix"},
-                             {"frameEncryption", "checkPrefix", "editPrefix"},
-                             {"frameDecryption", "checkExt", "editExt"}};
-    for (const SAppOptions& options : {SAppOptions(), withoutDefaults()}) {
-        show(options);
-        for (const auto& [frame, name, dependentName] : rows) {
-            auto& box = dynamic_cast<QCheckBox&>(inFrame(frame, name));
-            const QWidget& dependent = inFrame(frame, dependentName);
-            EXPECT_EQ(dependent.isEnabled(), box.isChecked()) << dependentName;
-            toggle(box);
-            EXPECT_EQ(dependent.isEnabled(), box.isChecked()) << dependentName;
-            toggle(box);
-        }
-        dialog.reject();
+    show();
+    for (const auto& [frame, name, dependentName] :
+         {std::tuple("frameGeneral", "checkDeleteSource", "checkConfirmDelete"),
+          {"frameGeneral", "checkUseOutputDir", "editOutputDir"},
+          {"frameGeneral", "checkUseOutputDir", "buttonBrowse"},
+          {"frameEncryption", "checkExt", "editExt"},
+          {"frameEncryption", "checkSuffix", "editSuffix"},
+          {"frameDecryption", "checkPrefix", "editPrefix"}}) {
+        auto& box = dynamic_cast<QCheckBox&>(inFrame(frame, name));
+        const QWidget& dependent = inFrame(frame, dependentName);
+        EXPECT_EQ(dependent.isEnabled(), box.isChecked()) << dependentName;
+        toggle(box);
+        EXPECT_EQ(dependent.isEnabled(), box.isChecked()) << dependentName;
+        toggle(box);
     }
 }
 
