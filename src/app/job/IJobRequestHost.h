@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/job/Operation.h"
+#include "app/job/SEncryptData.h"
+#include "lib/secret/Secret.h"
+#include "lib/settings/AlgSelection.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace thisapp {
+
+/// The password dialog's question and answer.
+struct PasswordEntry
+{
+    Operation operation = Operation::Encrypt;
+    AlgSelection selection;
+    bool useSalt = false;
+    bool rewriteOutput = false;
+    bool showAdvancedOptions = true;
+    bool showPassword = false;
+    bool useConfirmPassword = true;
+    tessaly::SecretText password;
+    bool switchToAdvanced = false;
+};
+
+/// The key dialog's question and answer; lengths in bytes.
+struct KeyEntry
+{
+    Operation operation = Operation::Encrypt;
+    AlgSelection selection;
+    std::uint32_t keyLength = 0;
+    std::uint32_t ivLength = 0;
+    bool useSalt = false;
+    bool rewriteOutput = false;
+    tessaly::SecretBytes key;
+    tessaly::SecretBytes iv;
+    /// The fields as typed, whole or not: the dialog shows them again after a visit to the other one.
+    tessaly::SecretText typedKey;
+    tessaly::SecretText typedIv;
+    bool switchToNormal = false;
+};
+
+/// The window as a request sees it: its fields, its dialogs and its job.
+class IJobRequestHost
+{
+public:
+    virtual ~IJobRequestHost() = default;
+
+    virtual bool isJobRunning() const = 0;
+    virtual AlgSelection selection() const = 0;
+
+    virtual QString inputText() const = 0;
+    virtual QString outputText() const = 0;
+    virtual void setInputText(const QString& text) = 0;
+    virtual void setOutputText(const QString& text) = 0;
+
+    /// Both give an empty text when the user cancels.
+    virtual QString chooseInput(const QString& title) = 0;
+    virtual QString chooseOutput(const QString& title) = 0;
+    /// Both are false when the user cancels; a switch to the other dialog counts as an answer.
+    virtual bool enterPassword(PasswordEntry& entry) = 0;
+    virtual bool enterKeyAndIv(KeyEntry& entry) = 0;
+
+    /// Makes the encryptor or decryptor of the next job; false when there is none.
+    virtual bool prepareEngine(Operation operation, const AlgSelection& selection) = 0;
+};
+
+} // namespace thisapp

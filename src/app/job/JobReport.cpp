@@ -1,0 +1,85 @@
+#include "app/job/JobReport.h"
+
+#include "app/job/ErrorText.h"
+#include "app/job/InputRemoval.h"
+#include "app/job/Message.h"
+#include "app/job/SEncryptData.h"
+#include "lib/err/ErrorCodes.h"
+#include "lib/logger/Log.h"
+
+#include <QCoreApplication>
+
+namespace thisapp {
+
+using namespace tessaly;
+
+namespace {
+
+constexpr char LogSource[] = "mainwindow";
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(JobReport)
+};
+
+void reportRemovedOutput(const JobOutcome& outcome, IMessageAreas& areas)
+{
+    if (outcome.outputRemoved)
+        areas.showMessage(Area::Output,
+                          {MessageKind::Warning, [] { return Text::tr("Output file has been deleted."); }});
+}
+
+/// The check value can't tell these causes apart, so name them all.
+void explainCorruptedData(const SEncryptData& data, IMessageAreas& areas)
+{
+    if (data.operation != Operation::Decrypt ||
+        data.outcome.result.first() != err::library(err::CheckValueDiffers))
+        return;
+    areas.showMessage(Area::Input, {MessageKind::Plain, [mode = data.passwordMode] {
+                                        return mode ? Text::tr("Check the password and the algorithm.")
+                                                    : Text::tr("Check the key, the IV and the algorithm.");
+                                    }});
+}
+
+} // namespace
+
+void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
+{
+    const OperationTexts& texts = operationTexts(data.operation);
+    const JobOutcome& outcome = data.outcome;
+    if (outcome.cancelled) {
+        reportRemovedOutput(outcome, areas);
+        logger::log(logger::Information, LogSource) << texts.cancelled;
+        areas.showMessage(Area::Result,
+                          {MessageKind::Error, [&texts] { return translated(texts.cancelled); }});
+    } else if (outcome.result.ok()) {
+        areas.showMessage(Area::Result,
+                          {MessageKind::Success, [&texts] { return translated(texts.succeeded); }});
+    } else {
+        logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << outcome.errorText;
+        reportRemovedOutput(outcome, areas);
+        areas.showMessage(Area::Result, {MessageKind::Error, [&texts, result = outcome.result] {
+                                             return translated(texts.failed) + ' ' + errorText(result);
+                                         }});
+        explainCorruptedData(data, areas);
+    }
+}
+
+void reportInputRemoval(const InputRemoval& removal, IMessageAreas& areas)
+{
+    Message message{MessageKind::Warning, {}};
+    if (removal.kept)
+        message.text = [reason = *removal.kept] { return keptText(reason); };
+    else if (!removal.error.ok())
+        message.text = [error = removal.error] {
+            return Text::tr("The input file could not be deleted.") + ' ' + errorText(error);
+        };
+    else
+        message = {MessageKind::Success, [] {
+                       return Text::tr("Input file has been deleted after the successfully encryption "
+                                       "according to your options");
+                   }};
+    areas.showMessage(Area::Input, std::move(message));
+}
+
+} // namespace thisapp

@@ -1,0 +1,237 @@
+#include "app/job/JobRequest.h"
+
+#include "app/job/PathText.h"
+#include "crypto/AlgInfo.h"
+#include "io/PathCheck.h"
+#include "lib/settings/CAppSettings.h"
+#include "lib/settings/SettingsKeys.h"
+
+#include <QDir>
+
+#include <utility>
+
+namespace thisapp {
+
+using namespace tessaly;
+
+const JobRequest::Step JobRequest::Steps[] = {
+    &JobRequest::noJobRuns,
+    &JobRequest::libraryIsChosen,
+    &JobRequest::algorithmIsChosen,
+    &JobRequest::inputIsDefined,
+    &JobRequest::inputIsFound,
+    &JobRequest::outputIsDefined,
+    &JobRequest::outputDiffersFromInput,
+    &JobRequest::sizesAreKnown,
+    &JobRequest::settingsAreRead,
+    &JobRequest::secretIsEntered,
+    &JobRequest::ivFits,
+    &JobRequest::keyFits,
+    &JobRequest::engineIsReady,
+    &JobRequest::outputMayBeWritten,
+};
+
+JobRequest::JobRequest(Operation operation, IJobRequestHost& host, IMessageAreas& areas)
+    : m_texts(operationTexts(operation)), m_host(host), m_areas(areas)
+{
+    m_data.operation = operation;
+}
+
+std::optional<SEncryptData> JobRequest::run()
+{
+    for (const Step step : Steps) {
+        if (Verdict refused = (this->*step)()) {
+            m_areas.showMessage(refused->area, {MessageKind::Error, std::move(refused->text)});
+            return std::nullopt;
+        }
+    }
+    return std::move(m_data);
+}
+
+JobRequest::Verdict JobRequest::noJobRuns()
+{
+    if (m_host.isJobRunning())
+        return Refusal{Area::Progress, [] { return tr("Encryption/Decryption already running."); }};
+    return {};
+}
+
+JobRequest::Verdict JobRequest::libraryIsChosen()
+{
+    m_data.selection = m_host.selection();
+    if (m_data.selection.library == 0)
+        return refusal(Area::Progress, m_texts.algorithmNotDefined);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::algorithmIsChosen()
+{
+    if (m_data.selection.algorithm == 0)
+        return refusal(Area::Progress, m_texts.algorithmNotDefined);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::inputIsDefined()
+{
+    if (m_host.inputText().trimmed().isEmpty()) {
+        const QString chosen = m_host.chooseInput(translated(m_texts.selectFile));
+        if (!chosen.isEmpty())
+            m_host.setInputText(QDir::toNativeSeparators(chosen));
+    }
+    const QString input = m_host.inputText().trimmed();
+    if (input.isEmpty())
+        return refusal(Area::Input, m_texts.fileNotDefined);
+    m_input = widePath(input);
+    m_data.inputPath = nativePath(input);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::inputIsFound()
+{
+    switch (io::checkInput(m_input)) {
+    case io::InputCheck::Usable:
+        break;
+    case io::InputCheck::NotFound:
+        return refusal(Area::Input, m_texts.fileNotFound);
+    case io::InputCheck::NotRegular:
+        return Refusal{Area::Input, [] { return tr("The input is not a regular file."); }};
+    }
+    return {};
+}
+
+JobRequest::Verdict JobRequest::outputIsDefined()
+{
+    if (m_host.outputText().trimmed().isEmpty()) {
+        const QString chosen = m_host.chooseOutput(tr("Define output file"));
+        if (!chosen.isEmpty())
+            m_host.setOutputText(QDir::toNativeSeparators(chosen));
+    }
+    const QString output = m_host.outputText().trimmed();
+    if (output.isEmpty())
+        return Refusal{Area::Output, [] { return tr("Output file is not defined."); }};
+    m_output = widePath(output);
+    m_data.outputPath = nativePath(output);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::outputDiffersFromInput()
+{
+    switch (io::checkOutput(m_input, m_output)) {
+    case io::OutputCheck::Free:
+    case io::OutputCheck::Exists:
+        break;
+    case io::OutputCheck::MatchesInput:
+        return Refusal{Area::Result,
+                       [] { return tr("Output file name matches the name of the input file"); }};
+    case io::OutputCheck::NotRegular:
+        return Refusal{Area::Result, [] { return tr("The output is not a regular file."); }};
+    }
+    return {};
+}
+
+JobRequest::Verdict JobRequest::sizesAreKnown()
+{
+    m_sizes = crypto::AlgInfo().record(m_data.selection.algorithm);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::settingsAreRead()
+{
+    const CAppSettings settings;
+    m_question.operation = m_data.operation;
+    m_question.selection = m_data.selection;
+    m_question.rewriteOutput = readSetting(settings, keys::RewriteOutputFile);
+    m_question.showAdvancedOptions = readSetting(settings, keys::ShowAdvancedPasswordOptions);
+    m_question.showPassword = readSetting(settings, keys::ShowPassword);
+    if (m_data.operation == Operation::Encrypt) {
+        m_question.useSalt = readSetting(settings, keys::UseSalt);
+        m_question.useConfirmPassword = readSetting(settings, keys::UseConfirmPassword);
+    }
+    return {};
+}
+
+JobRequest::Verdict JobRequest::secretIsEntered()
+{
+    KeyEntry keyEntry;
+    keyEntry.operation = m_data.operation;
+    keyEntry.selection = m_data.selection;
+    keyEntry.keyLength = m_sizes.keyLength;
+    keyEntry.ivLength = m_sizes.ivLength;
+    for (;;) {
+        m_question.switchToAdvanced = false;
+        if (!m_host.enterPassword(m_question))
+            return passwordNotDefined();
+        m_data.useSalt = keyEntry.useSalt = m_question.useSalt;
+        m_data.rewriteOutput = keyEntry.rewriteOutput = m_question.rewriteOutput;
+        if (!m_question.switchToAdvanced) {
+            m_data.passwordMode = true;
+            m_data.password = std::exchange(m_question.password, {});
+            if (m_data.password.empty())
+                return passwordNotDefined();
+            return {};
+        }
+
+        keyEntry.switchToNormal = false;
+        if (!m_host.enterKeyAndIv(keyEntry))
+            return passwordNotDefined();
+        m_data.useSalt = m_question.useSalt = keyEntry.useSalt;
+        m_data.rewriteOutput = m_question.rewriteOutput = keyEntry.rewriteOutput;
+        if (!keyEntry.switchToNormal) {
+            m_data.passwordMode = false;
+            m_data.key = std::move(keyEntry.key);
+            m_data.iv = std::move(keyEntry.iv);
+            return {};
+        }
+    }
+}
+
+JobRequest::Verdict JobRequest::ivFits()
+{
+    const auto ivSize = m_data.iv.size();
+    if (m_data.passwordMode || ivSize == m_sizes.ivLength)
+        return {};
+    return Refusal{Area::Result, [ivSize] { return tr("Invalid IV size. Entered %1 bytes").arg(ivSize); }};
+}
+
+JobRequest::Verdict JobRequest::keyFits()
+{
+    if (m_data.passwordMode || m_data.key.size() == m_sizes.keyLength)
+        return {};
+    // Deliberately the size of the IV in this message, too.
+    const auto ivSize = m_data.iv.size();
+    return Refusal{Area::Result, [ivSize] { return tr("Invalid key size. Entered %1 bytes").arg(ivSize); }};
+}
+
+JobRequest::Verdict JobRequest::engineIsReady()
+{
+    if (!m_host.prepareEngine(m_data.operation, m_data.selection))
+        return refusal(Area::Result, m_texts.engineFailed);
+    return {};
+}
+
+/// Last of all: however long the questions took, the answer is of this moment. An existing output is
+/// only marked here; the worker removes it, as that may take its time.
+JobRequest::Verdict JobRequest::outputMayBeWritten()
+{
+    if (io::checkOutput(m_input, m_output) == io::OutputCheck::Free)
+        return {};
+    if (Verdict refused = outputDiffersFromInput())
+        return refused;
+    if (!m_data.rewriteOutput)
+        return Refusal{Area::Result, [] {
+                           return tr("Output file already exists! A 'not rewrite' option has been selected.");
+                       }};
+    m_data.outputFlag = true;
+    return {};
+}
+
+JobRequest::Refusal JobRequest::refusal(Area area, const char* operationText) const
+{
+    return {area, [operationText] { return translated(operationText); }};
+}
+
+JobRequest::Refusal JobRequest::passwordNotDefined()
+{
+    return {Area::Result, [] { return tr("Password not defined"); }};
+}
+
+} // namespace thisapp

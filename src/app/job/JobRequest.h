@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/job/IJobRequestHost.h"
+#include "app/job/Message.h"
+#include "app/job/SEncryptData.h"
+#include "crypto/IAlgInfo.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <optional>
+#include <string>
+
+namespace thisapp {
+
+/// What the user's Encrypt and Decrypt commands go through before a job may start. GUI thread.
+class JobRequest
+{
+    Q_DECLARE_TR_FUNCTIONS(JobRequest)
+
+public:
+    JobRequest(Operation operation, IJobRequestHost& host, IMessageAreas& areas);
+
+    /// Makes all the checks and asks all the questions in their order. The first check that fails shows
+    /// its message, and nothing is given; nothing on the disk is changed in either case.
+    std::optional<SEncryptData> run();
+
+private:
+    struct Refusal
+    {
+        Area area;
+        std::function<QString()> text;
+    };
+    using Verdict = std::optional<Refusal>;
+    using Step = Verdict (JobRequest::*)();
+    static const Step Steps[];
+
+    Verdict noJobRuns();
+    Verdict libraryIsChosen();
+    Verdict algorithmIsChosen();
+    Verdict inputIsDefined();
+    Verdict inputIsFound();
+    Verdict outputIsDefined();
+    Verdict outputDiffersFromInput();
+    Verdict sizesAreKnown();
+    Verdict settingsAreRead();
+    Verdict secretIsEntered();
+    Verdict ivFits();
+    Verdict keyFits();
+    Verdict engineIsReady();
+    Verdict outputMayBeWritten();
+
+    Refusal refusal(Area area, const char* operationText) const;
+    static Refusal passwordNotDefined();
+
+    const OperationTexts& m_texts;
+    IJobRequestHost& m_host;
+    IMessageAreas& m_areas;
+    SEncryptData m_data;
+    PasswordEntry m_question;
+    tessaly::crypto::AlgRecord m_sizes;
+    std::wstring m_input;
+    std::wstring m_output;
+};
+
+} // namespace thisapp

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui/style/MessageStyle.h"
+
+#include <QString>
+
+#include <functional>
+#include <utility>
+
+namespace thisapp {
+
+/// A text for the user. It is asked for whenever it is shown, so that it follows a change of the
+/// language; without a function there is nothing to say.
+struct Message
+{
+    MessageKind kind = MessageKind::Plain;
+    std::function<QString()> text;
+
+    bool isEmpty() const { return !text; }
+    QString now() const { return text ? text() : QString(); }
+};
+
+/// Where the window shows a message.
+enum class Area {
+    Progress, ///< the text under the progress bar
+    Input,    ///< under the input row
+    Output,   ///< under the output row
+    Result,   ///< how a request was refused or a job ended
+};
+
+class IMessageAreas
+{
+public:
+    virtual ~IMessageAreas() = default;
+    virtual void showMessage(Area area, Message message) = 0;
+};
+
+} // namespace thisapp

@@ -1,0 +1,81 @@
+#include "app/job/ProgressText.h"
+
+#include "app/job/ProgressTracker.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace thisapp {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Progress)
+};
+
+QString speedText(double bytesPerSecond)
+{
+    //: A speed, as in "12 MiB/s"
+    return Text::tr("%1/s").arg(
+        QLocale().formattedDataSize(static_cast<qint64>(std::llround(bytesPerSecond)), 1));
+}
+
+QString stepText(Operation operation, JobPhase phase, const ProgressTracker& progress)
+{
+    if (phase == JobPhase::Flushing)
+        return Text::tr("Waiting until the disk has stored the file");
+    const QString step = translated(operationTexts(operation).step);
+    const auto speed = progress.bytesPerSecond();
+    //: %1 is "Encrypting" or "Decrypting", %2 a speed
+    return speed ? Text::tr("%1 at %2").arg(step, speedText(*speed)) : step;
+}
+
+} // namespace
+
+QString progressText(Operation operation, JobPhase phase, const ProgressTracker& progress)
+{
+    QStringList sentences{
+        stepText(operation, phase, progress),
+        Text::tr("%1% processed").arg(QString::number(double{progress.percent()}, 'f', 3)),
+    };
+    const auto remaining = progress.remainingSeconds();
+    if (phase == JobPhase::Processing && remaining)
+        sentences += remainingTimeText(*remaining);
+    return sentences.join(QStringLiteral(". "));
+}
+
+QString startText()
+{
+    return Text::tr("0.000% processed.");
+}
+
+QString remainingTimeText(std::int64_t seconds)
+{
+    const auto hours = seconds / 3600;
+    const auto minutes = seconds / 60 % 60;
+    seconds %= 60;
+    if (hours > 0)
+        return Text::tr("Remaining time: %1 hours %2 minutes %3 seconds")
+            .arg(hours)
+            .arg(minutes)
+            .arg(seconds);
+    if (minutes > 0)
+        return Text::tr("Remaining time: %1 minutes %2 seconds").arg(minutes).arg(seconds);
+    return Text::tr("Remaining time: %1 seconds").arg(seconds);
+}
+
+QString summaryText(std::int64_t bytes, std::int64_t elapsedMs)
+{
+    const double seconds = static_cast<double>(std::max<std::int64_t>(elapsedMs, 1)) / 1000.0;
+    //: %1 is a size, %2 a number of seconds, %3 a speed
+    return Text::tr("%1 in %2 seconds, %3")
+        .arg(QLocale().formattedDataSize(bytes, 1), QLocale().toString(seconds, 'f', seconds < 10 ? 1 : 0),
+             speedText(static_cast<double>(bytes) / seconds));
+}
+
+} // namespace thisapp
