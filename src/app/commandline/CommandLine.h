@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/job/Operation.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+/// The arguments that the program is started with.
+namespace thisapp {
+
+struct CommandLine
+{
+    Operation operation = Operation::Encrypt;
+    bool start = false;
+    std::optional<QString> input;
+    std::optional<QString> output;
+    QString algorithm;
+    QString library;
+};
+
+/// Which arguments the sign "/" makes an option.
+enum class SlashRule {
+    AnyWord,   ///< every argument that begins with it
+    KnownWord, ///< the options alone, as absolute paths begin with it, too
+};
+
+/// The rule of this system.
+SlashRule systemSlashRule();
+
+/// `arguments` are those after the program's name.
+CommandLine parseCommandLine(const QStringList& arguments, SlashRule rule,
+                             const std::function<bool(const QString& path)>& fileExists);
+
+/// What the log says of the arguments: each in double quotes.
+QString quotedArguments(const QStringList& arguments);
+
+} // namespace thisapp
