@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+/// Shows where to drop a file, and afterwards which file is at hand. A click asks for one.
+class CDropHint : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit CDropHint(QWidget* parent = nullptr);
+
+    /// The name of a glyph, a headline and a line of explanation.
+    void setContent(const QString& glyph, const QString& headline, const QString& detail);
+    /// Files hover over it.
+    void setHighlighted(bool highlighted);
+
+signals:
+    void notifyClicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    int iconSize() const;
+    QColor accent() const;
+    void refresh();
+
+    QLabel* m_icon;
+    QLabel* m_headline;
+    QLabel* m_detail;
+    QString m_glyph;
+    QString m_headlineText;
+    bool m_highlighted = false;
+};

@@ -1,0 +1,54 @@
+#include "app/widgets/CLineEditForFile.h"
+
+#include <QDragEnterEvent>
+#include <QDragMoveEvent>
+#include <QDropEvent>
+#include <QStyleOptionFrame>
+#include <QStylePainter>
+#include <QTextDocument>
+
+CLineEditForFile::CLineEditForFile(QWidget* parent) : QLineEdit(parent)
+{
+    setAcceptDrops(true);
+    connect(this, &QLineEdit::textChanged, this, &CLineEditForFile::onUiTextChanged);
+}
+
+void CLineEditForFile::dragEnterEvent(QDragEnterEvent* event)
+{
+    thisapp::acceptFiles(*event);
+}
+
+/// The base class would take dragged text here.
+void CLineEditForFile::dragMoveEvent(QDragMoveEvent* event)
+{
+    thisapp::acceptFiles(*event);
+}
+
+void CLineEditForFile::dropEvent(QDropEvent* event)
+{
+    thisapp::dropFiles(*event, m_target);
+}
+
+void CLineEditForFile::paintEvent(QPaintEvent* event)
+{
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    // The base class keeps two pixels to each side of the text.
+    const QRect rect =
+        style()->subElementRect(QStyle::SE_LineEditContents, &option, this).adjusted(2, 0, -2, 0);
+    const QFontMetrics metrics = fontMetrics();
+    if (hasFocus() || metrics.horizontalAdvance(text()) <= rect.width()) {
+        QLineEdit::paintEvent(event);
+        return;
+    }
+    QStylePainter painter(this);
+    painter.drawPrimitive(QStyle::PE_PanelLineEdit, option);
+    painter.drawItemText(rect, Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(),
+                         metrics.elidedText(text(), Qt::ElideMiddle, rect.width()), QPalette::Text);
+}
+
+void CLineEditForFile::onUiTextChanged(const QString& text)
+{
+    // As it stands, even if it looks like HTML.
+    setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+}

@@ -1,0 +1,50 @@
+#include "app/widgets/CProgressBarFrame.h"
+
+#include "app/widgets/CMessageLine.h"
+
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Steps of the bar for one per cent, so that long jobs move, too.
+constexpr int StepsPerPercent = 100;
+
+} // namespace
+
+CProgressBarFrame::CProgressBarFrame(QWidget* parent)
+    : QFrame(parent), m_bar(new QProgressBar), m_message(new CMessageLine)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_bar);
+    layout->addWidget(m_message);
+
+    m_bar->setRange(0, 100 * StepsPerPercent);
+    m_bar->setTextVisible(false);
+    reset();
+}
+
+void CProgressBarFrame::setProgress(float percent, thisapp::Message message)
+{
+    m_percent = percent;
+    m_bar->setValue(static_cast<int>(percent * StepsPerPercent));
+    setMessage(std::move(message));
+}
+
+void CProgressBarFrame::setMessage(thisapp::Message message)
+{
+    m_message->setMessage(std::move(message));
+    show();
+}
+
+void CProgressBarFrame::reset()
+{
+    setProgress(0, {});
+    hide();
+}
+
+QString CProgressBarFrame::message() const
+{
+    return m_message->text();
+}
