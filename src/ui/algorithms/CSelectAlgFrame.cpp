@@ -45,6 +45,16 @@ bool CSelectAlgFrame::setSelection(const AlgSelection& selection)
     return true;
 }
 
+int CSelectAlgFrame::labelWidth() const
+{
+    return m_ui->labelAlg->sizeHint().width();
+}
+
+void CSelectAlgFrame::setLabelWidth(int width)
+{
+    m_ui->labelAlg->setMinimumWidth(width);
+}
+
 void CSelectAlgFrame::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)

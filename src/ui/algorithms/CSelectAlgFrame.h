@@ -30,6 +30,10 @@ public:
     /// False, and nothing changes, when the provider doesn't accept the pair.
     bool setSelection(const thisapp::AlgSelection& selection);
 
+    /// In device-independent pixels; to line the combo box up with other fields.
+    int labelWidth() const;
+    void setLabelWidth(int width);
+
 signals:
     /// The user, not the program, chose another algorithm.
     void notifyAlgChanged();

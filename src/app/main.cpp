@@ -1,0 +1,140 @@
+#include "app/desktop/Desktop.h"
+#include "app/desktop/ShellIntegration.h"
+#include "app/i18n/MyTranslator.h"
+#include "app/job/ErrorText.h"
+#include "app/job/PathText.h"
+#include "app/widgets/SymbolicIcon.h"
+#include "app/window/CMainWindow.h"
+#include "app/window/OptionsHandler.h"
+#include "crypto/cryptopp/CDecryptorFactory.h"
+#include "crypto/cryptopp/CEncryptorFactory.h"
+#include "lib/i18n/TranslationManager.h"
+#include "lib/logger/FileLogging.h"
+#include "lib/platform/Interrupts.h"
+#include "lib/platform/Process.h"
+#include "lib/settings/CAppSettings.h"
+#include "lib/settings/Product.h"
+#include "ui/algorithms/CCryptoAlgProvider.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <span>
+#include <string_view>
+
+using namespace tessaly;
+using namespace thisapp;
+
+namespace {
+
+constexpr char Usage[] = R"(Usage: quillet [FILE]
+       quillet [-encrypt | -decrypt] [-start] [-ifile FILE] [-ofile FILE] [-algorithm NAME]
+
+  FILE             opens the window with this input file
+  -ifile FILE      the input file
+  -ofile FILE      the output file; without it a name is proposed
+  -algorithm NAME  the algorithm, such as "AES-256"
+  -library NAME    the library of the algorithm; there is one, "Crypto++"
+  -encrypt         the command that -start runs (the default)
+  -decrypt         the other one
+  -start           runs the command at once; the password is asked for as usual
+  --help           prints this text
+  --version        prints the version
+
+Options may begin with "/" instead of "-", in either case of letters.
+)";
+
+/// The two options that need neither a window nor a display; true when one was given.
+bool answerOnTerminal(std::span<char*> arguments)
+{
+    const auto has = [arguments](std::string_view word) { return std::ranges::count(arguments, word) > 0; };
+    if (has("--help"))
+        std::fputs(Usage, stdout);
+    else if (has("--version"))
+        std::printf("%s %s\n", QuilletName, QUILLET_VERSION);
+    else
+        return false;
+    return true;
+}
+
+/// The application object has taken its own arguments out. Its list of the rest would lose the bytes
+/// of a file name that are not UTF-8.
+QStringList programArguments(std::span<char*> arguments)
+{
+    QStringList texts;
+    for (const char* argument : arguments)
+        texts += pathText(std::string(argument));
+    return texts;
+}
+
+/// Beside an installed program, or in the folder that the program was built in.
+std::wstring translationFolder()
+{
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    const QDir installed(programFolder.filePath(QStringLiteral("../share/quillet/translations")));
+    return widePath(installed.exists() ? installed.absolutePath()
+                                       : programFolder.filePath(QStringLiteral("translations")));
+}
+
+void prepareApplication()
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QCoreApplication::setApplicationName(QString::fromLatin1(QuilletName));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    QCoreApplication::setOrganizationName(QString::fromLatin1(OrganisationName));
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(desktop::DesktopId));
+    CAppSettings::setApplicationProductId(QuilletProductId);
+}
+
+void updateShell(bool contextMenu, bool sendTo)
+{
+    desktop::updateShellIntegration(QCoreApplication::applicationFilePath(), contextMenu, sendTo);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (answerOnTerminal({argv, static_cast<std::size_t>(argc)}))
+        return 0;
+    platform::disableCoreDumps();
+    prepareApplication();
+    const QApplication application(argc, argv);
+    QApplication::setWindowIcon(applicationIcon());
+
+    i18n::TranslationManager translations(translationFolder(), QuilletName);
+    MyTranslator translator(translations.bundle());
+    logger::FileLogging logging(logger::FileLogging::defaultPath(),
+                                [](ResultCode error) { return errorText(error).toStdString(); });
+    const CCryptoAlgProvider algorithms;
+    OptionsHandler options({algorithms, translations, translator, logging, updateShell});
+    options.applyAtStart();
+
+    const cryptopp::CEncryptorFactory encryptors;
+    const cryptopp::CDecryptorFactory decryptors;
+    desktop::Desktop desktop;
+    CMainWindow window(
+        {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
+    window.show();
+
+    // Once the event loop runs: the command line may open dialogs.
+    const QStringList arguments = programArguments({argv + 1, static_cast<std::size_t>(argc - 1)});
+    QTimer::singleShot(0, &window, [&] {
+        window.processCommandLine(arguments);
+        const SAppOptions stored = options.read();
+        updateShell(stored.integrateToShellContextMenu, stored.addToSendMenu);
+    });
+    // Ctrl-C in the terminal ends a job as closing the window does: nothing partial stays behind.
+    const platform::Interrupts interrupts([&window] {
+        QMetaObject::invokeMethod(&window, [&window] {
+            window.close();
+            QCoreApplication::quit();
+        });
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,226 @@
+#include "app/window/CJobFrame.h"
+
+#include "app/widgets/CDropHint.h"
+#include "app/widgets/CLineEditForFile.h"
+#include "app/widgets/CMessageLine.h"
+#include "app/widgets/CProgressBarFrame.h"
+#include "app/widgets/SymbolicIcon.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace thisapp;
+
+CJobFrame::CJobFrame(QWidget* parent)
+    : CDragDropFrame(parent),
+      m_hint(new CDropHint),
+      m_inputLabel(new QLabel),
+      m_input(new CLineEditForFile),
+      m_browseInput(new QToolButton),
+      m_inputMessage(new CMessageLine),
+      m_outputLabel(new QLabel),
+      m_output(new CLineEditForFile),
+      m_browseOutput(new QToolButton),
+      m_outputMessage(new CMessageLine),
+      m_algFrame(new CSelectAlgFrame),
+      m_encrypt(new QPushButton),
+      m_decrypt(new QPushButton),
+      m_stop(new QPushButton),
+      m_progress(new CProgressBarFrame),
+      m_result(new CMessageLine)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_hint, 1);
+    buildRows();
+    layout->addWidget(m_algFrame);
+    buildButtons();
+    layout->addWidget(m_progress);
+    layout->addWidget(m_result);
+
+    m_input->setObjectName(QStringLiteral("lineEditInput"));
+    m_output->setObjectName(QStringLiteral("lineEditOutput"));
+    m_inputMessage->setObjectName(QStringLiteral("inputMessage"));
+    m_outputMessage->setObjectName(QStringLiteral("outputMessage"));
+    m_result->setObjectName(QStringLiteral("resultMessage"));
+    m_encrypt->setObjectName(QStringLiteral("buttonEncrypt"));
+    m_decrypt->setObjectName(QStringLiteral("buttonDecrypt"));
+    m_stop->setObjectName(QStringLiteral("buttonStop"));
+    connectWidgets();
+    setRunning(false, false);
+    retranslate();
+}
+
+void CJobFrame::buildRows()
+{
+    auto* grid = new QGridLayout;
+    const auto addRow = [grid](int row, QLabel* label, CLineEditForFile* field, QToolButton* browse,
+                               CMessageLine* message) {
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row, 1);
+        grid->addWidget(browse, row, 2);
+        grid->addWidget(message, row + 1, 1, 1, 2);
+        label->setBuddy(field);
+        browse->setIcon(symbolicIcon(QStringLiteral("browse")));
+    };
+    addRow(0, m_inputLabel, m_input, m_browseInput, m_inputMessage);
+    addRow(2, m_outputLabel, m_output, m_browseOutput, m_outputMessage);
+    grid->setColumnStretch(1, 1);
+    grid->setVerticalSpacing(fontMetrics().height() / 4);
+    static_cast<QVBoxLayout*>(layout())->addLayout(grid);
+}
+
+void CJobFrame::buildButtons()
+{
+    auto* row = new QHBoxLayout;
+    const int unit = fontMetrics().height();
+    const auto addButton = [row, unit](QPushButton* button, const char* icon, int stretch) {
+        button->setIcon(symbolicIcon(icon));
+        button->setIconSize(QSize(unit, unit) * 3 / 2);
+        button->setMinimumHeight(unit * 5 / 2);
+        row->addWidget(button, stretch);
+    };
+    addButton(m_encrypt, "encrypt", 2);
+    addButton(m_decrypt, "decrypt", 2);
+    addButton(m_stop, "stop", 1);
+    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+void CJobFrame::connectWidgets()
+{
+    connect(m_input, &QLineEdit::textEdited, this, &CJobFrame::notifyInputEdited);
+    connect(m_input, &QLineEdit::textChanged, this, &CJobFrame::notifyTextChanged);
+    connect(m_output, &QLineEdit::textChanged, this, &CJobFrame::notifyTextChanged);
+    connect(m_browseInput, &QToolButton::clicked, this, &CJobFrame::notifyAddFile);
+    connect(m_hint, &CDropHint::notifyClicked, this, &CJobFrame::notifyAddFile);
+    connect(m_browseOutput, &QToolButton::clicked, this, &CJobFrame::notifyBrowseOutput);
+    connect(m_encrypt, &QPushButton::clicked, this, &CJobFrame::notifyEncrypt);
+    connect(m_decrypt, &QPushButton::clicked, this, &CJobFrame::notifyDecrypt);
+    connect(m_stop, &QPushButton::clicked, this, &CJobFrame::notifyStop);
+    connect(this, &CDragDropFrame::notifyDragOver, m_hint, &CDropHint::setHighlighted);
+}
+
+QString CJobFrame::inputText() const
+{
+    return m_input->text();
+}
+
+QString CJobFrame::outputText() const
+{
+    return m_output->text();
+}
+
+void CJobFrame::setInputText(const QString& text)
+{
+    m_input->setText(text);
+}
+
+void CJobFrame::setOutputText(const QString& text)
+{
+    m_output->setText(text);
+}
+
+void CJobFrame::setDropReceiver(IFilesDragDropEvent* receiver)
+{
+    setDropTarget({receiver, DropOnWindow});
+    m_input->setDropTarget({receiver, DropOnInput});
+    m_output->setDropTarget({receiver, DropOnOutput});
+}
+
+void CJobFrame::showFile(const QString& path, qint64 size)
+{
+    m_file = path;
+    m_fileSize = size;
+    refreshHint();
+}
+
+void CJobFrame::showNoFile()
+{
+    showFile({}, 0);
+}
+
+void CJobFrame::setRunning(bool running, bool stoppable)
+{
+    const std::initializer_list<QWidget*> idleWidgets = {
+        m_hint,   m_inputLabel,   m_input,    m_browseInput, m_outputLabel,
+        m_output, m_browseOutput, m_algFrame, m_encrypt,     m_decrypt};
+    for (QWidget* widget : idleWidgets)
+        widget->setEnabled(!running);
+    m_stop->setEnabled(running && stoppable);
+}
+
+void CJobFrame::showMessage(Area area, Message message)
+{
+    switch (area) {
+    case Area::Progress:
+        m_progress->setMessage(std::move(message));
+        break;
+    case Area::Input:
+        m_inputMessage->setMessage(std::move(message));
+        break;
+    case Area::Output:
+        m_outputMessage->setMessage(std::move(message));
+        break;
+    case Area::Result:
+        m_result->setMessage(std::move(message));
+        break;
+    }
+}
+
+void CJobFrame::clearMessages()
+{
+    for (CMessageLine* line : {m_inputMessage, m_outputMessage, m_result})
+        line->clear();
+}
+
+QString CJobFrame::resultText() const
+{
+    return m_result->text();
+}
+
+bool CJobFrame::event(QEvent* event)
+{
+    const bool handled = CDragDropFrame::event(event);
+    // By now the children have their new texts, too.
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    return handled;
+}
+
+void CJobFrame::retranslate()
+{
+    m_inputLabel->setText(tr("&Input file:"));
+    m_outputLabel->setText(tr("Out&put file:"));
+    m_input->setPlaceholderText(tr("File to encrypt or decrypt"));
+    m_output->setPlaceholderText(tr("File to write"));
+    m_browseInput->setToolTip(tr("Choose the input file"));
+    m_browseOutput->setToolTip(tr("Choose the output file"));
+    m_browseInput->setAccessibleName(m_browseInput->toolTip());
+    m_browseOutput->setAccessibleName(m_browseOutput->toolTip());
+    m_encrypt->setText(tr("Encrypt"));
+    m_decrypt->setText(tr("Decrypt"));
+    m_stop->setText(tr("Stop"));
+    const int width = std::max(
+        {m_inputLabel->sizeHint().width(), m_outputLabel->sizeHint().width(), m_algFrame->labelWidth()});
+    m_inputLabel->setMinimumWidth(width);
+    m_algFrame->setLabelWidth(width);
+    refreshHint();
+}
+
+void CJobFrame::refreshHint()
+{
+    if (m_file.isEmpty())
+        m_hint->setContent(QStringLiteral("drop"), tr("Drop a file here"), tr("or click to choose one"));
+    else
+        m_hint->setContent(QStringLiteral("file"), QFileInfo(m_file).fileName(),
+                           QLocale().formattedDataSize(m_fileSize, 1));
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "app/job/Message.h"
+#include "app/widgets/CDragDropFrame.h"
+#include "lib/settings/AlgSelection.h"
+
+#include <QString>
+
+class CDropHint;
+class CLineEditForFile;
+class CMessageLine;
+class CProgressBarFrame;
+class CSelectAlgFrame;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace thisapp {
+
+/// The widgets that a drop can fall on.
+enum DropId : int { DropOnWindow, DropOnInput, DropOnOutput };
+
+} // namespace thisapp
+
+/// The main window's content: the fields of a job, its buttons and its messages. Files can be dropped
+/// anywhere on it.
+class CJobFrame final : public CDragDropFrame, public thisapp::IMessageAreas
+{
+    Q_OBJECT
+
+public:
+    explicit CJobFrame(QWidget* parent = nullptr);
+
+    QString inputText() const;
+    QString outputText() const;
+    void setInputText(const QString& text);
+    void setOutputText(const QString& text);
+    CSelectAlgFrame& algFrame() { return *m_algFrame; }
+    CProgressBarFrame& progressFrame() { return *m_progress; }
+
+    void setDropReceiver(IFilesDragDropEvent* receiver);
+    /// The file at hand and its size in bytes; none when the input isn't usable.
+    void showFile(const QString& path, qint64 size);
+    void showNoFile();
+    /// Fields, algorithm and the two actions are for the time between jobs, Stop for that of one.
+    void setRunning(bool running, bool stoppable);
+
+    void showMessage(thisapp::Area area, thisapp::Message message) override;
+    /// All but that of the progress bar.
+    void clearMessages();
+    QString resultText() const;
+
+signals:
+    /// The user, not the program, changed the input.
+    void notifyInputEdited();
+    /// The text of one of the two fields changed, whoever changed it.
+    void notifyTextChanged();
+    void notifyAddFile();
+    void notifyBrowseOutput();
+    void notifyEncrypt();
+    void notifyDecrypt();
+    void notifyStop();
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    void buildRows();
+    void buildButtons();
+    void connectWidgets();
+    void retranslate();
+    void refreshHint();
+
+    CDropHint* m_hint;
+    QLabel* m_inputLabel;
+    CLineEditForFile* m_input;
+    QToolButton* m_browseInput;
+    CMessageLine* m_inputMessage;
+    QLabel* m_outputLabel;
+    CLineEditForFile* m_output;
+    QToolButton* m_browseOutput;
+    CMessageLine* m_outputMessage;
+    CSelectAlgFrame* m_algFrame;
+    QPushButton* m_encrypt;
+    QPushButton* m_decrypt;
+    QPushButton* m_stop;
+    CProgressBarFrame* m_progress;
+    CMessageLine* m_result;
+    QString m_file;
+    qint64 m_fileSize = 0;
+};

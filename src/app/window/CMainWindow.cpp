@@ -1,0 +1,433 @@
+#include "app/window/CMainWindow.h"
+
+#include "app/commandline/CommandLine.h"
+#include "app/job/ErrorText.h"
+#include "app/job/JobReport.h"
+#include "app/job/JobRequest.h"
+#include "app/job/PathText.h"
+#include "app/widgets/CProgressBarFrame.h"
+#include "app/window/CJobFrame.h"
+#include "app/window/CRequestHost.h"
+#include "app/window/FileDialogs.h"
+#include "app/window/InputRemovalOffer.h"
+#include "crypto/Catalogue.h"
+#include "io/PathCheck.h"
+#include "lib/logger/Log.h"
+#include "lib/naming/OutputNaming.h"
+#include "lib/settings/CAppSettings.h"
+#include "ui/algorithms/CAlgInfoDialog.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/algorithms/DefaultAlgCommand.h"
+#include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/info/CAboutDialog.h"
+#include "ui/info/CkeyboardShortcutInfoDialog.h"
+#include "ui/options/COptionsDialog.h"
+#include "ui/shortcuts/Shortcuts.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDate>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QUrl>
+
+#include <algorithm>
+
+using namespace tessaly;
+using namespace thisapp;
+
+namespace {
+
+constexpr char LogSource[] = "mainwindow";
+
+bool isUsableInput(const QString& path)
+{
+    return !path.isEmpty() && io::checkInput(widePath(path)) == io::InputCheck::Usable;
+}
+
+/// The path of a chosen file that may come as a URL.
+QString withoutScheme(const QString& path)
+{
+    const QString scheme = QStringLiteral("file:///");
+    if (!path.startsWith(scheme))
+        return path;
+    // Where absolute paths begin with "/", the last one is part of the path.
+    return path.mid(scheme.size() - (QDir::rootPath() == QLatin1String("/") ? 1 : 0));
+}
+
+void openFolderOf(const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (folder.exists())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(folder.absolutePath()));
+}
+
+} // namespace
+
+CMainWindow::CMainWindow(const WindowServices& services)
+    : m_services(services),
+      m_form(new CJobFrame),
+      m_actions(*this),
+      m_display(*m_form, services.taskbar, services.notifier),
+      m_job(services.encryptors, services.decryptors, m_dispatcher)
+{
+    setCentralWidget(m_form);
+    m_form->setDropReceiver(this);
+    m_form->algFrame().setProvider(m_services.algorithms);
+    m_form->algFrame().setSelection(m_services.options.defaultAlgorithm().value_or(DefaultAlgSelection));
+    connectActions();
+    connectForm();
+    connectJob();
+    // Room for the progress and for messages of more than one line.
+    resize(fontMetrics().averageCharWidth() * 90, sizeHint().height() + 5 * fontMetrics().height());
+    refresh();
+}
+
+CMainWindow::~CMainWindow() = default;
+
+void CMainWindow::connectActions()
+{
+    const auto connectAction = [this](ActionId id, auto slot) {
+        connect(&m_actions[id], &QAction::triggered, this, slot);
+    };
+    connectAction(ActionId::AddFile, &CMainWindow::onUiAddFileItem);
+    connectAction(ActionId::OpenInputFolder, &CMainWindow::onUiOpenInputFolderItem);
+    connectAction(ActionId::OpenOutputFolder, &CMainWindow::onUiOpenOutputFolderItem);
+    connectAction(ActionId::Quit, &QWidget::close);
+    connectAction(ActionId::Encrypt, &CMainWindow::onUiEncryptItem);
+    connectAction(ActionId::Decrypt, &CMainWindow::onUiDecryptItem);
+    connectAction(ActionId::Stop, &CMainWindow::onUiStopItem);
+    connectAction(ActionId::Clear, &CMainWindow::onUiClearItem);
+    connectAction(ActionId::Options, &CMainWindow::onUiOptionsItem);
+    connectAction(ActionId::DefaultAlgorithm, &CMainWindow::onUiDefaultAlgorithmItem);
+    connectAction(ActionId::AlgorithmInfo, &CMainWindow::onUiAlgorithmInfoItem);
+    connectAction(ActionId::Shortcuts, &CMainWindow::onUiShortcutsItem);
+    connectAction(ActionId::About, &CMainWindow::onUiAboutItem);
+}
+
+void CMainWindow::connectForm()
+{
+    connect(m_form, &CJobFrame::notifyInputEdited, this, &CMainWindow::onUiInputEdited);
+    connect(m_form, &CJobFrame::notifyTextChanged, this, &CMainWindow::refresh);
+    connect(m_form, &CJobFrame::notifyAddFile, this, &CMainWindow::onUiAddFileItem);
+    connect(m_form, &CJobFrame::notifyBrowseOutput, this, &CMainWindow::onUiBrowseOutput);
+    connect(m_form, &CJobFrame::notifyEncrypt, this, &CMainWindow::onUiEncryptItem);
+    connect(m_form, &CJobFrame::notifyDecrypt, this, &CMainWindow::onUiDecryptItem);
+    connect(m_form, &CJobFrame::notifyStop, this, &CMainWindow::onUiStopItem);
+}
+
+void CMainWindow::connectJob()
+{
+    // Emitted on the worker thread, so these are delivered through the event loop.
+    connect(&m_dispatcher, &CMsgDispatcher::notifyEncryptStarted, this, &CMainWindow::onUiEncryptStarted);
+    connect(&m_dispatcher, &CMsgDispatcher::notifyEncryptProgress, this,
+            &CMainWindow::onUiEncryptProgressChanged);
+    connect(&m_dispatcher, &CMsgDispatcher::notifyEncryptFinished, this, &CMainWindow::onUiEncryptFinished);
+    connect(&m_dispatcher, &CMsgDispatcher::notifyInputRemovalFinished, this,
+            &CMainWindow::onUiInputRemovalFinished);
+}
+
+void CMainWindow::processCommandLine(const QStringList& arguments)
+{
+    logger::log(logger::Information, LogSource)
+        << "Try to process command line: " << nativePath(quotedArguments(arguments));
+    const CommandLine line = parseCommandLine(arguments, systemSlashRule(), isUsableInput);
+    if (line.input) {
+        m_form->setInputText(QDir::toNativeSeparators(*line.input));
+        acceptInput();
+    }
+    if (line.output)
+        m_form->setOutputText(*line.output);
+    selectAlgorithm(line.algorithm);
+    if (line.start)
+        requestJob(line.operation);
+}
+
+/// Of the libraries only one offers algorithms, so that the name of an algorithm alone tells the pair.
+void CMainWindow::selectAlgorithm(const QString& name)
+{
+    if (const crypto::CatalogueEntry* entry = crypto::findAlgorithm(name.toStdString()))
+        m_form->algFrame().setSelection({crypto::CryptoPPLibraryId, entry->id});
+}
+
+void CMainWindow::filesDropped(int widgetId, const QList<QUrl>& urls)
+{
+    const auto url = std::ranges::find_if(urls, &QUrl::isLocalFile);
+    if (m_job.isRunning() || url == urls.end())
+        return;
+    const QString path = QDir::toNativeSeparators(url->toLocalFile());
+    if (widgetId == DropOnOutput) {
+        m_form->setOutputText(path);
+        return;
+    }
+    m_form->setInputText(path);
+    if (!acceptInput())
+        m_form->showMessage(Area::Input, {MessageKind::Warning, [] {
+                                              return tr("Only a single file can be encrypted or decrypted, "
+                                                        "not a folder or a device.");
+                                          }});
+}
+
+void CMainWindow::appOptionsChanged(const SAppOptions& options)
+{
+    m_services.options.apply(
+        options, [this](const AlgSelection& selection) { m_form->algFrame().setSelection(selection); });
+    refresh();
+}
+
+void CMainWindow::onUiEncryptItem()
+{
+    requestJob(Operation::Encrypt);
+}
+
+void CMainWindow::onUiDecryptItem()
+{
+    requestJob(Operation::Decrypt);
+}
+
+void CMainWindow::requestJob(Operation operation)
+{
+    if (!m_job.isRunning()) {
+        m_form->clearMessages();
+        m_form->progressFrame().reset();
+    }
+    CRequestHost host(*this, *m_form, m_job, m_services.algorithms);
+    std::optional<SEncryptData> request = JobRequest(operation, host, *m_form).run();
+    if (!request)
+        return;
+
+    const QString input = pathText(request->inputPath);
+    const std::int64_t size = platform::fileStatus(widePath(input)).size;
+    const ResultCode started = m_job.start(std::move(*request));
+    if (started.ok()) {
+        m_display.begin(input, size);
+    } else {
+        m_form->showMessage(Area::Result, {MessageKind::Error, [operation, started] {
+                                               return translated(operationTexts(operation).startFailed) +
+                                                      ' ' + errorText(started);
+                                           }});
+    }
+    refresh();
+}
+
+void CMainWindow::onUiStopItem()
+{
+    m_display.resetProgress();
+    m_job.stop();
+}
+
+void CMainWindow::onUiEncryptStarted()
+{
+    m_display.showStarted();
+    setTitle();
+}
+
+void CMainWindow::onUiEncryptProgressChanged()
+{
+    m_display.showProgress(m_job.data().operation, m_job.progress());
+    setTitle();
+}
+
+void CMainWindow::onUiEncryptFinished()
+{
+    m_job.finish();
+    refresh();
+    const SEncryptData ended = m_job.data();
+    m_display.showEnd(ended, isActiveWindow());
+    m_job.clear();
+    if (!isInputRemovalWanted(*this, ended, *m_form))
+        return;
+    if (const ResultCode started = m_job.startInputRemoval(); !started.ok())
+        reportInputRemoval({{}, started}, *m_form);
+    refresh();
+}
+
+void CMainWindow::onUiInputRemovalFinished()
+{
+    m_job.finish();
+    reportInputRemoval(m_job.inputRemoval(), *m_form);
+    refresh();
+}
+
+void CMainWindow::onUiAddFileItem()
+{
+    const QString chosen = askFileToOpen(this, tr("Add file to encrypt/decrypt"), m_form->inputText());
+    if (chosen.isEmpty())
+        return;
+    m_form->setInputText(QDir::toNativeSeparators(withoutScheme(chosen)));
+    acceptInput();
+}
+
+void CMainWindow::onUiBrowseOutput()
+{
+    const QString near = m_form->outputText().isEmpty() ? m_form->inputText() : m_form->outputText();
+    const QString chosen = askFileToSave(this, tr("Define output file"), near);
+    if (!chosen.isEmpty())
+        m_form->setOutputText(QDir::toNativeSeparators(chosen));
+}
+
+void CMainWindow::onUiInputEdited()
+{
+    acceptInput();
+}
+
+void CMainWindow::onUiClearItem()
+{
+    m_form->setInputText({});
+    m_form->setOutputText({});
+    if (!m_job.isRunning()) {
+        m_form->progressFrame().reset();
+        m_form->clearMessages();
+    }
+    refresh();
+}
+
+void CMainWindow::onUiOpenInputFolderItem()
+{
+    openFolderOf(m_form->inputText());
+}
+
+void CMainWindow::onUiOpenOutputFolderItem()
+{
+    openFolderOf(m_form->outputText());
+}
+
+void CMainWindow::onUiOptionsItem()
+{
+    COptionsDialog dialog(this);
+    dialog.setLanguages(m_services.options.languages());
+    dialog.setAlgProvider(m_services.algorithms);
+    dialog.setLogFilePath(m_services.options.logFilePath());
+    dialog.setReceiver(this);
+    dialog.setOptions(m_services.options.read());
+    if (dialog.exec() == QDialog::Accepted)
+        appOptionsChanged(dialog.options());
+}
+
+void CMainWindow::onUiDefaultAlgorithmItem()
+{
+    const auto outcome =
+        askDefaultAlgorithm(this, m_services.algorithms, m_services.options.defaultAlgorithm());
+    if (!outcome)
+        return;
+    m_form->algFrame().setSelection(outcome->current);
+    if (outcome->storeAsDefault)
+        m_services.options.storeDefaultAlgorithm(outcome->current);
+}
+
+void CMainWindow::onUiAlgorithmInfoItem()
+{
+    CAlgInfoDialog dialog(this);
+    dialog.setProvider(m_services.algorithms);
+    dialog.setSelection(m_form->algFrame().selection());
+    dialog.exec();
+}
+
+void CMainWindow::onUiShortcutsItem()
+{
+    CkeyboardShortcutInfoDialog(this).exec();
+}
+
+void CMainWindow::onUiAboutItem()
+{
+    CAboutDialog(this).exec();
+}
+
+bool CMainWindow::isInputAccepted() const
+{
+    return isUsableInput(m_form->inputText().trimmed());
+}
+
+bool CMainWindow::acceptInput()
+{
+    if (!isInputAccepted())
+        return false;
+    if (!m_job.isRunning()) {
+        m_form->progressFrame().reset();
+        m_form->clearMessages();
+    }
+    proposeOutput();
+    refresh();
+    return true;
+}
+
+void CMainWindow::proposeOutput()
+{
+    const QString proposal =
+        outputPath(m_form->inputText().trimmed(), readNamingSettings(CAppSettings()), QDate::currentDate());
+    if (!proposal.isEmpty())
+        m_form->setOutputText(proposal);
+}
+
+void CMainWindow::refresh()
+{
+    const bool running = m_job.isRunning();
+    const bool stoppable = running && m_job.progress().phase != JobPhase::RemovingInput;
+    m_form->setRunning(running, stoppable);
+    m_actions[ActionId::Encrypt].setEnabled(!running);
+    m_actions[ActionId::Decrypt].setEnabled(!running);
+    m_actions[ActionId::DefaultAlgorithm].setEnabled(!running);
+    m_actions[ActionId::Stop].setEnabled(stoppable);
+    m_actions[ActionId::OpenInputFolder].setEnabled(!m_form->inputText().isEmpty());
+    m_actions[ActionId::OpenOutputFolder].setEnabled(!m_form->outputText().isEmpty());
+    const QString input = m_form->inputText().trimmed();
+    if (isInputAccepted())
+        m_form->showFile(input, platform::fileStatus(widePath(input)).size);
+    else
+        m_form->showNoFile();
+    setTitle();
+}
+
+void CMainWindow::setTitle()
+{
+    const QString program = QCoreApplication::applicationName();
+    const QString file =
+        m_job.isRunning() ? m_display.title() : QFileInfo(m_form->inputText().trimmed()).fileName();
+    QString title = file.isEmpty() ? program : QStringLiteral("%1 - %2").arg(file, program);
+    setWindowTitle(
+        title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))); // Qt's mark for "modified"
+}
+
+/// Alt and the keys that the table doesn't name end here on purpose.
+void CMainWindow::keyPressEvent(QKeyEvent* event)
+{
+    const auto command = commandFor(event->key(), event->modifiers());
+    if (!command)
+        return;
+    switch (*command) {
+    case Command::Encrypt:
+        return onUiEncryptItem();
+    case Command::Decrypt:
+        return onUiDecryptItem();
+    case Command::Stop:
+        return onUiStopItem();
+    case Command::Clear:
+        return onUiClearItem();
+    case Command::OpenInputFolder:
+        return onUiOpenInputFolderItem();
+    case Command::OpenOutputFolder:
+        return onUiOpenOutputFolderItem();
+    case Command::AddFile:
+        return onUiAddFileItem();
+    }
+}
+
+/// A running job doesn't hold the window up: whoever destroys it waits for the job.
+void CMainWindow::closeEvent(QCloseEvent* event)
+{
+    logger::log(logger::Debug, LogSource) << "Finish ...";
+    event->accept();
+}
+
+void CMainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        m_actions.retranslate();
+        refresh();
+    }
+}

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "app/job/CFileJob.h"
+#include "app/job/CMsgDispatcher.h"
+#include "app/widgets/IFilesDragDropEvent.h"
+#include "app/window/Actions.h"
+#include "app/window/JobDisplay.h"
+#include "app/window/OptionsHandler.h"
+#include "lib/settings/IAppOptionsChanged.h"
+
+#include <QMainWindow>
+#include <QStringList>
+
+class CJobFrame;
+
+namespace tessaly::crypto {
+class IEncryptorFactory;
+class IDecryptorFactory;
+} // namespace tessaly::crypto
+
+namespace thisapp {
+
+/// What the main window works with; all of it outlives the window.
+struct WindowServices
+{
+    const tessaly::crypto::IEncryptorFactory& encryptors;
+    const tessaly::crypto::IDecryptorFactory& decryptors;
+    const ICryptoAlgProvider& algorithms;
+    OptionsHandler& options;
+    desktop::ITaskbarProgress& taskbar;
+    desktop::INotifier& notifier;
+};
+
+} // namespace thisapp
+
+/// The window in which the user encrypts and decrypts files, one job at a time. Destroying it stops a
+/// running job and waits for it.
+class CMainWindow final : public QMainWindow, public IFilesDragDropEvent, public thisapp::IAppOptionsChanged
+{
+    Q_OBJECT
+
+public:
+    using SEncryptor = thisapp::SEncryptor;
+
+    explicit CMainWindow(const thisapp::WindowServices& services);
+    ~CMainWindow() override;
+
+    /// `arguments` are those after the program's name.
+    void processCommandLine(const QStringList& arguments);
+
+    void filesDropped(int widgetId, const QList<QUrl>& urls) override;
+    void appOptionsChanged(const thisapp::SAppOptions& options) override;
+
+public slots:
+    void onUiEncryptItem();
+    void onUiDecryptItem();
+    void onUiStopItem();
+    void onUiAddFileItem();
+    void onUiClearItem();
+    void onUiOpenInputFolderItem();
+    void onUiOpenOutputFolderItem();
+    void onUiOptionsItem();
+    void onUiDefaultAlgorithmItem();
+    void onUiAlgorithmInfoItem();
+    void onUiShortcutsItem();
+    void onUiAboutItem();
+
+private slots:
+    void onUiEncryptStarted();
+    void onUiEncryptProgressChanged();
+    void onUiEncryptFinished();
+    void onUiInputRemovalFinished();
+    void onUiInputEdited();
+    void onUiBrowseOutput();
+    /// Brings enabled states, title and the shown file in line with the fields and the job.
+    void refresh();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void connectActions();
+    void connectForm();
+    void connectJob();
+    void requestJob(thisapp::Operation operation);
+
+    bool isInputAccepted() const;
+    /// To be called when the input field has a new text: if that is a usable file, the window is
+    /// prepared for a job on it.
+    bool acceptInput();
+    void proposeOutput();
+    void selectAlgorithm(const QString& name);
+    void setTitle();
+
+    const thisapp::WindowServices m_services;
+    CMsgDispatcher m_dispatcher;
+    CJobFrame* m_form;
+    thisapp::Actions m_actions;
+    thisapp::JobDisplay m_display;
+    /// Last: its end, which waits for the worker, comes before that of the rest.
+    thisapp::CFileJob m_job;
+};

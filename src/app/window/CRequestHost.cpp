@@ -1,0 +1,106 @@
+#include "app/window/CRequestHost.h"
+
+#include "app/job/CFileJob.h"
+#include "app/window/CJobFrame.h"
+#include "app/window/FileDialogs.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/password/CSetKeyAndIvDialog.h"
+#include "ui/password/CSetPasswordDialog.h"
+
+namespace thisapp {
+
+CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job,
+                           const ICryptoAlgProvider& algorithms)
+    : m_window(window), m_form(form), m_job(job), m_algorithms(algorithms)
+{
+}
+
+bool CRequestHost::isJobRunning() const
+{
+    return m_job.isRunning();
+}
+
+AlgSelection CRequestHost::selection() const
+{
+    return m_form.algFrame().selection();
+}
+
+QString CRequestHost::inputText() const
+{
+    return m_form.inputText();
+}
+
+QString CRequestHost::outputText() const
+{
+    return m_form.outputText();
+}
+
+void CRequestHost::setInputText(const QString& text)
+{
+    m_form.setInputText(text);
+}
+
+void CRequestHost::setOutputText(const QString& text)
+{
+    m_form.setOutputText(text);
+}
+
+QString CRequestHost::chooseInput(const QString& title)
+{
+    return askFileToOpen(&m_window, title, {});
+}
+
+QString CRequestHost::chooseOutput(const QString& title)
+{
+    return askFileToSave(&m_window, title, m_form.inputText().trimmed());
+}
+
+bool CRequestHost::enterPassword(PasswordEntry& entry)
+{
+    CSetPasswordDialog dialog(&m_window);
+    dialog.setEncryptMode(entry.operation == Operation::Encrypt);
+    dialog.setAlgorithmName(m_algorithms.displayName(entry.selection));
+    dialog.setUseSalt(entry.useSalt);
+    dialog.setRewriteOutputFile(entry.rewriteOutput);
+    dialog.setShowAdvancedOptions(entry.showAdvancedOptions);
+    dialog.setShowPassword(entry.showPassword);
+    dialog.setUseConfirmPassword(entry.useConfirmPassword);
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    entry.switchToAdvanced = dialog.switchToAdvanced();
+    if (!accepted && !entry.switchToAdvanced)
+        return false;
+    entry.useSalt = dialog.useSalt();
+    entry.rewriteOutput = dialog.rewriteOutputFile();
+    entry.password = dialog.password();
+    return true;
+}
+
+bool CRequestHost::enterKeyAndIv(KeyEntry& entry)
+{
+    CSetKeyAndIvDialog dialog(&m_window);
+    dialog.setEncryptMode(entry.operation == Operation::Encrypt);
+    dialog.setAlgorithmName(m_algorithms.displayName(entry.selection));
+    dialog.setExpectedLengths(entry.keyLength, entry.ivLength);
+    dialog.setUseSalt(entry.useSalt);
+    dialog.setRewriteOutputFile(entry.rewriteOutput);
+    dialog.setTyped({entry.typedIv, entry.typedKey});
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    entry.switchToNormal = dialog.switchToNormal();
+    if (!accepted && !entry.switchToNormal)
+        return false;
+    entry.useSalt = dialog.useSalt();
+    entry.rewriteOutput = dialog.rewriteOutputFile();
+    entry.typedIv = dialog.typed().iv;
+    entry.typedKey = dialog.typed().key;
+    entry.key = dialog.key();
+    entry.iv = dialog.iv();
+    return true;
+}
+
+bool CRequestHost::prepareEngine(Operation operation, const AlgSelection& selection)
+{
+    return m_job.prepare(operation, selection);
+}
+
+} // namespace thisapp

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/job/IJobRequestHost.h"
+
+class QWidget;
+
+class CJobFrame;
+
+namespace thisapp {
+
+class CFileJob;
+class ICryptoAlgProvider;
+
+/// Answers a request's questions by the window's form, dialogs and job.
+class CRequestHost final : public IJobRequestHost
+{
+public:
+    CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job, const ICryptoAlgProvider& algorithms);
+
+    bool isJobRunning() const override;
+    AlgSelection selection() const override;
+    QString inputText() const override;
+    QString outputText() const override;
+    void setInputText(const QString& text) override;
+    void setOutputText(const QString& text) override;
+    QString chooseInput(const QString& title) override;
+    QString chooseOutput(const QString& title) override;
+    bool enterPassword(PasswordEntry& entry) override;
+    bool enterKeyAndIv(KeyEntry& entry) override;
+    bool prepareEngine(Operation operation, const AlgSelection& selection) override;
+
+private:
+    QWidget& m_window;
+    CJobFrame& m_form;
+    CFileJob& m_job;
+    const ICryptoAlgProvider& m_algorithms;
+};
+
+} // namespace thisapp
