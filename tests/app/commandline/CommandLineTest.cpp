@@ -1,0 +1,57 @@
+#include "app/commandline/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+using namespace thisapp;
+
+namespace {
+
+struct Case
+{
+    const char* name;
+    QStringList arguments;
+    CommandLine expected;
+    SlashRule rule = SlashRule::KnownWord;
+};
+
+constexpr auto Enc = Operation::Encrypt;
+constexpr auto Dec = Operation::Decrypt;
+
+const Case Cases[] = {
+    {"nothing", {}, {}},
+    {"one existing file is the input", {" here "}, {Enc, false, "here", {}, {}, {}}},
+    {"one other word is nothing", {"there"}, {}},
+    {"one option is still an option", {"-start"}, {Enc, true, {}, {}, {}, {}}},
+    {"both signs, any case", {"/IFILE", "x", "-DeCrypt"}, {Dec, false, "x", {}, {}, {}}},
+    {"the input stays as it is, the output is trimmed",
+     {"-ifile", " x ", "-ofile", " y "},
+     {Enc, false, " x ", "y", {}, {}}},
+    {"an option takes no option as value", {"-ifile", "-start"}, {Enc, true, {}, {}, {}, {}}},
+    {"nor an unknown one", {"-ifile", "-x", "y"}, {}},
+    {"an option that stands last takes no value", {"-start", "-ofile"}, {Enc, true, {}, {}, {}, {}}},
+    {"a word of another length is unknown", {"-starts", "-decryp", "here"}, {}},
+    {"a value may begin with a slash", {"-ifile", "/tmp/x"}, {Enc, false, "/tmp/x", {}, {}, {}}},
+    {"unless it is an option", {"-ifile", "/START", "x"}, {Enc, true, {}, {}, {}, {}}},
+    {"elsewhere a slash is always an option", {"-ifile", "/tmp/x"}, {}, SlashRule::AnyWord},
+    {"the last one counts",
+     {"-decrypt", "-encrypt", "-ifile", "a", "-ifile", "b"},
+     {Enc, false, "b", {}, {}, {}}},
+    {"names", {"/algorithm", "AES-256", "/library", "Crypto++"}, {Enc, false, {}, {}, "AES-256", "Crypto++"}},
+};
+
+TEST(CommandLineTest, ReadsEveryFormOfTheArguments)
+{
+    for (const Case& c : Cases) {
+        SCOPED_TRACE(c.name);
+        const CommandLine line =
+            parseCommandLine(c.arguments, c.rule, [](const QString& path) { return path == "here"; });
+        EXPECT_EQ(line.operation, c.expected.operation);
+        EXPECT_EQ(line.start, c.expected.start);
+        EXPECT_EQ(line.input, c.expected.input);
+        EXPECT_EQ(line.output, c.expected.output);
+        EXPECT_EQ(line.algorithm, c.expected.algorithm);
+        EXPECT_EQ(line.library, c.expected.library);
+    }
+}
+
+} // namespace

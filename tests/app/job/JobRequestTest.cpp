@@ -1,0 +1,189 @@
+#include "app/job/JobRequest.h"
+#include "app/job/PathText.h"
+#include "lib/settings/CAppSettings.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+
+using namespace thisapp;
+using namespace tessaly;
+
+namespace {
+
+/// A window made of variables: what the fields hold and what the user answers.
+struct FakeHost final : IJobRequestHost, IMessageAreas
+{
+    bool running = false;
+    AlgSelection selected = DefaultAlgSelection;
+    QString input, output, chosenInput, chosenOutput;
+    std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
+    std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
+    bool engine = true;
+    std::vector<std::pair<Area, QString>> messages;
+    QString dialogTitle;
+
+    bool isJobRunning() const override { return running; }
+    AlgSelection selection() const override { return selected; }
+    QString inputText() const override { return input; }
+    QString outputText() const override { return output; }
+    void setInputText(const QString& text) override { input = text; }
+    void setOutputText(const QString& text) override { output = text; }
+    QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
+    QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
+    bool enterPassword(PasswordEntry& entry) override { return password(entry); }
+    bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
+    bool prepareEngine(Operation, const AlgSelection&) override { return engine; }
+    void showMessage(Area area, Message message) override { messages.emplace_back(area, message.now()); }
+};
+
+class JobRequestTest : public ::testing::TestWithParam<Operation>
+{
+protected:
+    /// The text of the operation that is tested.
+    const char* pick(const char* encryption, const char* decryption) const
+    {
+        return GetParam() == Operation::Encrypt ? encryption : decryption;
+    }
+
+    void expectRefusal(Area area, const std::string& text)
+    {
+        host.messages.clear();
+        EXPECT_FALSE(JobRequest(GetParam(), host, host).run());
+        ASSERT_EQ(host.messages.size(), 1U) << text;
+        EXPECT_EQ(host.messages[0].first, area) << text;
+        EXPECT_EQ(host.messages[0].second.toStdString(), text);
+        EXPECT_EQ(test::readFile(folder / "in.txt"), "input") << text;
+        EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << text;
+    }
+
+    void SetUp() override
+    {
+        CAppSettings().clear();
+        folder.write("in.txt", "input");
+        folder.write("out.txt", "former output");
+    }
+    QString path(const char* name) const { return QString::fromStdString(folder / name); }
+
+    test::TempFolder folder;
+    FakeHost host;
+};
+
+INSTANTIATE_TEST_SUITE_P(, JobRequestTest, ::testing::Values(Operation::Encrypt, Operation::Decrypt));
+
+/// Everything is wrong at first; each line mends one thing, and the next check speaks.
+TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
+{
+    host.running = true;
+    host.selected = {};
+    host.engine = false;
+    expectRefusal(Area::Progress, "Encryption/Decryption already running.");
+    host.running = false;
+    const char* noAlgorithm =
+        pick("Encryption algorithm is not defined.", "Decryption algorithm is not defined.");
+    expectRefusal(Area::Progress, noAlgorithm);
+    host.selected.library = 1;
+    expectRefusal(Area::Progress, noAlgorithm);
+    host.selected = DefaultAlgSelection;
+    host.input = "  ";
+    expectRefusal(Area::Input, pick("File to encrypt is not defined.", "File to decrypt is not defined."));
+    EXPECT_EQ(host.dialogTitle, pick("Select file to encrypt", "Select file to decrypt"));
+    host.chosenInput = path("missing");
+    expectRefusal(Area::Input, pick("File to encrypt is not found.", "File to decrypt is not found."));
+    EXPECT_EQ(host.input, path("missing"));
+    host.input = path("");
+    expectRefusal(Area::Input, "The input is not a regular file.");
+    host.input = " " + path("in.txt") + " ";
+    expectRefusal(Area::Output, "Output file is not defined.");
+    EXPECT_EQ(host.dialogTitle, "Define output file");
+    host.chosenOutput = path("IN.txt");
+    expectRefusal(Area::Result, "Output file name matches the name of the input file");
+    std::filesystem::create_symlink(folder / "in.txt", folder / "link");
+    std::filesystem::create_hard_link(folder / "in.txt", folder / "twin");
+    for (const char* alias : {"link", "twin", "x/../in.txt"}) {
+        host.output = path(alias);
+        expectRefusal(Area::Result, "Output file name matches the name of the input file");
+    }
+    host.output = path("");
+    expectRefusal(Area::Result, "The output is not a regular file.");
+    host.output = path("out.txt");
+    expectRefusal(Area::Result, "Password not defined");
+    host.password = [](PasswordEntry&) { return true; }; // accepted, but empty
+    expectRefusal(Area::Result, "Password not defined");
+    host.password = [](PasswordEntry& entry) { return entry.switchToAdvanced = true; };
+    expectRefusal(Area::Result, "Password not defined");
+    host.key = [](KeyEntry& entry) { return entry.key.assign(31, 1), entry.iv.assign(15, 2), true; };
+    expectRefusal(Area::Result, "Invalid IV size. Entered 15 bytes");
+    host.key = [](KeyEntry& entry) { return entry.key.assign(31, 1), entry.iv.assign(16, 2), true; };
+    expectRefusal(Area::Result, "Invalid key size. Entered 16 bytes"); // the size of the IV
+    host.key = [](KeyEntry& entry) { return entry.key.assign(32, 1), entry.iv.assign(16, 2), true; };
+    expectRefusal(Area::Result,
+                  pick("Failed to prepare encryption engine.", "Failed to prepare decryption engine."));
+    host.engine = true;
+    expectRefusal(Area::Result, "Output file already exists! A 'not rewrite' option has been selected.");
+
+    host.password = [](PasswordEntry& entry) { return entry.rewriteOutput = entry.switchToAdvanced = true; };
+    const auto request = JobRequest(GetParam(), host, host).run();
+    ASSERT_TRUE(request);
+    EXPECT_EQ(request->operation, GetParam());
+    EXPECT_EQ(request->inputPath, folder / "in.txt");
+    EXPECT_FALSE(request->passwordMode);
+    EXPECT_EQ(request->key.size(), 32U);
+    EXPECT_TRUE(request->rewriteOutput);
+    EXPECT_TRUE(request->outputFlag);
+    EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
+}
+
+TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
+{
+    host.input = path("in.txt");
+    host.output = path("new");
+    int visits = 0;
+    host.password = [&visits](PasswordEntry& entry) {
+        EXPECT_EQ(entry.useSalt, visits == 1) << "what the other dialog left";
+        if (visits++ == 0)
+            return entry.switchToAdvanced = true;
+        entry.password = SecretText("secret");
+        return true;
+    };
+    host.key = [](KeyEntry& entry) {
+        EXPECT_EQ(entry.keyLength, 32U);
+        EXPECT_EQ(entry.ivLength, 16U);
+        return entry.switchToNormal = entry.useSalt = true;
+    };
+    const auto request = JobRequest(GetParam(), host, host).run();
+    ASSERT_TRUE(request);
+    EXPECT_EQ(visits, 2);
+    EXPECT_TRUE(request->passwordMode);
+    EXPECT_TRUE(request->useSalt);
+    EXPECT_FALSE(request->outputFlag);
+    EXPECT_EQ(request->password.view(), "secret");
+    EXPECT_TRUE(request->key.empty());
+}
+
+TEST_P(JobRequestTest, AsksAsTheSettingsSay)
+{
+    const bool encrypting = GetParam() == Operation::Encrypt;
+    for (const bool value : {false, true}) {
+        CAppSettings settings;
+        for (const char* key : {"UseSalt", "RewriteOutputFile", "ShowAdvancedPasswordOptions", "ShowPassword",
+                                "UseConfirmPassword"})
+            settings.setValue(key, value);
+        settings.sync();
+        host.input = path("in.txt");
+        host.output = path("new");
+        host.password = [&](PasswordEntry& entry) {
+            EXPECT_EQ(entry.useSalt, encrypting && value);
+            EXPECT_EQ(entry.rewriteOutput, value);
+            EXPECT_EQ(entry.showAdvancedOptions, value);
+            EXPECT_EQ(entry.showPassword, value);
+            EXPECT_EQ(entry.useConfirmPassword, !encrypting || value);
+            return false;
+        };
+        expectRefusal(Area::Result, "Password not defined");
+    }
+}
+
+} // namespace

@@ -1,0 +1,68 @@
+#include "app/job/ProgressText.h"
+#include "app/job/ProgressTracker.h"
+
+#include <gtest/gtest.h>
+
+using namespace thisapp;
+
+namespace {
+
+constexpr std::int64_t MiB = 1024 * 1024;
+
+TEST(ProgressTest, SaysEachTimeInTheUnitsThatItNeeds)
+{
+    const std::pair<std::int64_t, const char*> cases[] = {
+        {0, "Remaining time: 0 seconds"},
+        {59, "Remaining time: 59 seconds"},
+        {60, "Remaining time: 1 minutes 0 seconds"},
+        {3599, "Remaining time: 59 minutes 59 seconds"},
+        {3600, "Remaining time: 1 hours 0 minutes 0 seconds"},
+        {90061, "Remaining time: 25 hours 1 minutes 1 seconds"},
+    };
+    for (const auto& [seconds, text] : cases)
+        EXPECT_EQ(remainingTimeText(seconds).toStdString(), text);
+}
+
+TEST(ProgressTest, JoinsWhatIsKnown)
+{
+    ProgressTracker progress;
+    progress.reset(100 * MiB, 0);
+    EXPECT_EQ(progressText(Operation::Decrypt, JobPhase::Processing, progress).toStdString(),
+              "Decrypting. 0.000% processed");
+    progress.update(25 * MiB, 500);
+    EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Processing, progress).toStdString(),
+              "Encrypting at 50.0 MiB/s. 25.000% processed. Remaining time: 2 seconds");
+    progress.update(100 * MiB, 2000);
+    EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Flushing, progress).toStdString(),
+              "Waiting until the disk has stored the file. 100.000% processed");
+}
+
+TEST(ProgressTest, SmoothsTheSpeed)
+{
+    ProgressTracker progress;
+    progress.reset(1000 * MiB, 0);
+    std::int64_t now = 0;
+    for (std::int64_t done = 10; done <= 100; done += 10)
+        progress.update(done * MiB, now += 1000);
+    EXPECT_NEAR(*progress.bytesPerSecond(), 10.0 * MiB, 1.0);
+    progress.update(140 * MiB, now += 1000); // one burst at four times the speed
+    EXPECT_GT(*progress.bytesPerSecond(), 11.0 * MiB);
+    EXPECT_LT(*progress.bytesPerSecond(), 25.0 * MiB);
+    progress.update(140 * MiB + 1023, now += 1000); // too little for a sample
+    EXPECT_EQ(progress.remainingSeconds().has_value(), true);
+    EXPECT_LT(*progress.remainingSeconds(), 86);
+}
+
+TEST(ProgressTest, StaysInBoundsWhateverIsReported)
+{
+    ProgressTracker progress;
+    EXPECT_FALSE(progress.remainingSeconds());
+    progress.update(5, 0); // a job over nothing
+    EXPECT_EQ(progress.percent(), 0.0F);
+    progress.reset(4096, 10);
+    progress.update(9000, 10); // beyond the end, in no time
+    EXPECT_EQ(progress.percent(), 100.0F);
+    EXPECT_FALSE(progress.bytesPerSecond());
+}
+
+} // namespace

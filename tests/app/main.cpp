@@ -1,0 +1,24 @@
+#include "lib/settings/CAppSettings.h"
+#include "lib/settings/Product.h"
+#include "support/TempFolder.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+/// Tests of widgets: no display, and settings, state and desktop entries in a folder of their own.
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    const test::TempFolder home;
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        ::setenv(variable, (home / variable).c_str(), 1);
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    ::setenv("LANGUAGE", "en_US", 1);
+    const QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(tessaly::QuilletName);
+    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
+    QLocale::setDefault(QLocale::c());
+    return RUN_ALL_TESTS();
+}

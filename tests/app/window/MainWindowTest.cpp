@@ -1,0 +1,341 @@
+#include "window/WindowHarness.h"
+
+#include "lib/settings/CAppSettings.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QMimeData>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using namespace thisapp;
+using test::WindowHarness;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// DES_EDE3, the slowest of all.
+constexpr AlgSelection SlowAlgorithm{1, 601};
+
+class MainWindowTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { set({}); }
+
+    /// The settings that differ from their defaults.
+    static void set(const std::map<QString, QVariant>& values)
+    {
+        CAppSettings settings;
+        settings.clear();
+        settings.setValue("UseConfirmPassword", false);
+        for (const auto& [key, value] : values)
+            settings.setValue(key, value);
+    }
+
+    void run(Qt::Key key, const QString& input, const QString& output, const QString& password = "secret")
+    {
+        w.input().setText(input);
+        w.output().setText(output);
+        w.answerPassword(password);
+        QTest::keyClick(w.window.get(), key);
+    }
+    void encrypt() { run(Qt::Key_F5, w.path("in"), w.path("out")); }
+
+    /// A job that is at work, and would be for a while.
+    void startLongJob()
+    {
+        folder().write("in", "");
+        fs::resize_file(w.folder / "in", 4LL << 30); // sparse
+        ASSERT_TRUE(w.form().algFrame().setSelection(SlowAlgorithm));
+        encrypt();
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return w.progress().percent() > 0; }, WindowHarness::JobTimeoutMs));
+        ASSERT_TRUE(w.isRunning());
+    }
+    const test::TempFolder& folder() const { return w.folder; }
+
+    WindowHarness w;
+};
+
+TEST_F(MainWindowTest, EncryptsAndDecryptsWhatTheUserGives)
+{
+    for (const std::uint32_t id : {252U, 550U, 200U}) {
+        for (const std::size_t size : {std::size_t{0}, std::size_t{1}, std::size_t{300'000}}) {
+            SCOPED_TRACE(id);
+            w.writeInput("in", size);
+            ASSERT_TRUE(w.form().algFrame().setSelection({1, id}));
+            encrypt();
+            ASSERT_TRUE(w.waitForEnd());
+            EXPECT_EQ(w.result(), "File was encrypted successfully");
+            EXPECT_EQ(w.progress().percent(), 100.0F);
+            run(Qt::Key_F6, w.path("out"), w.path("back"));
+            ASSERT_TRUE(w.waitForEnd());
+            EXPECT_EQ(w.result(), "File was decrypted successfully");
+            EXPECT_EQ(test::readFile(folder() / "in"), test::readFile(folder() / "back"));
+            fs::remove(folder() / "out");
+            fs::remove(folder() / "back");
+        }
+    }
+    EXPECT_EQ(w.taskbarValues.back(), 0);
+}
+
+TEST_F(MainWindowTest, RefusesAWrongPasswordBeforeItWrites)
+{
+    w.writeInput("in", 1000);
+    encrypt();
+    ASSERT_TRUE(w.waitForEnd());
+    run(Qt::Key_F6, w.path("out"), w.path("back"), "wrong");
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "Failed to decrypt file. Corrupted data (error: 5/4003)");
+    EXPECT_EQ(w.text("outputMessage"), "");
+    EXPECT_NE(w.text("inputMessage"), "");
+    EXPECT_FALSE(fs::exists(folder() / "back"));
+
+    // With rewriting on, a former output is gone by then, and the user is told.
+    set({{"RewriteOutputFile", true}});
+    folder().write("back", "former");
+    run(Qt::Key_F6, w.path("out"), w.path("back"), "wrong");
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
+    EXPECT_FALSE(fs::exists(folder() / "back"));
+    EXPECT_TRUE(fs::exists(folder() / "out"));
+}
+
+TEST_F(MainWindowTest, KeepsAnExistingOutputUnlessToldToRewrite)
+{
+    w.writeInput("in", 1000);
+    folder().write("out", "former");
+    encrypt();
+    EXPECT_EQ(w.result(), "Output file already exists! A 'not rewrite' option has been selected.");
+    EXPECT_EQ(test::readFile(folder() / "out"), "former");
+    set({{"RewriteOutputFile", true}});
+    encrypt();
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File was encrypted successfully");
+    EXPECT_EQ(fs::file_size(folder() / "out"), 1056U);
+}
+
+TEST_F(MainWindowTest, StopsInTheMiddle)
+{
+    startLongJob();
+    EXPECT_TRUE(w.window->windowTitle().contains("% - in - "));
+    EXPECT_FALSE(w.input().isEnabled());
+    EXPECT_TRUE(fs::exists(folder() / "out"));
+
+    QTest::keyClick(w.window.get(), Qt::Key_F5);
+    EXPECT_EQ(w.progress().message(), "Encryption/Decryption already running.");
+    const float percent = w.progress().percent();
+    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+    EXPECT_EQ(w.input().text() + w.output().text(), "");
+    EXPECT_EQ(w.progress().percent(), percent);
+
+    QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File encryption was canceled");
+    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
+    EXPECT_FALSE(fs::exists(folder() / "out"));
+    EXPECT_TRUE(fs::exists(folder() / "in"));
+    EXPECT_EQ(w.window->windowTitle(), "Quillet");
+}
+
+TEST_F(MainWindowTest, ClosingEndsTheJobWithoutAPartialOutput)
+{
+    startLongJob();
+    EXPECT_TRUE(w.window->close());
+    w.window.reset();
+    EXPECT_FALSE(fs::exists(folder() / "out"));
+    EXPECT_TRUE(fs::exists(folder() / "in"));
+}
+
+TEST_F(MainWindowTest, DeletesTheInputAsTheUserDecides)
+{
+    struct
+    {
+        bool confirm;
+        QMessageBox::StandardButton answer;
+        bool deleted;
+    } const cases[] = {
+        {true, QMessageBox::No, false}, {true, QMessageBox::Yes, true}, {false, QMessageBox::NoButton, true}};
+    for (const auto& c : cases) {
+        set({{"DeleteSourceFileAfterEncryption", true},
+             {"ConfirmDeleteSourceFileAfterEncryption", c.confirm}});
+        w.writeInput("in", 5000);
+        bool asked = false;
+        encrypt();
+        if (c.confirm)
+            w.onDialog<QMessageBox>([&](QMessageBox& box) {
+                asked = true;
+                EXPECT_EQ(box.text(),
+                          "Are you sure you want to delete the input file after encryption?\nFile: '" +
+                              w.path("in") + "'\n");
+                EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+                QTest::mouseClick(box.button(c.answer), Qt::LeftButton);
+            });
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !w.isRunning() && asked == c.confirm && w.result() != ""; },
+                                    WindowHarness::JobTimeoutMs));
+        ASSERT_TRUE(w.waitForEnd());
+        EXPECT_EQ(fs::exists(folder() / "in"), !c.deleted);
+        EXPECT_EQ(w.text("inputMessage"), c.deleted ? "Input file has been deleted after the successfully "
+                                                      "encryption according to your options"
+                                                    : "");
+        fs::remove(folder() / "out");
+    }
+}
+
+TEST_F(MainWindowTest, MapsKeysToCommands)
+{
+    w.input().setText(w.path("missing"));
+    struct
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* message;
+    } const cases[] = {
+        {Qt::Key_F5, Qt::NoModifier, "File to encrypt is not found."},
+        {Qt::Key_F5, Qt::ShiftModifier, "File to encrypt is not found."},
+        {Qt::Key_F6, Qt::NoModifier, "File to decrypt is not found."},
+        {Qt::Key_F5, Qt::ControlModifier, ""},
+        {Qt::Key_F6, Qt::ControlModifier, ""},
+        {Qt::Key_F5, Qt::AltModifier, ""},
+        {Qt::Key_F7, Qt::NoModifier, ""},
+    };
+    for (const auto& [key, modifiers, message] : cases) {
+        w.form().clearMessages();
+        QTest::keyClick(&w.input(), key, modifiers);
+        EXPECT_EQ(w.text("inputMessage"), message) << key;
+    }
+    for (const Qt::Key key : {Qt::Key_O, Qt::Key_N}) {
+        w.writeInput("chosen.enc", 10);
+        w.onDialog<QFileDialog>([this](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), "Add file to encrypt/decrypt");
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(w.path("chosen.enc"));
+            QTest::keyClick(dialog.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        });
+        QTest::keyClick(&w.output(), key, Qt::ControlModifier);
+        EXPECT_EQ(w.input().text(), w.path("chosen.enc"));
+        EXPECT_EQ(w.output().text(), w.path("chosen.dec")) << "the proposal";
+        QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+        EXPECT_EQ(w.input().text() + w.output().text(), "");
+    }
+}
+
+class UrlRecorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<QUrl> urls;
+public slots:
+    void open(const QUrl& url) { urls += url; }
+};
+
+TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
+{
+    UrlRecorder opened;
+    QDesktopServices::setUrlHandler("file", &opened, "open");
+    const auto press = [this](Qt::Key key) { QTest::keyClick(w.window.get(), key, Qt::ControlModifier); };
+    press(Qt::Key_F9);
+    w.input().setText(w.path("no folder/in"));
+    press(Qt::Key_F9);
+    EXPECT_TRUE(opened.urls.isEmpty());
+    w.input().setText(w.path("in"));
+    w.output().setText("/out");
+    press(Qt::Key_F9);
+    press(Qt::Key_F10);
+    QDesktopServices::unsetUrlHandler("file");
+    const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///")};
+    EXPECT_EQ(opened.urls, expected);
+}
+
+TEST_F(MainWindowTest, TakesDroppedFiles)
+{
+    w.writeInput("in", 10);
+    const auto drop = [](QWidget& target, const QMimeData& data) {
+        QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&target, &enter);
+        if (enter.isAccepted()) {
+            QDropEvent event({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&target, &event);
+        }
+        return enter.isAccepted();
+    };
+    QMimeData words;
+    words.setText("words");
+    QMimeData files;
+    files.setUrls(
+        {QUrl("https://example.org/x"), QUrl::fromLocalFile(w.path("in")), QUrl::fromLocalFile("/y")});
+    for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input(), &w.output()})
+        EXPECT_FALSE(drop(*target, words));
+    for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
+        QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+        EXPECT_TRUE(drop(*target, files));
+        EXPECT_EQ(w.input().text(), w.path("in"));
+        EXPECT_EQ(w.output().text(), w.path("in.enc"));
+    }
+    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+    EXPECT_TRUE(drop(w.output(), files));
+    EXPECT_EQ(w.input().text(), "");
+    EXPECT_EQ(w.output().text(), w.path("in"));
+}
+
+TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
+{
+    w.writeInput("in", 100);
+    w.window->processCommandLine({w.path("in")});
+    EXPECT_EQ(w.input().text(), w.path("in"));
+    EXPECT_EQ(w.output().text(), w.path("in.enc"));
+    EXPECT_FALSE(w.isRunning());
+
+    w.answerPassword("secret");
+    w.window->processCommandLine({"-start", "-ifile", w.path("in"), "/ofile", w.path("out"), "-library",
+                                  "none", "-algorithm", "aes-128"});
+    EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "AES-128");
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File was encrypted successfully");
+    EXPECT_TRUE(fs::exists(folder() / "out"));
+
+    w.window->processCommandLine({"-algorithm", "no such", "-ifile", w.path("missing")});
+    EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "AES-128");
+    EXPECT_EQ(w.output().text(), w.path("out")) << "no proposal for what isn't there";
+}
+
+TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
+{
+    fs::create_directory(folder() / "translations");
+    folder().write("translations/quillet.langs.xml",
+                   "<locales><locale language='de' country='DE' displayname='Deutsch' file='de.properties' "
+                   "filetype='properties'/></locales>");
+    folder().write("translations/de.properties", "JobRequest|Password\\ not\\ defined=Kein Passwort\n");
+    w.options.applyAtStart();
+    w.writeInput("in", 10);
+    w.input().setText(w.path("in"));
+    w.output().setText(w.path("out"));
+    w.answerPassword("");
+    QTest::keyClick(w.window.get(), Qt::Key_F5);
+    EXPECT_EQ(w.result(), "Password not defined");
+    SAppOptions options = w.options.read();
+    struct
+    {
+        std::uint32_t wanted, stored;
+        const char* message;
+    } const cases[] = {
+        {1031, 1031, "Kein Passwort"},
+        {1036, 1031, "Kein Passwort"}, // without a translation all stays as it is
+        {1033, 1033, "Password not defined"},
+    };
+    for (const auto& c : cases) {
+        options.localeId = c.wanted;
+        w.window->appOptionsChanged(options);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(w.result(), c.message);
+        EXPECT_EQ(w.options.read().localeId, c.stored);
+    }
+}
+
+} // namespace
+
+#include "MainWindowTest.moc"

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "app/desktop/INotifier.h"
+#include "app/desktop/ITaskbarProgress.h"
+#include "app/i18n/MyTranslator.h"
+#include "app/widgets/CMessageLine.h"
+#include "app/widgets/CProgressBarFrame.h"
+#include "app/window/CJobFrame.h"
+#include "app/window/CMainWindow.h"
+#include "crypto/cryptopp/CDecryptorFactory.h"
+#include "crypto/cryptopp/CEncryptorFactory.h"
+#include "lib/i18n/TranslationManager.h"
+#include "lib/logger/FileLogging.h"
+#include "support/TempFolder.h"
+#include "ui/algorithms/CCryptoAlgProvider.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include <algorithm>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// The main window with all that it works with, as start-up puts it together; the desktop is recorded.
+class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisapp::desktop::INotifier
+{
+public:
+    static constexpr int JobTimeoutMs = 60'000;
+
+    WindowHarness()
+        : translations(folder.wide("translations"), "Quillet"),
+          translator(translations.bundle()),
+          logging(folder / "quillet.log"),
+          options({algorithms, translations, translator, logging, [](bool, bool) {}}),
+          window(std::make_unique<CMainWindow>(
+              thisapp::WindowServices{encryptors, decryptors, algorithms, options, *this, *this}))
+    {
+        window->show();
+    }
+
+    QLineEdit& input() { return *window->findChild<QLineEdit*>("lineEditInput"); }
+    QLineEdit& output() { return *window->findChild<QLineEdit*>("lineEditOutput"); }
+    QPushButton& button(const char* name) { return *window->findChild<QPushButton*>(name); }
+    std::string text(const char* line)
+    {
+        return window->findChild<CMessageLine*>(line)->text().toStdString();
+    }
+    std::string result() { return text("resultMessage"); }
+    CProgressBarFrame& progress() { return *window->findChild<CProgressBarFrame*>(); }
+    CJobFrame& form() { return *window->findChild<CJobFrame*>(); }
+    QString path(const char* name) const { return QString::fromStdString(folder / name); }
+
+    /// Once a modal dialog of the type is open, does this with it.
+    template <class Dialog>
+    void onDialog(std::function<void(Dialog&)> action)
+    {
+        auto* timer = new QTimer(window.get());
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+            if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+                timer->deleteLater();
+                action(*dialog);
+            }
+        });
+        timer->start(5);
+    }
+
+    /// Types the password into every field of the dialog to come and accepts it.
+    void answerPassword(const QString& password)
+    {
+        onDialog<QDialog>([password](QDialog& dialog) {
+            for (const char* name : {"lineEditPassword", "lineEditConfirmPassword"})
+                QTest::keyClicks(dialog.findChild<QLineEdit*>(name), password);
+            QTest::mouseClick(dialog.findChild<QPushButton*>("buttonOk"), Qt::LeftButton);
+        });
+    }
+
+    bool isRunning() { return !button("buttonEncrypt").isEnabled(); }
+    /// Runs the event loop until no job runs any more.
+    bool waitForEnd()
+    {
+        return QTest::qWaitFor([this] { return !isRunning(); }, JobTimeoutMs);
+    }
+
+    /// A file of this many bytes that no two chunks of are alike.
+    void writeInput(const char* name, std::size_t size) const
+    {
+        std::string content(size, '\0');
+        unsigned state = 1;
+        std::ranges::generate(content,
+                              [&state] { return char((state = state * 1103515245U + 12345U) >> 24); });
+        folder.write(name, content);
+    }
+
+    std::vector<int> taskbarValues;
+    QStringList notifications;
+    test::TempFolder folder;
+    thisapp::CCryptoAlgProvider algorithms;
+    tessaly::i18n::TranslationManager translations;
+    thisapp::MyTranslator translator;
+    tessaly::logger::FileLogging logging;
+    thisapp::OptionsHandler options;
+    tessaly::cryptopp::CEncryptorFactory encryptors;
+    tessaly::cryptopp::CDecryptorFactory decryptors;
+    std::unique_ptr<CMainWindow> window;
+
+private:
+    void show() override {}
+    void hide() override {}
+    void setValue(int percent) override { taskbarValues.push_back(percent); }
+    void notify(const QString& summary, const QString&) override { notifications += summary; }
+};
+
+} // namespace test
