@@ -1,0 +1,83 @@
+// Saves a picture of the main window in each of its states: window_gallery FOLDER [dark] [narrow].
+// QT_SCALE_FACTOR=2 doubles the scale.
+#include "window/WindowHarness.h"
+
+#include "lib/settings/CAppSettings.h"
+#include "lib/settings/Product.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+
+#include <QDir>
+
+#include <filesystem>
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x35, 0x35));
+    palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    for (const auto role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+    return palette;
+}
+
+void saveAll(test::WindowHarness& w, const std::function<void(const char*)>& save)
+{
+    const auto run = [&w](Qt::Key key, const char* password) {
+        w.answerPassword(password);
+        QTest::keyClick(w.window.get(), key);
+    };
+    save("idle");
+
+    const char* name = "Quarterly report with a rather long name 2026-11.pdf";
+    w.folder.write(name, "");
+    std::filesystem::resize_file(w.folder / name, 200 << 20);
+    w.form().algFrame().setSelection({1, 452});
+    w.window->processCommandLine({w.path(name)});
+    save("ready");
+
+    run(Qt::Key_F5, "secret");
+    (void)QTest::qWaitFor([&w] { return w.progress().percent() > 35; }, 60'000);
+    save("running");
+    QTest::keyClick(w.window.get(), Qt::Key_F8);
+    (void)w.waitForEnd();
+    save("cancelled");
+
+    run(Qt::Key_F5, "secret");
+    (void)w.waitForEnd();
+    save("success");
+    w.window->processCommandLine({w.path((std::string(name) + ".enc").c_str())});
+    run(Qt::Key_F6, "wrong");
+    (void)w.waitForEnd();
+    save("wrong_password");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const test::TempFolder home;
+    ::setenv("XDG_CONFIG_HOME", home.path().c_str(), 1);
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QCoreApplication::setApplicationName(tessaly::QuilletName);
+    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
+    CAppSettings().setValue(QStringLiteral("UseConfirmPassword"), false);
+    const QStringList arguments = QCoreApplication::arguments();
+    const QDir folder(arguments.value(1, QStringLiteral(".")));
+    if (arguments.contains(QStringLiteral("dark")))
+        QApplication::setPalette(darkPalette());
+
+    test::WindowHarness harness;
+    if (arguments.contains(QStringLiteral("narrow")))
+        harness.window->resize(480, harness.window->height());
+    saveAll(harness, [&](const char* name) {
+        QTest::qWait(150);
+        harness.window->grab().save(
+            folder.filePath(QString::fromLatin1(name) + arguments.mid(2).join('_').prepend('_') + ".png"));
+    });
+    return 0;
+}
