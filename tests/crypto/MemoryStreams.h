@@ -24,7 +24,8 @@ struct Faults
 {
     int failAtCall = 0;
     std::int64_t mostAtOnce = std::numeric_limits<std::int64_t>::max();
-    std::int64_t endsAt = std::numeric_limits<std::int64_t>::max(); ///< whatever the size says
+    std::int64_t endsAt =
+        std::numeric_limits<std::int64_t>::max(); ///< success without bytes, as of a file that shrank
     std::function<void(int)> onCall = [](int) {};
 };
 
@@ -43,9 +44,10 @@ public:
         m_faults.onCall(++m_calls);
         m_error = m_calls == m_faults.failAtCall ? StreamFault : tessaly::ResultCode{};
         const std::int64_t left = std::min(size(), m_faults.endsAt) - m_position;
-        countRead = m_error.ok() ? std::min({count, left, m_faults.mostAtOnce}) : 0;
-        if (countRead < 1)
+        countRead = 0;
+        if (!m_error.ok() || isAtEnd())
             return false;
+        countRead = std::max<std::int64_t>(0, std::min({count, left, m_faults.mostAtOnce}));
         std::copy_n(m_bytes.begin() + m_position, countRead, static_cast<std::uint8_t*>(buffer));
         m_position += countRead;
         return true;

@@ -5,6 +5,7 @@
 #include <array>
 #include <functional>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -21,6 +22,7 @@ public:
     void* data = nullptr;
     std::function<void()> onStarted = [] {};
     std::function<void()> onProgress = [] {};
+    std::function<void()> onFinished = [] {};
 
     void started(void* userData) override
     {
@@ -39,6 +41,7 @@ public:
     {
         calls += userData != data ? '?' : stopped ? 'F' : 'f';
         result = outcome;
+        onFinished();
     }
 };
 
@@ -131,6 +134,21 @@ TEST(Operation, StopsAfterTheChunkAtHand)
     });
 }
 
+TEST(Operation, StopsFromAnotherThread)
+{
+    forEveryWay([](Way& way) {
+        std::thread stopper;
+        const auto raceWithStop = [&](int call) {
+            if (call == 1)
+                stopper = std::thread([&] { way.stop(); });
+        };
+        const Outcome outcome = way.run({}, {.onCall = raceWithStop});
+        stopper.join();
+        EXPECT_EQ(outcome.result, CryptoResult());
+        EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(outcome.writes)));
+    });
+}
+
 TEST(Operation, ReportsItsCourseInOrder)
 {
     forEveryWay([](Way& way) {
@@ -200,13 +218,15 @@ TEST(Operation, NoExceptionLeavesIt)
 {
     const auto raise = [](auto...) { throw std::runtime_error("of the caller"); };
     const CryptoResult expected({err::CategoryCryptoPP, 6}, err::library(err::ProcessingFailed));
-    for (int thrower = 0; thrower < 3; ++thrower) {
+    for (int thrower = 0; thrower < 4; ++thrower) {
         Way way("AES-128", true);
         if (thrower < 2)
             (thrower == 0 ? way.recorder.onStarted : way.recorder.onProgress) = raise;
+        if (thrower == 3)
+            way.recorder.onFinished = raise;
         EXPECT_EQ(way.run(thrower == 2 ? Faults{.onCall = raise} : Faults{}).result, expected);
         EXPECT_EQ(way.recorder.calls.back(), 'f');
-        EXPECT_EQ(way.recorder.result, expected);
+        EXPECT_EQ(way.recorder.result, thrower == 3 ? CryptoResult() : expected);
         EXPECT_FALSE(way.job.encryptor->isBusy());
     }
 }

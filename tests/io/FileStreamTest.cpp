@@ -131,6 +131,8 @@ TEST_F(FileStream, ANewFileReplacesNothing)
         OStreamNewFile out(wide(name), Access::Default);
         EXPECT_EQ(out.write("x", 1), 0);
         EXPECT_EQ(out.lastError(), err::system(EEXIST)) << name;
+        if (fs::is_symlink(folder / name))
+            fs::remove(folder / name); // once refused, it is not tried again
         EXPECT_EQ(out.finish(), err::system(EEXIST)) << name;
         EXPECT_FALSE(out.isCreated());
     }
