@@ -8,6 +8,20 @@
 
 namespace tessaly::io {
 
+namespace {
+
+/// Some file systems give the size 0 for files that do hold something. Taken at their word, such a
+/// file would count as empty, and its content as saved.
+bool hidesItsSize(const platform::File& file, const platform::FileStatus& status)
+{
+    char byte = 0;
+    std::size_t got = 0;
+    return status.kind == platform::FileKind::Regular && status.size == 0 && file.read(&byte, 1, got).ok() &&
+           got > 0;
+}
+
+} // namespace
+
 template <class Char>
 ResultCode IStreamFile<Char>::open(const std::basic_string<Char>& path)
 {
@@ -22,6 +36,8 @@ ResultCode IStreamFile<Char>::open(const std::basic_string<Char>& path)
         return result;
     if (const ResultCode result = file.status(status); !result.ok())
         return result;
+    if (hidesItsSize(file, status))
+        return err::library(err::GetFileSizeFailed);
     m_file = std::move(file);
     m_status = status;
     m_position = 0;

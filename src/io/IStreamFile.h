@@ -13,7 +13,8 @@ template <class Char>
 class IStreamFile final : public IStreamBytes
 {
 public:
-    /// (5, 5) for an empty path, (5, 7) when already open, (1, system error) else.
+    /// (5, 5) for an empty path, (5, 7) when already open, (5, 43) when the system does not tell the
+    /// size of what the file holds, (1, system error) else.
     ResultCode open(const std::basic_string<Char>& path);
 
     bool isAtStart() const override;

@@ -66,6 +66,7 @@ TEST_F(FileStream, ReadingRefusesAndReports)
     EXPECT_EQ(in.open(L""), err::library(err::NullArgument));
     EXPECT_EQ(in.open(wide("absent")), err::system(ENOENT));
     EXPECT_EQ(in.open(wide(".").append(1, L'\0')), err::system(ENOENT));
+    EXPECT_EQ(in.open(L"/proc/self/status"), err::library(err::GetFileSizeFailed));
     EXPECT_EQ(readSome(in, 1), "!");
     EXPECT_EQ(in.lastError(), err::library(err::StreamClosed));
     EXPECT_EQ(readSome(in, 0), "");
