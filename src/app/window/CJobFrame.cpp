@@ -39,13 +39,15 @@ CJobFrame::CJobFrame(QWidget* parent)
       m_progress(new CProgressBarFrame),
       m_result(new CMessageLine)
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_hint, 1);
-    buildRows();
-    layout->addWidget(m_algFrame);
-    buildButtons();
-    layout->addWidget(m_progress);
-    layout->addWidget(m_result);
+    auto* column = new QVBoxLayout;
+    column->addWidget(m_hint, 1);
+    column->addLayout(makeRows());
+    column->addWidget(m_algFrame);
+    column->addLayout(makeButtons());
+    column->addWidget(m_progress);
+    column->addWidget(m_result);
+    column->addStretch();
+    showColumn(column);
 
     m_input->setObjectName(QStringLiteral("lineEditInput"));
     m_output->setObjectName(QStringLiteral("lineEditOutput"));
@@ -60,7 +62,22 @@ CJobFrame::CJobFrame(QWidget* parent)
     retranslate();
 }
 
-void CJobFrame::buildRows()
+/// In a very large window the column stays in reach of the eye: its width and the hint's height are
+/// limited.
+void CJobFrame::showColumn(QVBoxLayout* column)
+{
+    auto* content = new QWidget;
+    content->setLayout(column);
+    column->setContentsMargins({});
+    content->setMaximumWidth(130 * fontMetrics().averageCharWidth());
+    m_hint->setMaximumHeight(18 * fontMetrics().height());
+    auto* layout = new QHBoxLayout(this);
+    layout->addStretch();
+    layout->addWidget(content, 1);
+    layout->addStretch();
+}
+
+QLayout* CJobFrame::makeRows()
 {
     auto* grid = new QGridLayout;
     const auto addRow = [grid](int row, QLabel* label, CLineEditForFile* field, QToolButton* browse,
@@ -76,10 +93,10 @@ void CJobFrame::buildRows()
     addRow(2, m_outputLabel, m_output, m_browseOutput, m_outputMessage);
     grid->setColumnStretch(1, 1);
     grid->setVerticalSpacing(fontMetrics().height() / 4);
-    static_cast<QVBoxLayout*>(layout())->addLayout(grid);
+    return grid;
 }
 
-void CJobFrame::buildButtons()
+QLayout* CJobFrame::makeButtons()
 {
     auto* row = new QHBoxLayout;
     const int unit = fontMetrics().height();
@@ -92,7 +109,7 @@ void CJobFrame::buildButtons()
     addButton(m_encrypt, "encrypt", 2);
     addButton(m_decrypt, "decrypt", 2);
     addButton(m_stop, "stop", 1);
-    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+    return row;
 }
 
 void CJobFrame::connectWidgets()

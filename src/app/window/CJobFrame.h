@@ -14,6 +14,7 @@ class CSelectAlgFrame;
 class QLabel;
 class QPushButton;
 class QToolButton;
+class QVBoxLayout;
 
 namespace thisapp {
 
@@ -65,8 +66,9 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void buildRows();
-    void buildButtons();
+    void showColumn(QVBoxLayout* column);
+    QLayout* makeRows();
+    QLayout* makeButtons();
     void connectWidgets();
     void retranslate();
     void refreshHint();
