@@ -8,7 +8,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 programs=$here/build/release/bin
 
 console_run() {
-  local folder='' password file sealed scratch
+  local folder='' password file sealed
   echo "No display here: doing the job in the console." >&2
   if [ $# = 0 ]; then
     set -- "$here/README.md"
