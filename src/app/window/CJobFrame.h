@@ -19,7 +19,7 @@ class QVBoxLayout;
 namespace thisapp {
 
 /// The widgets that a drop can fall on.
-enum DropId : int { DropOnWindow, DropOnInput, DropOnOutput };
+enum DropId { DropOnWindow, DropOnInput, DropOnOutput };
 
 } // namespace thisapp
 
