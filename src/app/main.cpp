@@ -103,6 +103,7 @@ int main(int argc, char* argv[])
     if (answerOnTerminal({argv, static_cast<std::size_t>(argc)}))
         return 0;
     platform::disableCoreDumps();
+    platform::ignoreWriteSignals();
     prepareApplication();
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(applicationIcon());

@@ -18,7 +18,7 @@ ResultCode LocaleResLoaderPropFile::load(const std::wstring& path, ILocaleResLoa
         callback.onItem(key.substr(0, end), key.substr(end + 1), value);
     };
     const auto filter = [](const std::string& key) { return key.find(ContextEnd) != std::string::npos; };
-    return file::internal::PropertiesFileReader(ResourceOptions)
+    return file::internal::PropertiesFileReader(ResourceLimits)
         .read(path, sink, filter, callback.variables());
 }
 

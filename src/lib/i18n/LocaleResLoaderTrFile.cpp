@@ -113,7 +113,7 @@ private:
 ResultCode LocaleResLoaderTrFile::load(const std::wstring& path, ILocaleResLoaderCallback& callback) const
 {
     XmlFile xml;
-    const ResultCode opened = xml.open(path, ResourceOptions);
+    const ResultCode opened = xml.open(path, ResourceLimits);
     if (!opened.ok())
         return opened;
     MessageReader messages(callback);

@@ -5,7 +5,7 @@
 namespace {
 
 /// What a typed letter tells; nothing for other keys and for letters without case.
-std::optional<bool> evidenceOf(const QKeyEvent& event)
+std::optional<bool> evidenceIn(const QKeyEvent& event)
 {
     const QString text = event.text();
     if (text.size() != 1 || text[0].toUpper() == text[0].toLower())
@@ -31,7 +31,7 @@ bool CapsLockWatcher::eventFilter(QObject* watched, QEvent* event)
     } else if (event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         if (key.key() != Qt::Key_CapsLock)
-            learn(evidenceOf(key));
+            learn(evidenceIn(key));
         else if (m_on && !key.isAutoRepeat())
             learn(!*m_on);
     }
