@@ -71,7 +71,10 @@ protected:
     FakeHost host;
 };
 
-INSTANTIATE_TEST_SUITE_P(, JobRequestTest, ::testing::Values(Operation::Encrypt, Operation::Decrypt));
+INSTANTIATE_TEST_SUITE_P(, JobRequestTest, ::testing::Values(Operation::Encrypt, Operation::Decrypt),
+                         [](const auto& row) {
+                             return row.param == Operation::Encrypt ? "Encrypt" : "Decrypt";
+                         });
 
 /// Everything is wrong at first; each line mends one thing, and the next check speaks.
 TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
