@@ -131,11 +131,9 @@ int main(int argc, char* argv[])
         updateShell(stored.integrateToShellContextMenu, stored.addToSendMenu);
     });
     // Ctrl-C in the terminal ends a job as closing the window does: nothing partial stays behind.
-    const platform::Interrupts interrupts([&window] {
-        QMetaObject::invokeMethod(&window, [&window] {
-            window.close();
-            QCoreApplication::quit();
-        });
+    const platform::Interrupts interrupts([&] {
+        QMetaObject::invokeMethod(&window, "close", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
     });
     return QApplication::exec();
 }
