@@ -12,6 +12,8 @@ export HOME=$home TMPDIR=$home XDG_CONFIG_HOME=$home/config XDG_STATE_HOME=$home
 # The program bars debuggers from itself, and a leak checker is one.
 export ASAN_OPTIONS=detect_leaks=0
 unset QT_QPA_PLATFORM
+# The X and graphics libraries aren't built for ThreadSanitizer, and there are too many to name.
+export TSAN_OPTIONS=ignore_noninstrumented_modules=1
 mkdir -p "$XDG_CONFIG_HOME/Tessaly"
 printf '[General]\nUseLogFile=true\nLogLevel=6\n' >"$XDG_CONFIG_HOME/Tessaly/Quillet.conf"
 pid=
