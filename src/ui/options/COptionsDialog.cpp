@@ -4,8 +4,6 @@
 #include "lib/settings/IAppOptionsChanged.h"
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/TextTail.h"
-#include "ui/style/MessageStyle.h"
-#include "ui/style/ReadOnlyField.h"
 #include "ui/style/TextSize.h"
 #include "ui_COptionsDialog.h"
 
@@ -33,7 +31,6 @@ COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::
         area->viewport()->setAutoFillBackground(false);
         area->widget()->setAutoFillBackground(false);
     }
-    thisapp::showAsReadOnly(*m_ui->lineEditMsg);
 
     connect(m_ui->frameGeneral, &CGeneralOptionsFrame::browseClicked, this,
             &COptionsDialog::onUiOpenDefaultOutputDir);
@@ -99,7 +96,7 @@ void COptionsDialog::onUiApply()
     m_options = shownOptions();
     if (m_receiver != nullptr)
         m_receiver->appOptionsChanged(m_options);
-    thisapp::showMessage(*m_ui->lineEditMsg, tr("The options were applied."), thisapp::MessageKind::Success);
+    m_ui->lineEditMsg->showMessage(tr("The options were applied."), thisapp::MessageKind::Success);
 }
 
 void COptionsDialog::onUiCancel()
@@ -121,15 +118,15 @@ void COptionsDialog::onUiOpenDefaultOutputDir()
 void COptionsDialog::onUiLanguageChanged(int)
 {
     if (shownOptions().localeId != m_options.localeId)
-        thisapp::showMessage(*m_ui->lineEditMsg, tr("The language changes with OK or Apply."),
-                             thisapp::MessageKind::Plain);
+        m_ui->lineEditMsg->showMessage(tr("The language changes with OK or Apply."),
+                                       thisapp::MessageKind::Plain);
 }
 
 void COptionsDialog::onUiViewLogFileClicked(const QString& path)
 {
     if (const thisapp::TextTail log = thisapp::readTextTail(path); !log.ok) {
-        thisapp::showMessage(*m_ui->lineEditMsg, tr("The log file can't be read: %1").arg(log.text),
-                             thisapp::MessageKind::Warning);
+        m_ui->lineEditMsg->showMessage(tr("The log file can't be read: %1").arg(log.text),
+                                       thisapp::MessageKind::Warning);
         return;
     }
     CTextViewDialog viewer(this);
@@ -197,7 +194,7 @@ void COptionsDialog::updateSamples()
     };
     m_ui->frameEncryption->setSample(sample(NamingDirection::Encryption));
     m_ui->frameDecryption->setSample(sample(NamingDirection::Decryption));
-    thisapp::showMessage(*m_ui->lineEditMsg, namingWarning(naming), thisapp::MessageKind::Warning);
+    m_ui->lineEditMsg->showMessage(namingWarning(naming), thisapp::MessageKind::Warning);
 }
 
 QString COptionsDialog::namingWarning(const NamingSettings& naming) const
