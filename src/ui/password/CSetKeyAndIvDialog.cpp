@@ -63,11 +63,6 @@ void CSetKeyAndIvDialog::setExpectedLengths(std::uint32_t keyLength, std::uint32
     m_ivLength = ivLength;
 }
 
-void CSetKeyAndIvDialog::setKeyAndIv(const SecretBytes& key, const SecretBytes& iv)
-{
-    m_typed = {encodeHex(iv), encodeHex(key)};
-}
-
 void CSetKeyAndIvDialog::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous())
