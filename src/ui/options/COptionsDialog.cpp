@@ -25,7 +25,7 @@ const QString SampleInput = QStringLiteral("MyFile.txt");
 COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::COptionsDialog)
 {
     m_ui->setupUi(this);
-    setTitles();
+    setNamingTexts();
     for (QScrollArea* area : {m_ui->scrollGeneral, m_ui->scrollNames, m_ui->scrollAdvanced}) {
         // The tab's own background shall show through.
         area->viewport()->setAutoFillBackground(false);
@@ -117,6 +117,7 @@ void COptionsDialog::onUiOpenDefaultOutputDir()
 
 void COptionsDialog::onUiLanguageChanged(int)
 {
+    updateSamples();
     if (shownOptions().localeId != m_options.localeId)
         m_ui->lineEditMsg->showMessage(tr("The language changes with OK or Apply."),
                                        thisapp::MessageKind::Plain);
@@ -164,14 +165,18 @@ void COptionsDialog::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
-        setTitles();
+        setNamingTexts();
     }
 }
 
-void COptionsDialog::setTitles()
+void COptionsDialog::setNamingTexts()
 {
-    m_ui->frameEncryption->setTitle(tr("Name of &encrypted file"));
-    m_ui->frameDecryption->setTitle(tr("Name of &decrypted file"));
+    m_ui->frameEncryption->setTexts({tr("Name of encrypted file"), tr("Add f&ile extension:"),
+                                     tr("Add &suffix:"), tr("Add &prefix:"), tr("Add dat&e"),
+                                     tr("Samp&le:")});
+    m_ui->frameDecryption->setTexts({tr("Name of decrypted file"), tr("Add file ex&tension:"),
+                                     tr("Add s&uffix:"), tr("Add p&refix:"), tr("Add &date"),
+                                     tr("Sa&mple:")});
 }
 
 thisapp::SAppOptions COptionsDialog::shownOptions() const
