@@ -12,6 +12,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QShowEvent>
+#include <QStyle>
+
+#include <algorithm>
 
 using thisapp::NamingDirection;
 using thisapp::NamingSettings;
@@ -30,6 +33,10 @@ COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::
         // The tab's own background shall show through.
         area->viewport()->setAutoFillBackground(false);
         area->widget()->setAutoFillBackground(false);
+        // Wide enough to scroll down only.
+        const int width = area->widget()->minimumSizeHint().width() +
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area);
+        area->setMinimumWidth(std::min(width, thisapp::textSize(*this, 90, 1).width()));
     }
 
     connect(m_ui->frameGeneral, &CGeneralOptionsFrame::browseClicked, this,
