@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
 #include <gtest/gtest.h>
 #include <ostream>
 
@@ -60,6 +61,17 @@ void whenModal(Steps steps, QWidget* present = QApplication::activeModalWidget()
         steps(*modal);
     });
 }
+
+/// Puts every text into capitals.
+class Capitals final : public QTranslator
+{
+public:
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return QString(source).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 inline std::ostream& operator<<(std::ostream& stream, const QString& text)
 {

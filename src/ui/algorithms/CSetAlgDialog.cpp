@@ -28,6 +28,8 @@ CSetAlgDialog::CSetAlgDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_
     connect(m_ui->listWidgetAlg, &QListWidget::currentItemChanged, this,
             &CSetAlgDialog::onUiCurrentAlgChanged);
     connect(m_ui->listWidgetAlg, &QListWidget::itemActivated, this, &QDialog::accept);
+    connect(m_ui->checkBoxUseAsDefault, &QCheckBox::toggled, this,
+            [this](bool checked) { m_useAsDefault = checked; });
     connect(m_ui->buttonOk, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->buttonCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -50,11 +52,6 @@ void CSetAlgDialog::setUseAsDefault(bool use)
 {
     m_useAsDefault = use;
     m_fillOnNextShow.set(true);
-}
-
-bool CSetAlgDialog::useAsDefault() const
-{
-    return m_ui->checkBoxUseAsDefault->isChecked();
 }
 
 void CSetAlgDialog::showEvent(QShowEvent* event)

@@ -32,7 +32,7 @@ public:
 
     /// (0, 0) while nothing is chosen.
     thisapp::AlgSelection selection() const { return m_selection; }
-    bool useAsDefault() const;
+    bool useAsDefault() const { return m_useAsDefault; }
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -31,6 +31,7 @@ void CAdvancedOptionsFrame::setLogFilePath(const QString& path)
 {
     m_ui->editLogFile->setText(path);
     m_ui->editLogFile->setCursorPosition(0);
+    m_ui->editLogFile->setToolTip(path.toHtmlEscaped());
 }
 
 void CAdvancedOptionsFrame::setOptions(const thisapp::SAppOptions& options)

@@ -10,6 +10,18 @@
 
 using thisapp::SAppOptions;
 
+namespace {
+
+void enableWith(const QCheckBox& box, std::initializer_list<QWidget*> dependents)
+{
+    for (QWidget* dependent : dependents) {
+        dependent->setEnabled(box.isChecked());
+        QObject::connect(&box, &QCheckBox::toggled, dependent, &QWidget::setEnabled);
+    }
+}
+
+} // namespace
+
 /// A check box and the option that it stands for.
 struct CGeneralOptionsFrame::Box
 {
@@ -24,12 +36,8 @@ CGeneralOptionsFrame::CGeneralOptionsFrame(QWidget* parent)
     indentDependents();
     fillShortcuts();
 
-    for (QWidget* widget :
-         {static_cast<QWidget*>(m_ui->labelOutputDir), static_cast<QWidget*>(m_ui->editOutputDir),
-          static_cast<QWidget*>(m_ui->buttonBrowse)}) {
-        widget->setEnabled(m_ui->checkUseOutputDir->isChecked());
-        connect(m_ui->checkUseOutputDir, &QCheckBox::toggled, widget, &QWidget::setEnabled);
-    }
+    enableWith(*m_ui->checkUseDefaultAlgorithm, {m_ui->labelAlgorithm, m_ui->comboAlgorithm});
+    enableWith(*m_ui->checkUseOutputDir, {m_ui->labelOutputDir, m_ui->editOutputDir, m_ui->buttonBrowse});
     connect(m_ui->buttonBrowse, &QPushButton::clicked, this, &CGeneralOptionsFrame::browseClicked);
     connect(m_ui->comboLanguage, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &CGeneralOptionsFrame::languageChanged);
@@ -90,7 +98,9 @@ void CGeneralOptionsFrame::store(SAppOptions& options) const
         options.*box.option = box.widget->isChecked();
     if (m_ui->comboLanguage->currentIndex() >= 0)
         options.localeId = m_ui->comboLanguage->currentData().toUInt();
-    options.setDefaultAlgorithm(m_ui->comboAlgorithm->currentData().value<thisapp::AlgSelection>());
+    options.setDefaultAlgorithm(options.useDefaultAlgorithmAtStarting
+                                    ? m_ui->comboAlgorithm->currentData().value<thisapp::AlgSelection>()
+                                    : thisapp::AlgSelection());
     options.outputDirPath = QDir::toNativeSeparators(outputDir().trimmed());
 }
 

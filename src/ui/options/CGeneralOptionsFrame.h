@@ -32,6 +32,7 @@ public:
 
     void setOptions(const thisapp::SAppOptions& options);
     /// Sets the values of this tab, and nothing else. A language that isn't offered stays as it was.
+    /// The algorithm is none while there is to be no default one, so that the stored one stays.
     void store(thisapp::SAppOptions& options) const;
 
     /// The default output folder, as typed.

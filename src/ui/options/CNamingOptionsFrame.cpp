@@ -46,9 +46,14 @@ void CNamingOptionsFrame::pair(QCheckBox* box, QLineEdit* edit, StateSignal stat
     connect(edit, &QLineEdit::textChanged, this, textChanged);
 }
 
-void CNamingOptionsFrame::setTitle(const QString& title)
+void CNamingOptionsFrame::setTexts(const STexts& texts)
 {
-    m_ui->group->setTitle(title);
+    m_ui->group->setTitle(texts.title);
+    m_ui->checkExt->setText(texts.addExt);
+    m_ui->checkSuffix->setText(texts.addSuffix);
+    m_ui->checkPrefix->setText(texts.addPrefix);
+    m_ui->checkDate->setText(texts.addDate);
+    m_ui->labelSample->setText(texts.sample);
 }
 
 void CNamingOptionsFrame::setParts(const thisapp::NameParts& parts)

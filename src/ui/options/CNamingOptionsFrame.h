@@ -23,7 +23,19 @@ public:
     explicit CNamingOptionsFrame(QWidget* parent = nullptr);
     ~CNamingOptionsFrame() override;
 
-    void setTitle(const QString& title);
+    /// What stands at the controls, translated. The frame is there twice, and each has mnemonics of
+    /// its own.
+    struct STexts
+    {
+        QString title;
+        QString addExt;
+        QString addSuffix;
+        QString addPrefix;
+        QString addDate;
+        QString sample;
+    };
+
+    void setTexts(const STexts& texts);
     void setParts(const thisapp::NameParts& parts);
     /// A dot typed before the extension is dropped: names are compared with the bare extension.
     thisapp::NameParts parts() const;

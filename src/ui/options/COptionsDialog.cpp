@@ -4,8 +4,6 @@
 #include "lib/settings/IAppOptionsChanged.h"
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/TextTail.h"
-#include "ui/style/MessageStyle.h"
-#include "ui/style/ReadOnlyField.h"
 #include "ui/style/TextSize.h"
 #include "ui_COptionsDialog.h"
 
@@ -14,6 +12,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QShowEvent>
+#include <QStyle>
+
+#include <algorithm>
 
 using thisapp::NamingDirection;
 using thisapp::NamingSettings;
@@ -27,13 +28,16 @@ const QString SampleInput = QStringLiteral("MyFile.txt");
 COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::COptionsDialog)
 {
     m_ui->setupUi(this);
-    setTitles();
+    setNamingTexts();
     for (QScrollArea* area : {m_ui->scrollGeneral, m_ui->scrollNames, m_ui->scrollAdvanced}) {
         // The tab's own background shall show through.
         area->viewport()->setAutoFillBackground(false);
         area->widget()->setAutoFillBackground(false);
+        // Wide enough to scroll down only.
+        const int width = area->widget()->minimumSizeHint().width() +
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area);
+        area->setMinimumWidth(std::min(width, thisapp::textSize(*this, 90, 1).width()));
     }
-    thisapp::showAsReadOnly(*m_ui->lineEditMsg);
 
     connect(m_ui->frameGeneral, &CGeneralOptionsFrame::browseClicked, this,
             &COptionsDialog::onUiOpenDefaultOutputDir);
@@ -99,7 +103,7 @@ void COptionsDialog::onUiApply()
     m_options = shownOptions();
     if (m_receiver != nullptr)
         m_receiver->appOptionsChanged(m_options);
-    thisapp::showMessage(*m_ui->lineEditMsg, tr("The options were applied."), thisapp::MessageKind::Success);
+    m_ui->lineEditMsg->showMessage(tr("The options were applied."), thisapp::MessageKind::Success);
 }
 
 void COptionsDialog::onUiCancel()
@@ -120,16 +124,17 @@ void COptionsDialog::onUiOpenDefaultOutputDir()
 
 void COptionsDialog::onUiLanguageChanged(int)
 {
+    updateSamples();
     if (shownOptions().localeId != m_options.localeId)
-        thisapp::showMessage(*m_ui->lineEditMsg, tr("The language changes with OK or Apply."),
-                             thisapp::MessageKind::Plain);
+        m_ui->lineEditMsg->showMessage(tr("The language changes with OK or Apply."),
+                                       thisapp::MessageKind::Plain);
 }
 
 void COptionsDialog::onUiViewLogFileClicked(const QString& path)
 {
     if (const thisapp::TextTail log = thisapp::readTextTail(path); !log.ok) {
-        thisapp::showMessage(*m_ui->lineEditMsg, tr("The log file can't be read: %1").arg(log.text),
-                             thisapp::MessageKind::Warning);
+        m_ui->lineEditMsg->showMessage(tr("The log file can't be read: %1").arg(log.text),
+                                       thisapp::MessageKind::Warning);
         return;
     }
     CTextViewDialog viewer(this);
@@ -167,14 +172,18 @@ void COptionsDialog::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
-        setTitles();
+        setNamingTexts();
     }
 }
 
-void COptionsDialog::setTitles()
+void COptionsDialog::setNamingTexts()
 {
-    m_ui->frameEncryption->setTitle(tr("Name of &encrypted file"));
-    m_ui->frameDecryption->setTitle(tr("Name of &decrypted file"));
+    m_ui->frameEncryption->setTexts({tr("Name of encrypted file"), tr("Add f&ile extension:"),
+                                     tr("Add &suffix:"), tr("Add &prefix:"), tr("Add dat&e"),
+                                     tr("Samp&le:")});
+    m_ui->frameDecryption->setTexts({tr("Name of decrypted file"), tr("Add file ex&tension:"),
+                                     tr("Add s&uffix:"), tr("Add p&refix:"), tr("Add &date"),
+                                     tr("Sa&mple:")});
 }
 
 thisapp::SAppOptions COptionsDialog::shownOptions() const
@@ -197,7 +206,7 @@ void COptionsDialog::updateSamples()
     };
     m_ui->frameEncryption->setSample(sample(NamingDirection::Encryption));
     m_ui->frameDecryption->setSample(sample(NamingDirection::Decryption));
-    thisapp::showMessage(*m_ui->lineEditMsg, namingWarning(naming), thisapp::MessageKind::Warning);
+    m_ui->lineEditMsg->showMessage(namingWarning(naming), thisapp::MessageKind::Warning);
 }
 
 QString COptionsDialog::namingWarning(const NamingSettings& naming) const

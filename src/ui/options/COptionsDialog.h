@@ -71,7 +71,7 @@ protected:
 
 private:
     void connectNaming();
-    void setTitles();
+    void setNamingTexts();
     thisapp::SAppOptions shownOptions() const;
     void updateSamples();
     QString namingWarning(const thisapp::NamingSettings& naming) const;

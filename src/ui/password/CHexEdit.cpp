@@ -1,6 +1,7 @@
 #include "ui/password/CHexEdit.h"
 
 #include "ui/style/MessageStyle.h"
+#include "ui/style/ThemeChange.h"
 
 #include <QFontDatabase>
 #include <QStyle>
@@ -20,6 +21,7 @@ CHexEdit::CHexEdit(QWidget* parent) : QPlainTextEdit(parent)
     setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhPreferLatin);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
+    thisapp::onThemeChange(*this, [this] { recolor(); });
 }
 
 void CHexEdit::setExpectedLength(std::uint32_t length)
@@ -28,20 +30,23 @@ void CHexEdit::setExpectedLength(std::uint32_t length)
     updateGeometry();
 }
 
-void CHexEdit::showValidity(bool valid)
+void CHexEdit::showValidity(std::optional<bool> valid)
 {
-    const QColor color = thisapp::fieldColor(valid, window()->palette());
-    const QString sheet = QStringLiteral("QPlainTextEdit {background-color: rgb(%1, %2, %3)}")
-                              .arg(color.red())
-                              .arg(color.green())
-                              .arg(color.blue());
-    if (sheet != styleSheet()) // applying one is slow
-        setStyleSheet(sheet);
+    if (valid == m_valid) // applying a style sheet is slow
+        return;
+    m_valid = valid;
+    recolor();
 }
 
-void CHexEdit::showNoValidity()
+void CHexEdit::recolor()
 {
-    setStyleSheet(QString());
+    if (!m_valid)
+        return setStyleSheet(QString());
+    const QColor color = thisapp::fieldColor(*m_valid, window()->palette());
+    setStyleSheet(QStringLiteral("QPlainTextEdit {background-color: rgb(%1, %2, %3)}")
+                      .arg(color.red())
+                      .arg(color.green())
+                      .arg(color.blue()));
 }
 
 QSize CHexEdit::sizeHint() const

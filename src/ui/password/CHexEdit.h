@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 #include <cstdint>
+#include <optional>
 
 /// A mono-spaced field for secret hexadecimal text: sized for the expected bytes, no undo history,
 /// Tab leaves it.
@@ -15,13 +16,15 @@ public:
     /// In bytes.
     void setExpectedLength(std::uint32_t length);
 
-    /// Colours the background by a check's outcome.
-    void showValidity(bool valid);
-    void showNoValidity();
+    /// Colours the background by a check's outcome; nothing for none.
+    void showValidity(std::optional<bool> valid);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 private:
+    void recolor();
+
+    std::optional<bool> m_valid;
     std::uint32_t m_expectedLength = 0;
 };

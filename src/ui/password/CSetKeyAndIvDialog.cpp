@@ -6,8 +6,6 @@
 #include "ui/password/HexCheck.h"
 #include "ui/password/KeyAndIvText.h"
 #include "ui/password/SecretFields.h"
-#include "ui/style/InfoText.h"
-#include "ui/style/MessageStyle.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
@@ -65,11 +63,6 @@ void CSetKeyAndIvDialog::setExpectedLengths(std::uint32_t keyLength, std::uint32
     m_ivLength = ivLength;
 }
 
-void CSetKeyAndIvDialog::setKeyAndIv(const SecretBytes& key, const SecretBytes& iv)
-{
-    m_typed = {encodeHex(iv), encodeHex(key)};
-}
-
 void CSetKeyAndIvDialog::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous())
@@ -110,7 +103,7 @@ void CSetKeyAndIvDialog::showTexts()
                                         "Selected cryptographic algorithm: %1.")
                                    : tr("Enter the key and IV to decrypt the file. \r\n"
                                         "Selected cryptographic algorithm: %1.");
-    thisapp::setInfoText(*m_ui->textEditInfo, info.arg(m_algorithmName));
+    m_ui->textEditInfo->showText(info.arg(m_algorithmName));
     setAccessibleDescription(m_ui->textEditInfo->toPlainText());
     m_ui->labelKey->setText(tr("&Key, length: %1 bytes (HEX format)").arg(m_keyLength));
     m_ui->labelIv->setText(tr("&Initialization vector (IV), length: %1 bytes (HEX format)").arg(m_ivLength));
@@ -128,9 +121,9 @@ void CSetKeyAndIvDialog::fillFields()
     m_typed = {};
     check();
     if (m_ui->plainTextEditIv->document()->isEmpty() && m_ui->plainTextEditKey->document()->isEmpty()) {
-        m_ui->plainTextEditIv->showNoValidity();
-        m_ui->plainTextEditKey->showNoValidity();
-        thisapp::showMessage(*m_ui->lineEditMsg, QString(), MessageKind::Plain);
+        m_ui->plainTextEditIv->showValidity(std::nullopt);
+        m_ui->plainTextEditKey->showValidity(std::nullopt);
+        m_ui->lineEditMsg->clearMessage();
     }
 }
 
@@ -154,7 +147,7 @@ bool CSetKeyAndIvDialog::check()
         if (!field->passed())
             message += field->problem + QLatin1Char(' ');
     const bool passed = message.isEmpty();
-    thisapp::showMessage(*m_ui->lineEditMsg, message, passed ? MessageKind::Plain : MessageKind::Warning);
+    m_ui->lineEditMsg->showMessage(message, passed ? MessageKind::Plain : MessageKind::Warning);
     m_ui->buttonCopy->setEnabled(passed);
     m_ui->buttonSave->setEnabled(passed);
     return passed;
@@ -181,15 +174,13 @@ void CSetKeyAndIvDialog::onUiGenerate()
     SecretBytes key;
     SecretBytes iv;
     if (!crypto::randomBytes(m_ivLength, iv).ok() || !crypto::randomBytes(m_keyLength, key).ok()) {
-        thisapp::showMessage(*m_ui->lineEditMsg, tr("The system's random generator failed."),
-                             MessageKind::Error);
+        m_ui->lineEditMsg->showMessage(tr("The system's random generator failed."), MessageKind::Error);
         return;
     }
     thisapp::setTypedText(*m_ui->plainTextEditIv, encodeHex(iv));
     thisapp::setTypedText(*m_ui->plainTextEditKey, encodeHex(key));
-    thisapp::showMessage(*m_ui->lineEditMsg,
-                         tr("Copy or save the key and IV: without them the file cannot be decrypted."),
-                         MessageKind::Warning);
+    m_ui->lineEditMsg->showMessage(
+        tr("Copy or save the key and IV: without them the file cannot be decrypted."), MessageKind::Warning);
 }
 
 void CSetKeyAndIvDialog::onUiCopy()
@@ -200,8 +191,7 @@ void CSetKeyAndIvDialog::onUiCopy()
     // Asks clipboard managers to keep it out of their history.
     mimeData->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
     QGuiApplication::clipboard()->setMimeData(mimeData);
-    thisapp::showMessage(*m_ui->lineEditMsg, tr("The key and IV are on the clipboard."),
-                         MessageKind::Success);
+    m_ui->lineEditMsg->showMessage(tr("The key and IV are on the clipboard."), MessageKind::Success);
 }
 
 void CSetKeyAndIvDialog::onUiSave()
@@ -214,11 +204,10 @@ void CSetKeyAndIvDialog::onUiSave()
     const SecretText text = textToKeep();
     const ResultCode result = io::writePrivateFile(path.toStdWString(), text.view());
     if (result.ok())
-        thisapp::showMessage(*m_ui->lineEditMsg, tr("The key and IV were saved. Only you can read the file."),
-                             MessageKind::Success);
+        m_ui->lineEditMsg->showMessage(tr("The key and IV were saved. Only you can read the file."),
+                                       MessageKind::Success);
     else
-        thisapp::showMessage(
-            *m_ui->lineEditMsg,
+        m_ui->lineEditMsg->showMessage(
             tr("The key and IV could not be saved: %1").arg(qt_error_string(static_cast<int>(result.code))),
             MessageKind::Error);
 }

@@ -33,8 +33,7 @@ public:
     void setUseSalt(bool use) { m_useSalt = use; }
     void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
     void setAlgorithmName(const QString& name) { m_algorithmName = name; }
-    /// What the fields hold when the dialog opens, from bytes or from an earlier dialog's typed().
-    void setKeyAndIv(const tessaly::SecretBytes& key, const tessaly::SecretBytes& iv);
+    /// What the fields hold when the dialog opens: an earlier dialog's typed().
     void setTyped(STyped typed) { m_typed = std::move(typed); }
 
     /// Empty unless accepted; after a switch, what was a whole number of hexadecimal bytes.

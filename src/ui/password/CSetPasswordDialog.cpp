@@ -4,8 +4,6 @@
 #include "ui/password/CapsLockWatcher.h"
 #include "ui/password/PasswordStrength.h"
 #include "ui/password/SecretFields.h"
-#include "ui/style/InfoText.h"
-#include "ui/style/MessageStyle.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetPasswordDialog.h"
 
@@ -66,7 +64,7 @@ void CSetPasswordDialog::prepare()
                                         "Selected cryptographic algorithm: %1.")
                                    : tr("Enter the password to decrypt the file. \r\n"
                                         "Selected cryptographic algorithm: %1.");
-    thisapp::setInfoText(*m_ui->textEditInfo, info.arg(m_algorithmName));
+    m_ui->textEditInfo->showText(info.arg(m_algorithmName));
     setAccessibleDescription(m_ui->textEditInfo->toPlainText());
 
     m_ui->frameConfirmPassword->setVisible(confirms());
@@ -110,8 +108,7 @@ void CSetPasswordDialog::onUiShowPasswordToggled(bool show)
 
 void CSetPasswordDialog::onUiCapsLockChanged(bool on)
 {
-    m_ui->labelCapsLock->setText(on ? tr("Caps Lock is on.") : QString());
-    thisapp::setLabelKind(*m_ui->labelCapsLock, thisapp::MessageKind::Warning);
+    m_ui->labelCapsLock->showMessage(on ? tr("Caps Lock is on.") : QString(), thisapp::MessageKind::Warning);
 }
 
 /// True unless a confirmation is asked for and differs; shows the difference.
@@ -120,14 +117,14 @@ bool CSetPasswordDialog::checkPasswords()
     const QString password = m_ui->lineEditPassword->text();
     const QString confirmation = m_ui->lineEditConfirmPassword->text();
     if (!confirms() || password == confirmation) {
-        thisapp::showMessage(*m_ui->lineEditMsg, QString(), thisapp::MessageKind::Plain);
+        m_ui->lineEditMsg->clearMessage();
         return true;
     }
     const QString lengths = password.size() == confirmation.size()
                                 ? tr("Password length: %1").arg(password.size())
                                 : tr("Password length: %1/%2").arg(password.size()).arg(confirmation.size());
-    thisapp::showMessage(*m_ui->lineEditMsg, tr("The passwords do not match.") + QLatin1Char(' ') + lengths,
-                         thisapp::MessageKind::Warning);
+    m_ui->lineEditMsg->showMessage(tr("The passwords do not match.") + QLatin1Char(' ') + lengths,
+                                   thisapp::MessageKind::Warning);
     return false;
 }
 
@@ -136,8 +133,7 @@ void CSetPasswordDialog::showStrength(const QString& password)
     if (!m_encrypt)
         return;
     const thisapp::SStrengthNotice notice = thisapp::strengthNotice(password);
-    m_ui->labelStrength->setText(notice.text);
-    thisapp::setLabelKind(*m_ui->labelStrength, notice.kind);
+    m_ui->labelStrength->showMessage(notice.text, notice.kind);
 }
 
 void CSetPasswordDialog::storeOptions()

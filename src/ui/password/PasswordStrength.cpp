@@ -18,7 +18,6 @@ struct StrengthTexts
 struct SStrengthRow
 {
     double belowBits; ///< the passwords that need fewer than 2^belowBits guesses
-    PasswordStrength strength;
     const char* text;
     MessageKind kind;
 };
@@ -26,19 +25,15 @@ struct SStrengthRow
 // A key is one fast hash away from its password, so a guesser is taken to try 10^10 a second:
 // 2^33 guesses take a second, 2^46 two hours, 2^58 a year, 2^70 thousands of years.
 constexpr std::array Rows{
-    SStrengthRow{33, PasswordStrength::VeryWeak,
-                 QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: very weak, guessed at once."),
+    SStrengthRow{33, QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: very weak, guessed at once."),
                  MessageKind::Error},
-    SStrengthRow{46, PasswordStrength::Weak,
-                 QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: weak, guessed within hours."),
+    SStrengthRow{46, QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: weak, guessed within hours."),
                  MessageKind::Error},
-    SStrengthRow{58, PasswordStrength::Fair,
-                 QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: fair, guessed within a year."),
+    SStrengthRow{58, QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: fair, guessed within a year."),
                  MessageKind::Warning},
-    SStrengthRow{70, PasswordStrength::Strong,
-                 QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: strong."), MessageKind::Success},
-    SStrengthRow{1e9, PasswordStrength::VeryStrong,
-                 QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: very strong."), MessageKind::Success},
+    SStrengthRow{70, QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: strong."), MessageKind::Success},
+    SStrengthRow{1e9, QT_TRANSLATE_NOOP("StrengthTexts", "Password strength: very strong."),
+                 MessageKind::Success},
 };
 
 /// One Latin letter for each other letter: the estimator counts bytes and would take the several
@@ -71,11 +66,6 @@ const SStrengthRow& rowOf(const QString& password)
 }
 
 } // namespace
-
-PasswordStrength passwordStrength(const QString& password)
-{
-    return rowOf(password).strength;
-}
 
 SStrengthNotice strengthNotice(const QString& password)
 {

@@ -6,19 +6,15 @@
 
 namespace thisapp {
 
-enum class PasswordStrength { VeryWeak, Weak, Fair, Strong, VeryStrong };
-
-/// An estimate from the guesses that a cracking program would need, dictionaries of English words,
-/// names and common passwords included. Words of other languages are judged as random letters.
-PasswordStrength passwordStrength(const QString& password);
-
 struct SStrengthNotice
 {
     QString text;
     MessageKind kind;
 };
 
-/// The line to show for a password; empty for an empty one.
+/// The line to show for a password; empty for an empty one. An estimate from the guesses that a
+/// cracking program would need, dictionaries of English words, names and common passwords included.
+/// Words of other languages are judged as random letters.
 SStrengthNotice strengthNotice(const QString& password);
 
 } // namespace thisapp

@@ -31,7 +31,7 @@ void clearSecret(QLineEdit& field)
     const QSignalBlocker blocker(field);
     QString text = field.text(); // shares the field's storage
     wipe(text);
-    field.clear();
+    field.setText(QString()); // unlike clear(), drops the undo history
 }
 
 void clearSecret(QPlainTextEdit& field)

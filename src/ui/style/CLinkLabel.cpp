@@ -1,5 +1,7 @@
 #include "ui/style/CLinkLabel.h"
 
+#include "ui/style/ThemeChange.h"
+
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -15,6 +17,10 @@ CLinkLabel::CLinkLabel(QWidget* parent) : QLabel(parent)
     setTextFormat(Qt::RichText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     setFocusPolicy(Qt::StrongFocus);
+    thisapp::onThemeChange(*this, [this] {
+        clear(); // the same text again would keep the old link colour
+        setLinkText(accessibleName());
+    });
 }
 
 void CLinkLabel::setLinkText(const QString& text)

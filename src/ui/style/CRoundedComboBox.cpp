@@ -1,5 +1,6 @@
 #include "ui/style/CRoundedComboBox.h"
 
+#include "ui/style/ThemeChange.h"
 #include "ui/style/WheelGuard.h"
 
 #include <QPainter>
@@ -14,6 +15,7 @@ CRoundedComboBox::CRoundedComboBox(QWidget* parent) : QComboBox(parent)
                        " background-color: palette(button); combobox-popup: 0; }"
                        "QComboBox:focus, QComboBox:on { border-color: palette(highlight); }"
                        "QComboBox::drop-down { border: none; width: 1.6em; }"));
+    thisapp::onThemeChange(*this, [this] { setStyleSheet(styleSheet()); });
 }
 
 // A style sheet can show the arrow only from an image, which knows no palette.

@@ -1,7 +1,5 @@
 #include "ui/style/MessageStyle.h"
 
-#include <QLabel>
-#include <QLineEdit>
 #include <QPalette>
 
 namespace thisapp {
@@ -11,13 +9,6 @@ namespace {
 bool isDark(const QPalette& palette)
 {
     return palette.color(QPalette::Window).lightness() < 128;
-}
-
-/// The widget's surroundings: its own palette may be that of a style sheet.
-QPalette paletteAround(const QWidget& widget)
-{
-    const QWidget* parent = widget.parentWidget();
-    return parent ? parent->palette() : widget.palette();
 }
 
 } // namespace
@@ -43,25 +34,6 @@ QColor fieldColor(bool valid, const QPalette& palette)
     if (isDark(palette))
         return valid ? QColor(0x1d, 0x3b, 0x25) : QColor(0x4a, 0x22, 0x22);
     return valid ? QColor(0xe3, 0xf5, 0xe6) : QColor(0xfd, 0xe4, 0xe1);
-}
-
-void setLabelKind(QLabel& label, MessageKind kind)
-{
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, messageColor(kind, paletteAround(label)));
-    label.setPalette(palette);
-}
-
-void showMessage(QLineEdit& line, const QString& text, MessageKind kind)
-{
-    QPalette palette = line.palette();
-    const QColor color = messageColor(kind, paletteAround(line));
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        palette.setColor(group, QPalette::Text, color);
-    line.setPalette(palette);
-    line.setText(text);
-    line.setCursorPosition(0);
-    line.setToolTip(text.toHtmlEscaped());
 }
 
 } // namespace thisapp

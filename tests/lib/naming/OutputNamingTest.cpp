@@ -5,94 +5,74 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <functional>
-
 namespace {
 
 using thisapp::NamingSettings;
 
-const QDate Today(2024, 3, 5);
-
-void asIs(NamingSettings&)
+void expectNames(const NamingSettings& settings, std::initializer_list<std::pair<QString, QString>> names,
+                 const QDate& today = QDate(2024, 3, 5))
 {
+    for (const auto& [input, output] : names)
+        EXPECT_EQ(thisapp::outputPath("/in/" + input, settings, today).toStdString(),
+                  "/in/" + output.toStdString());
 }
-void decorated(NamingSettings& settings)
+
+TEST(OutputNaming, Extensions)
 {
+    NamingSettings settings;
+    expectNames(settings, {{"report.txt", "report.txt.enc"},
+                           {"report.txt.enc", "report.txt.dec"},
+                           {"report.txt.dec", "report.txt.enc"},
+                           {"FILE.ENC", "FILE.dec"},
+                           {"FILE.DEC", "FILE.enc"},
+                           {"README", "README.enc"},
+                           {"archive.tar.gz", "archive.tar.gz.enc"},
+                           {"a.enc.txt", "a.enc.txt.enc"},
+                           {".bashrc", ".bashrc.enc"},
+                           {".enc", ".dec"},
+                           {"report.", "report.enc"},
+                           {"#1 50% ü 日本.txt", "#1 50% ü 日本.txt.enc"}});
+    settings.encryption.addExt = settings.decryption.addExt = false;
+    expectNames(settings, {{"report.txt", "report.txt"},
+                           {"report.txt.enc", "report.txt.dec"},
+                           {"report.txt.dec", "report.txt.enc"}});
+    settings = {};
+    settings.decryption.ext = "";
+    expectNames(settings, {{"report.txt.enc", "report.txt"}});
+    settings.encryption.ext = "";
+    expectNames(settings, {{"README", "README"}});
+    settings.encryption.ext = ".q";
+    expectNames(settings, {{"report.txt", "report.txt.q"}, {"report.", "report.q"}});
+}
+
+TEST(OutputNaming, PrefixSuffixAndDate)
+{
+    NamingSettings settings;
     for (thisapp::NameParts* parts : {&settings.encryption, &settings.decryption}) {
         parts->addPrefix = parts->addSuffix = parts->addDate = true;
         parts->prefix = "x-";
         parts->suffix = "-y";
     }
-}
-void withoutExt(NamingSettings& settings)
-{
-    settings.encryption.addExt = settings.decryption.addExt = false;
-}
-std::function<void(NamingSettings&)> ext(const char* encryption, const char* decryption)
-{
-    return [=](NamingSettings& settings) {
-        settings.encryption.ext = encryption;
-        settings.decryption.ext = decryption;
-    };
-}
-
-TEST(OutputNaming, Table)
-{
-    const QString stem124(124, 'n');
-    const std::tuple<QString, std::function<void(NamingSettings&)>, QString> rows[] = {
-        {"report.txt", asIs, "report.txt.enc"},
-        {"report.txt.enc", asIs, "report.txt.dec"},
-        {"report.txt.dec", asIs, "report.txt.enc"},
-        {"FILE.ENC", asIs, "FILE.dec"},
-        {"FILE.DEC", asIs, "FILE.enc"},
-        {"README", asIs, "README.enc"},
-        {"archive.tar.gz", asIs, "archive.tar.gz.enc"},
-        {"a.enc.txt", asIs, "a.enc.txt.enc"},
-        {".bashrc", asIs, ".bashrc.enc"},
-        {".enc", asIs, ".dec"},
-        {"report.", asIs, "report.enc"},
-        {"#1 50% ü 日本.txt", asIs, "#1 50% ü 日本.txt.enc"},
-
-        {"report.txt", decorated, "x-report_2024_03_05-y.txt.enc"},
-        {"report.txt.enc", decorated, "x-report.txt_2024_03_05-y.dec"},
-        {"report.txt.dec", decorated, "x-report.txt_2024_03_05-y.enc"},
-        {"README", decorated, "x-README_2024_03_05-y.enc"},
-        {stem124 + ".txt", decorated, "x-" + stem124 + "_2024_03_05-y.txt.enc"},
-        {stem124 + "n.txt", decorated, stem124 + "n.txt.enc"},
-
-        {"report.txt", withoutExt, "report.txt"},
-        {"report.txt.enc", withoutExt, "report.txt.dec"},
-        {"report.txt.dec", withoutExt, "report.txt.enc"},
-
-        {"README", ext("", ""), "README"},
-        {"report.txt.enc", ext("enc", ""), "report.txt"},
-        {"report.txt", ext(".q", "dec"), "report.txt.q"},
-        {"MyFile.txt", ext("TXT", "dec"), "MyFile.dec"},
-        {stem124 + ".enc", ext("enc", "decrypted"), stem124 + ".decrypted"},
-    };
-    for (const auto& [input, change, output] : rows) {
-        NamingSettings settings;
-        change(settings);
-        EXPECT_EQ(thisapp::outputPath("/in/" + input, settings, Today).toStdString(),
-                  "/in/" + output.toStdString());
-    }
-}
-
-TEST(OutputNaming, DatePartsOfZeroAreLeftOut)
-{
-    NamingSettings settings;
-    settings.encryption.addDate = true;
-    EXPECT_EQ(thisapp::outputPath("/in/a.txt", settings, QDate()), "/in/a.txt.enc");
-    EXPECT_EQ(thisapp::outputPath("/in/a.txt", settings, QDate(987, 12, 31)), "/in/a_0987_12_31.txt.enc");
+    const QString longest(124, 'n');
+    expectNames(settings, {{"report.txt", "x-report_2024_03_05-y.txt.enc"},
+                           {"report.txt.enc", "x-report.txt_2024_03_05-y.dec"},
+                           {"report.txt.dec", "x-report.txt_2024_03_05-y.enc"},
+                           {"README", "x-README_2024_03_05-y.enc"},
+                           {longest + ".txt", "x-" + longest + "_2024_03_05-y.txt.enc"},
+                           {longest + "n.txt", longest + "n.txt.enc"}});
+    expectNames(settings, {{"a", "x-a-y.enc"}}, QDate());
+    expectNames(settings, {{"a", "x-a_0987_12_31-y.enc"}}, QDate(987, 12, 31));
+    settings.decryption.ext = "longer";
+    expectNames(settings, {{longest + ".enc", longest + ".longer"}});
 }
 
 TEST(OutputNaming, NothingToPropose)
 {
     NamingSettings settings;
-    EXPECT_EQ(thisapp::outputPath("", settings, Today), "");
-    EXPECT_EQ(thisapp::outputPath("/in/", settings, Today), "");
+    for (const char* input : {"", "/in/"})
+        EXPECT_EQ(thisapp::outputPath(input, settings, {}), "");
     settings.autogenerate = false;
-    EXPECT_EQ(thisapp::outputPath("/in/report.txt", settings, Today), "");
+    EXPECT_EQ(thisapp::outputPath("/in/report.txt", settings, {}), "");
 }
 
 TEST(OutputNaming, DefaultFolder)
@@ -102,7 +82,7 @@ TEST(OutputNaming, DefaultFolder)
     NamingSettings settings;
     const auto outputFor = [&](const char* folder) {
         settings.outputDirPath = root.filePath(folder);
-        return thisapp::outputPath("/in/a", settings, Today);
+        return thisapp::outputPath("/in/a", settings, {});
     };
     EXPECT_EQ(outputFor("deep/er"), "/in/a.enc");
     EXPECT_FALSE(root.exists("deep")) << "switched off, the folder is left alone";
@@ -117,7 +97,7 @@ TEST(OutputNaming, DefaultFolder)
     EXPECT_EQ(outputFor("file"), "/in/a.enc");
 
     settings.outputDirPath = "";
-    EXPECT_EQ(thisapp::outputPath("a", settings, Today), QDir::current().filePath("a.enc"));
+    EXPECT_EQ(thisapp::outputPath("a", settings, {}), QDir::current().filePath("a.enc"));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "lib/settings/OptionsStore.h"
 #include "lib/settings/Product.h"
 #include "lib/settings/SettingsKeys.h"
+#include "support/ChangedOptions.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,7 @@ using thisapp::AlgSelection;
 using thisapp::SAppOptions;
 namespace keys = thisapp::keys;
 
-const auto KnownAlgorithm = [](std::uint32_t id) { return id == 252 || id == 7; };
+const auto KnownAlgorithm = [](std::uint32_t id) { return id == 252 || id == 3; };
 
 /// A fresh user profile for each test.
 class Settings : public testing::Test
@@ -31,27 +32,6 @@ protected:
     QTemporaryDir profile;
 };
 
-/// The values that a user's options can have, none of them a default.
-SAppOptions everythingChanged()
-{
-    SAppOptions options;
-    const auto change = [](auto& value) {
-        using T = std::decay_t<decltype(value)>;
-        if constexpr (std::is_same_v<T, bool>)
-            value = !value;
-        else if constexpr (std::is_same_v<T, QString>)
-            value += "ü, \"x\"; %1 \\ ";
-        else
-            value = value == 0 ? 6 : 7;
-    };
-#define SETTING(Type, Key, member, fallback) change(options.member);
-#include "lib/settings/SettingsKeys.def"
-    options.localeId = 1049;
-    options.setDefaultAlgorithm({1, 7});
-    options.useDefaultAlgorithmAtStarting = true;
-    return options;
-}
-
 TEST_F(Settings, StoredAtTheUsersPlace)
 {
     CAppSettings settings;
@@ -65,7 +45,7 @@ TEST_F(Settings, StoredAtTheUsersPlace)
 
 TEST_F(Settings, EveryValueSurvivesWritingAndReading)
 {
-    const SAppOptions options = everythingChanged();
+    const SAppOptions options = test::changedOptions();
     {
         CAppSettings settings;
         EXPECT_TRUE(thisapp::writeOptions(settings, options));
@@ -158,10 +138,10 @@ TEST_F(Settings, DefaultAlgorithm)
 {
     const auto stored = [] { return thisapp::readDefaultAlgorithm(CAppSettings(), KnownAlgorithm); };
     EXPECT_EQ(stored(), (AlgSelection{1, 252}));
-    set("DefaultCryptoAlgorithm", 7);
+    set("DefaultCryptoAlgorithm", 3);
     for (const std::uint32_t library : {1U, 10U, 20U, 100U, 200U, 300U}) {
         set("DefaultCryptoLibrary", library);
-        EXPECT_EQ(stored(), (AlgSelection{library, 7}));
+        EXPECT_EQ(stored(), (AlgSelection{library, 3}));
     }
     set("DefaultCryptoLibrary", 2);
     EXPECT_FALSE(stored());
@@ -171,7 +151,7 @@ TEST_F(Settings, DefaultAlgorithm)
     set("DefaultCryptoAlgorithm", 8);
     EXPECT_FALSE(stored());
 
-    set("DefaultCryptoAlgorithm", 7);
+    set("DefaultCryptoAlgorithm", 3);
     for (const QVariant& off : {QVariant(false), QVariant("banana")}) {
         set("UseDefaultAlgorithmAtStarting", off);
         EXPECT_FALSE(stored());

@@ -12,7 +12,6 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTextEdit>
-#include <QTranslator>
 
 namespace {
 
@@ -36,17 +35,6 @@ TEST(Shortcuts, KeysOfTheMainWindow)
     for (const thisapp::Shortcut& shortcut : thisapp::shortcuts())
         EXPECT_EQ(QString(shortcut.keyText).section('\'', 1, 1), shortcut.sequence().toString());
 }
-
-/// Puts every text into capitals.
-class Capitals final : public QTranslator
-{
-public:
-    QString translate(const char*, const char* source, const char*, int) const override
-    {
-        return QString(source).toUpper();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 QString shownShortcuts()
 {

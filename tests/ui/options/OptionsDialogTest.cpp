@@ -1,6 +1,7 @@
 #include "ui/options/COptionsDialog.h"
 
 #include "lib/settings/IAppOptionsChanged.h"
+#include "support/ChangedOptions.h"
 #include "ui/FakeAlgProvider.h"
 #include "ui/Widgets.h"
 
@@ -65,28 +66,9 @@ bool tabTo(const QWidget& target)
     return QApplication::focusWidget() == &target;
 }
 
-SAppOptions withoutDefaults()
-{
-    SAppOptions options;
-    const auto change = [](auto& value) {
-        using T = std::decay_t<decltype(value)>;
-        if constexpr (std::is_same_v<T, bool>)
-            value = !value;
-        else if constexpr (std::is_same_v<T, QString>)
-            value += "7";
-        else
-            value = 5;
-    };
-#define SETTING(Type, Key, member, fallback) change(options.member);
-#include "lib/settings/SettingsKeys.def"
-    options.localeId = 1031;
-    options.setDefaultAlgorithm({1, 3});
-    return options;
-}
-
 TEST_F(OptionsDialog, ShowsAndReturnsEveryValue)
 {
-    for (const SAppOptions& options : {SAppOptions(), withoutDefaults()}) {
+    for (const SAppOptions& options : {SAppOptions(), test::changedOptions()}) {
         show(options);
         press(Qt::Key_Return);
         EXPECT_EQ(dialog.result(), QDialog::Accepted);
@@ -138,6 +120,8 @@ TEST_F(OptionsDialog, EveryCheckBoxStandsForItsOption)
         (*found)->toggle();
         SAppOptions expected;
         expected.*option = !(expected.*option);
+        if (!expected.useDefaultAlgorithmAtStarting)
+            expected.setDefaultAlgorithm({}); // leaves the stored one alone
         dialog.onUiApply();
         EXPECT_EQ(applied.back(), expected) << label;
         (*found)->toggle();
@@ -174,6 +158,7 @@ TEST_F(OptionsDialog, DependentControlsFollowTheirCheckBoxes)
     show();
     for (const auto& [frame, name, dependentName] :
          {std::tuple("frameGeneral", "checkDeleteSource", "checkConfirmDelete"),
+          {"frameGeneral", "checkUseDefaultAlgorithm", "comboAlgorithm"},
           {"frameGeneral", "checkUseOutputDir", "editOutputDir"},
           {"frameGeneral", "checkUseOutputDir", "buttonBrowse"},
           {"frameEncryption", "checkExt", "editExt"},
@@ -292,7 +277,7 @@ TEST_F(OptionsDialog, ViewsTheLogFile)
     EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST_F(OptionsDialog, MnemonicsAreUniqueOnEveryTab)
+TEST_F(OptionsDialog, EveryControlHasAMnemonicOfItsOwnOnItsTab)
 {
     show();
     auto& tabs = child<QTabWidget>(dialog, "tabs");
@@ -301,16 +286,29 @@ TEST_F(OptionsDialog, MnemonicsAreUniqueOnEveryTab)
         std::set<QString> seen;
         const auto check = [&](const QString& label) {
             const QString key = QKeySequence::mnemonic(label).toString();
+            // The link has none, and the letters of the other are all taken.
+            EXPECT_NE(key.isEmpty(), label != "Shortcut keys:" && !label.startsWith("<a ")) << label;
             EXPECT_TRUE(key.isEmpty() || seen.insert(key).second) << tab << ": " << label;
         };
         for (int i = 0; i < tabs.count(); ++i)
             check(tabs.tabText(i));
         for (const auto* widget : dialog.findChildren<QWidget*>())
-            for (const char* property : {"text", "title"})
-                if (widget->isVisible() && !widget->inherits("QLineEdit"))
-                    check(widget->property(property).toString());
-        EXPECT_GT(seen.size(), 5U);
+            if (widget->isVisible() && (widget->inherits("QAbstractButton") || widget->inherits("QLabel")))
+                check(widget->property("text").toString());
     }
+}
+
+TEST_F(OptionsDialog, FollowsAChangeOfTheLanguage)
+{
+    show();
+    Capitals translator;
+    QApplication::installTranslator(&translator);
+    QApplication::processEvents();
+    EXPECT_EQ(child<QGroupBox>(child(dialog, "frameDecryption"), "group").title(), "NAME OF DECRYPTED FILE");
+    EXPECT_EQ(child<QCheckBox>(child(dialog, "frameEncryption"), "checkExt").text(), "ADD F&ILE EXTENSION:");
+    EXPECT_EQ(child<QTableWidget>(dialog, "tableShortcuts").item(0, 1)->text(), "START ENCRYPTION");
+    EXPECT_TRUE(child<QLabel>(dialog, "labelViewLog").text().contains("VIEW LOG FILE"));
+    QApplication::removeTranslator(&translator);
 }
 
 TEST_F(OptionsDialog, KeyboardAlone)
@@ -319,7 +317,7 @@ TEST_F(OptionsDialog, KeyboardAlone)
     show();
     // Each control in the order of the page, scrolled into sight as it gets the focus.
     for (const char* name :
-         {"checkContextMenu", "checkSendTo", "comboLanguage", "comboAlgorithm", "checkUseDefaultAlgorithm",
+         {"checkContextMenu", "checkSendTo", "comboLanguage", "checkUseDefaultAlgorithm", "comboAlgorithm",
           "checkShowPassword", "checkConfirmPassword", "checkAdvancedMode", "checkSalt", "checkShowConfirm",
           "checkRewrite", "checkAutogenerate", "checkUseOutputDir"}) {
         ASSERT_TRUE(tabTo(child(dialog, name))) << name;
@@ -337,9 +335,7 @@ TEST_F(OptionsDialog, KeyboardAlone)
     EXPECT_EQ(child(dialog, "tableShortcuts").findChild<QLineEdit*>(), nullptr) << "nothing can be edited";
 
     press(Qt::Key_F, Qt::AltModifier);
-    press(Qt::Key_D, Qt::AltModifier);
-    EXPECT_TRUE(tabTo(inFrame("frameDecryption", "checkSuffix")));
-    press(Qt::Key_Space);
+    press(Qt::Key_U, Qt::AltModifier);
     press(Qt::Key_Tab);
     type("-s");
 

@@ -139,18 +139,25 @@ TEST_F(KeyAndIvDialog, HandsOverToThePasswordDialogAndKeepsWhatWasTyped)
     EXPECT_EQ(child<QPlainTextEdit>(again, "plainTextEditIv").toPlainText(), "0102");
     EXPECT_EQ(child<QPlainTextEdit>(again, "plainTextEditKey").toPlainText(), "a1a2a");
     EXPECT_EQ(child<QLineEdit>(again, "lineEditMsg").text(), "Invalid key: invalid hexadecimal characters. ");
-    again.reject();
+}
 
-    again.setKeyAndIv(bytes("a1a2a3a4"), bytes("0102"));
-    open(again);
-    QTest::mouseClick(&child(again, "buttonOk"), Qt::LeftButton);
-    EXPECT_EQ(again.result(), QDialog::Accepted);
-    EXPECT_EQ(again.key(), bytes("a1a2a3a4"));
+TEST_F(KeyAndIvDialog, StaysReadableWhenTheThemeChanges)
+{
+    open(dialog);
+    type("0102");
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QColor(0x30, 0x30, 0x30));
+    QApplication::processEvents();
+    EXPECT_LT(iv.palette().color(QPalette::Base).lightness(), 0x80) << "the background of a valid IV";
+    for (const QWidget* widget :
+         {&child(dialog, "lineEditMsg"), &child(dialog, "textEditInfo"), static_cast<QWidget*>(&iv)})
+        EXPECT_GT(widget->palette().color(QPalette::Text).lightness(), 0x80) << widget->objectName();
+    QApplication::setPalette(before);
 }
 
 TEST_F(KeyAndIvDialog, ForgetsEverythingWhenCancelled)
 {
-    dialog.setKeyAndIv(bytes("a1a2a3a4"), bytes("0102"));
+    dialog.setTyped({tessaly::SecretText("0102"), tessaly::SecretText("a1a2a3a4")});
     open(dialog);
     press(Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);

@@ -122,6 +122,7 @@ TEST_F(PasswordDialog, HandsOverToTheKeyDialogWithTheOptionsButNoPassword)
 
 TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
 {
+    dialog.setShowPassword(true); // a masked field couldn't undo anyway
     open(dialog);
     press(Qt::Key_O, Qt::AltModifier);
     EXPECT_TRUE(confirmation.hasFocus());
@@ -133,8 +134,7 @@ TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
     EXPECT_TRUE(dialog.password().empty());
     EXPECT_EQ(storage, QString(6, QChar(0)));
     EXPECT_EQ(password.text(), QString());
-    password.undo();
-    EXPECT_EQ(password.text(), QString());
+    EXPECT_FALSE(password.isUndoAvailable());
 }
 
 TEST_F(PasswordDialog, KeepsWhatWasTypedWhileMinimised)

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "lib/settings/SAppOptions.h"
+
+#include <type_traits>
+
+namespace test {
+
+/// Options with no value at its default, but for the default algorithm's use at the start.
+inline thisapp::SAppOptions changedOptions()
+{
+    thisapp::SAppOptions options;
+    const auto change = [](auto& value) {
+        using T = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<T, bool>)
+            value = !value;
+        else if constexpr (std::is_same_v<T, QString>)
+            value += "ü, \"x\"; \\ %1";
+        else
+            value = 5;
+    };
+#define SETTING(Type, Key, member, fallback) change(options.member);
+#include "lib/settings/SettingsKeys.def"
+    options.localeId = 1031;
+    options.setDefaultAlgorithm({1, 3});
+    options.useDefaultAlgorithmAtStarting = true;
+    return options;
+}
+
+} // namespace test
