@@ -1,11 +1,12 @@
 #include "app/widgets/CLineEditForFile.h"
 
+#include "ui/style/PlainToolTip.h"
+
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QStyleOptionFrame>
 #include <QStylePainter>
-#include <QTextDocument>
 
 CLineEditForFile::CLineEditForFile(QWidget* parent) : QLineEdit(parent)
 {
@@ -49,6 +50,5 @@ void CLineEditForFile::paintEvent(QPaintEvent* event)
 
 void CLineEditForFile::onUiTextChanged(const QString& text)
 {
-    // As it stands, even if it looks like HTML.
-    setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+    thisapp::setPlainToolTip(*this, text);
 }

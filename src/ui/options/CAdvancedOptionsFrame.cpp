@@ -2,6 +2,7 @@
 
 #include "lib/logger/Level.h"
 #include "lib/settings/SAppOptions.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/ReadOnlyField.h"
 #include "ui_CAdvancedOptionsFrame.h"
 
@@ -31,7 +32,7 @@ void CAdvancedOptionsFrame::setLogFilePath(const QString& path)
 {
     m_ui->editLogFile->setText(path);
     m_ui->editLogFile->setCursorPosition(0);
-    m_ui->editLogFile->setToolTip(path.toHtmlEscaped());
+    thisapp::setPlainToolTip(*m_ui->editLogFile, path);
 }
 
 void CAdvancedOptionsFrame::setOptions(const thisapp::SAppOptions& options)

@@ -1,5 +1,6 @@
 #include "ui/style/CMessageField.h"
 
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/ThemeChange.h"
 
 CMessageField::CMessageField(QWidget* parent) : QLineEdit(parent)
@@ -18,7 +19,7 @@ void CMessageField::showMessage(const QString& text, thisapp::MessageKind kind)
     recolor();
     setText(text);
     setCursorPosition(0);
-    setToolTip(text.toHtmlEscaped());
+    thisapp::setPlainToolTip(*this, text);
 }
 
 void CMessageField::recolor()

@@ -1,0 +1,11 @@
+#pragma once
+
+class QString;
+class QWidget;
+
+namespace thisapp {
+
+/// A tool tip that shows the text as it stands, even if it looks like HTML.
+void setPlainToolTip(QWidget& widget, const QString& text);
+
+} // namespace thisapp
