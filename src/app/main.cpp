@@ -102,6 +102,10 @@ int main(int argc, char* argv[])
 {
     if (answerOnTerminal({argv, static_cast<std::size_t>(argc)}))
         return 0;
+    if (!desktop::isDisplayThere()) {
+        std::fputs("quillet: no display; quillet-cli does the same without one\n", stderr);
+        return 1;
+    }
     platform::disableCoreDumps();
     platform::ignoreWriteSignals();
     prepareApplication();

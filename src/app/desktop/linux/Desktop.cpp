@@ -4,7 +4,15 @@
 #include "app/desktop/linux/LauncherProgress.h"
 #include "app/desktop/linux/SessionBus.h"
 
+#include <algorithm>
+
 namespace thisapp::desktop {
+
+bool isDisplayThere()
+{
+    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+    return std::ranges::any_of(std::initializer_list{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}, isSet);
+}
 
 struct Desktop::Services
 {
