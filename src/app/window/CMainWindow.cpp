@@ -195,7 +195,10 @@ void CMainWindow::requestJob(Operation operation)
         m_form->clearMessages();
         m_form->progressFrame().reset();
     }
-    CRequestHost host(*this, *m_form, m_job, m_services.algorithms);
+    CRequestHost host(*this, *m_form, m_job, m_services.algorithms, [this] {
+        if (isInputAccepted() && m_form->outputText().trimmed().isEmpty())
+            proposeOutput();
+    });
     std::optional<SEncryptData> request = JobRequest(operation, host, *m_form).run();
     if (!request)
         return;

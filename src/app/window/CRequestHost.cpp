@@ -8,11 +8,17 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
+#include <utility>
+
 namespace thisapp {
 
 CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job,
-                           const ICryptoAlgProvider& algorithms)
-    : m_window(window), m_form(form), m_job(job), m_algorithms(algorithms)
+                           const ICryptoAlgProvider& algorithms, std::function<void()> inputChosen)
+    : m_window(window),
+      m_form(form),
+      m_job(job),
+      m_algorithms(algorithms),
+      m_inputChosen(std::move(inputChosen))
 {
 }
 
@@ -39,6 +45,7 @@ QString CRequestHost::outputText() const
 void CRequestHost::setInputText(const QString& text)
 {
     m_form.setInputText(text);
+    m_inputChosen();
 }
 
 void CRequestHost::setOutputText(const QString& text)

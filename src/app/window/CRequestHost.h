@@ -2,6 +2,8 @@
 
 #include "app/job/IJobRequestHost.h"
 
+#include <functional>
+
 class QWidget;
 
 class CJobFrame;
@@ -15,7 +17,9 @@ class ICryptoAlgProvider;
 class CRequestHost final : public IJobRequestHost
 {
 public:
-    CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job, const ICryptoAlgProvider& algorithms);
+    /// `inputChosen` is called when the input field got the file that the user chose on request.
+    CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job, const ICryptoAlgProvider& algorithms,
+                 std::function<void()> inputChosen);
 
     bool isJobRunning() const override;
     AlgSelection selection() const override;
@@ -34,6 +38,7 @@ private:
     CJobFrame& m_form;
     CFileJob& m_job;
     const ICryptoAlgProvider& m_algorithms;
+    const std::function<void()> m_inputChosen;
 };
 
 } // namespace thisapp
