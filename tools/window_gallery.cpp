@@ -68,6 +68,7 @@ int main(int argc, char** argv)
     CAppSettings().setValue(QStringLiteral("UseConfirmPassword"), false);
     const QStringList arguments = QCoreApplication::arguments();
     const QDir folder(arguments.value(1, QStringLiteral(".")));
+    folder.mkpath(QStringLiteral("."));
     if (arguments.contains(QStringLiteral("dark")))
         QApplication::setPalette(darkPalette());
 
