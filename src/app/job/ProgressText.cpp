@@ -72,9 +72,10 @@ QString remainingTimeText(std::int64_t seconds)
 QString summaryText(std::int64_t bytes, std::int64_t elapsedMs)
 {
     const double seconds = static_cast<double>(std::max<std::int64_t>(elapsedMs, 1)) / 1000.0;
+    const int decimals = seconds < 1 ? 3 : seconds < 10 ? 1 : 0;
     //: %1 is a size, %2 a number of seconds, %3 a speed
     return Text::tr("%1 in %2 seconds, %3")
-        .arg(QLocale().formattedDataSize(bytes, 1), QLocale().toString(seconds, 'f', seconds < 10 ? 1 : 0),
+        .arg(QLocale().formattedDataSize(bytes, 1), QLocale().toString(seconds, 'f', decimals),
              speedText(static_cast<double>(bytes) / seconds));
 }
 
