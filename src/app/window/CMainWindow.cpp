@@ -24,8 +24,8 @@
 #include "ui/options/COptionsDialog.h"
 #include "ui/shortcuts/Shortcuts.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDate>
 #include <QDesktopServices>
 #include <QDir>
@@ -240,7 +240,7 @@ void CMainWindow::onUiEncryptFinished()
     m_job.finish();
     refresh();
     const SEncryptData ended = m_job.data();
-    m_display.showEnd(ended, isActiveWindow());
+    m_display.showEnd(ended, QApplication::activeWindow() != nullptr);
     m_job.clear();
     if (!isInputRemovalWanted(*this, ended, *m_form))
         return;

@@ -40,7 +40,7 @@ void JobDisplay::showProgress(Operation operation, const JobProgress& progress)
     m_taskbar.setValue(static_cast<int>(m_progress.percent()));
 }
 
-void JobDisplay::showEnd(const SEncryptData& ended, bool windowIsActive)
+void JobDisplay::showEnd(const SEncryptData& ended, bool userIsHere)
 {
     m_taskbar.hide();
     m_taskbar.setValue(0);
@@ -53,7 +53,7 @@ void JobDisplay::showEnd(const SEncryptData& ended, bool windowIsActive)
     else
         m_form.progressFrame().reset();
     m_progress.reset();
-    if (!windowIsActive)
+    if (!userIsHere)
         m_notifier.notify(m_form.resultText(), m_fileName);
 }
 

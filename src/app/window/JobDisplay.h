@@ -27,7 +27,7 @@ public:
     void showStarted();
     void showProgress(Operation operation, const JobProgress& progress);
     void resetProgress() { m_progress.reset(); }
-    void showEnd(const SEncryptData& ended, bool windowIsActive);
+    void showEnd(const SEncryptData& ended, bool userIsHere);
 
     /// "40% - report.txt" while a job runs.
     QString title() const;
