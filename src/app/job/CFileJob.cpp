@@ -50,6 +50,11 @@ CFileJob::~CFileJob()
     m_thread.wait();
 }
 
+bool CFileJob::isStoppable() const
+{
+    return m_running && !m_cancelled.get() && m_progress.get().phase != JobPhase::RemovingInput;
+}
+
 bool CFileJob::prepare(Operation operation, const AlgSelection& selection)
 {
     std::unique_ptr<crypto::ISymmetricEncryptor> encryptor;
@@ -68,12 +73,12 @@ ResultCode CFileJob::start(SEncryptData request)
     m_cancelled.set(false);
     m_progress.set({});
     const ResultCode started = startThread(Cipher);
-    if (!started.ok())
-        m_data.with([](SEncryptData& data) {
-            data.wipeSecrets();
-            if (data.outputFlag) // the one that was to be replaced, as if the job had begun
-                (void)platform::removeFile(platform::widePath(data.outputPath));
-        });
+    if (!started.ok()) {
+        m_data.with([](SEncryptData& data) { data.wipeSecrets(); });
+        const SEncryptData unstarted = m_data.get();
+        if (unstarted.outputFlag) // the output that was to be replaced, as if the job had begun
+            (void)platform::removeFile(platform::widePath(unstarted.outputPath));
+    }
     return started;
 }
 

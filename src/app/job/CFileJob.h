@@ -47,6 +47,8 @@ public:
 
     /// From a start until the owner, having got the news of the end, calls finish.
     bool isRunning() const { return m_running; }
+    /// A job runs, and nobody has stopped it yet. The removal of an input is not to be stopped.
+    bool isStoppable() const;
 
     /// Makes the engine for the next start; false when the factory gives none.
     bool prepare(Operation operation, const AlgSelection& selection);

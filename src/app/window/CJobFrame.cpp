@@ -172,7 +172,8 @@ void CJobFrame::setRunning(bool running, bool stoppable)
         m_output, m_browseOutput, m_algFrame, m_encrypt,     m_decrypt};
     for (QWidget* widget : idleWidgets)
         widget->setEnabled(!running);
-    m_stop->setEnabled(running && stoppable);
+    m_stop->setEnabled(stoppable);
+    setAcceptDrops(!running);
 }
 
 void CJobFrame::showMessage(Area area, Message message)

@@ -221,6 +221,7 @@ void CMainWindow::onUiStopItem()
 {
     m_display.resetProgress();
     m_job.stop();
+    refresh();
 }
 
 void CMainWindow::onUiEncryptStarted()
@@ -369,7 +370,7 @@ void CMainWindow::proposeOutput()
 void CMainWindow::refresh()
 {
     const bool running = m_job.isRunning();
-    const bool stoppable = running && m_job.progress().phase != JobPhase::RemovingInput;
+    const bool stoppable = m_job.isStoppable();
     m_form->setRunning(running, stoppable);
     m_actions[ActionId::Encrypt].setEnabled(!running);
     m_actions[ActionId::Decrypt].setEnabled(!running);
