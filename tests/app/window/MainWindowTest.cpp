@@ -134,6 +134,7 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_EQ(w.progress().percent(), percent);
 
     QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
+    EXPECT_FALSE(w.button("buttonStop").isEnabled()) << "nothing more to stop";
     ASSERT_TRUE(w.waitForEnd());
     EXPECT_EQ(w.result(), "File encryption was canceled");
     EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
@@ -220,6 +221,36 @@ TEST_F(MainWindowTest, MapsKeysToCommands)
         EXPECT_EQ(w.output().text(), w.path("chosen.dec")) << "the proposal";
         QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
         EXPECT_EQ(w.input().text() + w.output().text(), "");
+    }
+}
+
+TEST_F(MainWindowTest, AsksForAMissingInputAndProposesTheOutput)
+{
+    w.writeInput("chosen", 10);
+    for (const QString& typed : {QString(), w.path("typed")}) {
+        w.output().setText(typed);
+        w.input().clear();
+        w.onDialog<QFileDialog>([this](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), "Select file to encrypt");
+            w.answerPassword("");
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(w.path("chosen"));
+            QTest::keyClick(dialog.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        });
+        QTest::keyClick(w.window.get(), Qt::Key_F5);
+        EXPECT_EQ(w.result(), "Password not defined");
+        EXPECT_EQ(w.output().text(), typed.isEmpty() ? w.path("chosen.enc") : typed);
+    }
+}
+
+TEST_F(MainWindowTest, NotifiesWhoLooksElsewhere)
+{
+    w.writeInput("in", 10);
+    for (QWidget* active : std::initializer_list<QWidget*>{w.window.get(), nullptr}) {
+        encrypt();
+        QApplication::setActiveWindow(active);
+        ASSERT_TRUE(w.waitForEnd());
+        fs::remove(folder() / "out");
+        EXPECT_EQ(w.notifications, active ? QStringList() : QStringList("File was encrypted successfully"));
     }
 }
 

@@ -13,6 +13,7 @@
 #include "lib/logger/FileLogging.h"
 #include "support/TempFolder.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
+#include "ui/password/CSetPasswordDialog.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -76,7 +77,7 @@ public:
     /// Types the password into every field of the dialog to come and accepts it.
     void answerPassword(const QString& password)
     {
-        onDialog<QDialog>([password](QDialog& dialog) {
+        onDialog<CSetPasswordDialog>([password](CSetPasswordDialog& dialog) {
             for (const char* name : {"lineEditPassword", "lineEditConfirmPassword"})
                 QTest::keyClicks(dialog.findChild<QLineEdit*>(name), password);
             QTest::mouseClick(dialog.findChild<QPushButton*>("buttonOk"), Qt::LeftButton);
