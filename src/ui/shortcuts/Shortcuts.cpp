@@ -7,22 +7,21 @@
 namespace thisapp {
 namespace {
 
-#define DESCRIPTION(text) QT_TRANSLATE_NOOP("Shortcuts", text)
-
 constexpr Shortcut Table[] = {
-    {Command::Encrypt, Qt::Key_F5, false, "'F5'", DESCRIPTION("Start encryption")},
-    {Command::Decrypt, Qt::Key_F6, false, "'F6'", DESCRIPTION("Start decryption")},
-    {Command::Stop, Qt::Key_F8, false, "'F8'", DESCRIPTION("Stop encryption/decryption")},
-    {Command::Clear, Qt::Key_F8, true, "'Ctrl+F8' (Cmd+F8)", DESCRIPTION("Clear entered data")},
+    {Command::Encrypt, Qt::Key_F5, false, "'F5'", QT_TRANSLATE_NOOP("Shortcuts", "Start encryption")},
+    {Command::Decrypt, Qt::Key_F6, false, "'F6'", QT_TRANSLATE_NOOP("Shortcuts", "Start decryption")},
+    {Command::Stop, Qt::Key_F8, false, "'F8'", QT_TRANSLATE_NOOP("Shortcuts", "Stop encryption/decryption")},
+    {Command::Clear, Qt::Key_F8, true, "'Ctrl+F8' (Cmd+F8)",
+     QT_TRANSLATE_NOOP("Shortcuts", "Clear entered data")},
     {Command::OpenInputFolder, Qt::Key_F9, true, "'Ctrl+F9' (Cmd+F9)",
-     DESCRIPTION("Open folder with input file")},
+     QT_TRANSLATE_NOOP("Shortcuts", "Open folder with input file")},
     {Command::OpenOutputFolder, Qt::Key_F10, true, "'Ctrl+F10' (Cmd+F10)",
-     DESCRIPTION("Open folder with output file")},
-    {Command::AddFile, Qt::Key_O, true, "'Ctrl+O' (Cmd+O)", DESCRIPTION("Add file to encrypt/decrypt")},
-    {Command::AddFile, Qt::Key_N, true, "'Ctrl+N' (Cmd+N)", DESCRIPTION("Add file to encrypt/decrypt")},
+     QT_TRANSLATE_NOOP("Shortcuts", "Open folder with output file")},
+    {Command::AddFile, Qt::Key_O, true, "'Ctrl+O' (Cmd+O)",
+     QT_TRANSLATE_NOOP("Shortcuts", "Add file to encrypt/decrypt")},
+    {Command::AddFile, Qt::Key_N, true, "'Ctrl+N' (Cmd+N)",
+     QT_TRANSLATE_NOOP("Shortcuts", "Add file to encrypt/decrypt")},
 };
-
-#undef DESCRIPTION
 
 } // namespace
 
