@@ -117,22 +117,4 @@ inline Bytes headerOf(const CatalogueEntry& algorithm, std::uint64_t length)
     return header;
 }
 
-/// The start of what the cipher alone makes of `input`. For a block cipher that is one block: the IV
-/// is chosen so that CBC feeds it to the cipher. For a stream cipher it is the IV, and the answer
-/// the start of the key stream.
-inline Bytes enciphered(const CatalogueEntry& algorithm, const Bytes& key, const Bytes& input,
-                        std::size_t count)
-{
-    Job job(algorithm);
-    Bytes plainFile = headerOf(algorithm, count);
-    plainFile.resize(plainFile.size() + count + input.size());
-    job.key = secret(key);
-    job.iv = secret(algorithm.record.stream ? input : input ^ plainFile);
-    Bytes file = job.encrypt(Bytes(count)).bytes;
-    if (algorithm.record.stream)
-        file = file ^ plainFile;
-    file.resize(count);
-    return file;
-}
-
 } // namespace test

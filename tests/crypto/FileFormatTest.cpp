@@ -95,22 +95,18 @@ TEST(FileFormat, SaltChangesSixBytesAndIsNotNeededToDecrypt)
 
 TEST(FileFormat, WithoutTheSecretNothingIsWritten)
 {
-    const auto expectRefused = [](const Job& job, const Bytes& encrypted) {
-        const Outcome outcome = job.decrypt(encrypted);
-        EXPECT_EQ(outcome.result, CryptoResult(err::CheckValueDiffers)) << job.algorithm.name;
-        EXPECT_EQ(outcome.writes, 0);
-    };
     for (const CatalogueEntry& algorithm : tessaly::crypto::catalogue()) {
         const Bytes encrypted = Job(algorithm).encrypt(noise(200)).bytes;
         Job wrongKey(algorithm);
         wrongKey.key.back() ^= 0x10; // not the lowest bit, which is DES's parity
-        expectRefused(wrongKey, encrypted);
         Job wrongIv(algorithm);
         wrongIv.iv[5] ^= 1; // lies over the check value
-        expectRefused(wrongIv, encrypted);
+        for (const Job* job : {&wrongKey, &wrongIv}) {
+            const Outcome outcome = job->decrypt(encrypted);
+            EXPECT_EQ(outcome.result, CryptoResult(err::CheckValueDiffers)) << algorithm.name;
+            EXPECT_EQ(outcome.writes, 0);
+        }
     }
-    expectRefused(Job("Twofish-256"), Job("AES-256").encrypt(noise(200)).bytes);
-    expectRefused(Job("AES-256"), noise(200));
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include <array>
 #include <functional>
 #include <stdexcept>
-#include <thread>
 
 namespace {
 
@@ -131,21 +130,6 @@ TEST(Operation, StopsAfterTheChunkAtHand)
             EXPECT_EQ(way.recorder.calls, courseUpTo(chunks - 1) + "F");
             EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(chunks)));
         }
-    });
-}
-
-TEST(Operation, StopsFromAnotherThread)
-{
-    forEveryWay([](Way& way) {
-        std::thread stopper;
-        const auto raceWithStop = [&](int call) {
-            if (call == 1)
-                stopper = std::thread([&] { way.stop(); });
-        };
-        const Outcome outcome = way.run({}, {.onCall = raceWithStop});
-        stopper.join();
-        EXPECT_EQ(outcome.result, CryptoResult());
-        EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(outcome.writes)));
     });
 }
 

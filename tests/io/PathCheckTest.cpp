@@ -1,6 +1,5 @@
 #include "io/PathCheck.h"
 #include "lib/platform/File.h"
-#include "lib/platform/Path.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -15,9 +14,8 @@ namespace fs = std::filesystem;
 TEST(PathCheck, TellsWhatStandsThereAndChangesNothing)
 {
     const test::TempFolder folder;
-    const auto wide = [&](const char* name) { return tessaly::platform::widePath(folder / name); };
-    test::writeFile(folder / "file", "data");
-    test::writeFile(folder / "other", "");
+    folder.write("file", "data");
+    folder.write("other", "");
     fs::create_directory(folder / "folder");
     fs::create_symlink("file", folder / "link");
     fs::create_symlink("nowhere", folder / "dangling");
@@ -42,11 +40,11 @@ TEST(PathCheck, TellsWhatStandsThereAndChangesNothing)
         {"dangling", InputCheck::NotFound, OutputCheck::NotRegular},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(checkInput(wide(row.name)), row.asInput) << row.name;
-        EXPECT_EQ(checkOutput(wide("file"), wide(row.name)), row.asOutput) << row.name;
+        EXPECT_EQ(checkInput(folder.wide(row.name)), row.asInput) << row.name;
+        EXPECT_EQ(checkOutput(folder.wide("file"), folder.wide(row.name)), row.asOutput) << row.name;
     }
     EXPECT_FALSE(fs::exists(folder / "new"));
-    EXPECT_FALSE(tessaly::platform::removeFile(wide("file").append(1, L'\0').append(L"x")).ok());
+    EXPECT_FALSE(tessaly::platform::removeFile(folder.wide("file").append(1, L'\0').append(L"x")).ok());
     EXPECT_TRUE(fs::exists(folder / "file")) << "no half of a name removes it";
 }
 
