@@ -1,5 +1,4 @@
 #include "lib/file/PropertiesFileReader.h"
-#include "lib/err/ErrorCodes.h"
 #include "support/AppVariable.h"
 #include "support/TempFolder.h"
 
@@ -94,22 +93,6 @@ TEST(PropertiesFileReader, SurvivesRandomBytes)
             size += key.size() + value.size();
         EXPECT_LE(size, bytes.size());
     }
-}
-
-TEST(PropertiesFileReader, KeepsThePairsBeforeAFailure)
-{
-    const test::TempFolder folder;
-    std::string text;
-    while (text.size() < 100000)
-        text += "key=value\n";
-    const std::wstring path = folder.write("p", text);
-    std::size_t count = 0;
-    const auto growFile = [&](const std::string&, const std::string&) {
-        if (count++ == 0)
-            folder.write("p", text + "x");
-    };
-    EXPECT_EQ(PropertiesFileReader({text.size()}).read(path, growFile), err::library(err::FileTooLarge));
-    EXPECT_GT(count, 0u);
 }
 
 } // namespace

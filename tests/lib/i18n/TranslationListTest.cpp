@@ -1,6 +1,4 @@
 #include "lib/err/ErrorCodes.h"
-#include "lib/i18n/LocaleResLoaderFactory.h"
-#include "lib/i18n/LocaleResLoaderPropFile.h"
 #include "lib/i18n/LocaleResLoaderTrFile.h"
 #include "lib/i18n/StrBundleTrMgr.h"
 #include "lib/i18n/TranslationListLoaderXml.h"
@@ -10,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <random>
 
 namespace {
 
@@ -72,28 +69,6 @@ TEST(LocaleResLoaders, SurviveBrokenFiles)
     EXPECT_FALSE(bundle.load(loader, folder.write("t", "<ts/>")).ok());
     EXPECT_FALSE(bundle.load(loader, folder.write("t", Entities + good)).ok());
     EXPECT_EQ(bundle.lookup("C", "a").text, "b");
-
-    std::mt19937 random(1);
-    for (int round = 0; round < 500; ++round) {
-        std::string text = good;
-        for (unsigned i = random() % 4; i > 0; --i)
-            text[random() % text.size()] = static_cast<char>(random());
-        StrBundleTrMgr other;
-        const ResultCode result = other.load(loader, folder.write("t", text));
-        EXPECT_TRUE(result.ok() || result == err::library(err::MalformedText));
-    }
-}
-
-TEST(LocaleResLoaderFactory, MakesALoaderForEveryType)
-{
-    const LocaleResLoaderFactory factory;
-    EXPECT_EQ(factory.create(1, nullptr), (ResultCode{5, 6}));
-    for (const std::uint32_t type : {0u, 1u, 2u, 16u, 32u}) {
-        std::unique_ptr<ILocaleResLoader> loader;
-        ASSERT_TRUE(factory.create(type, &loader).ok());
-        EXPECT_EQ(dynamic_cast<LocaleResLoaderPropFile*>(loader.get()) != nullptr, type == 1);
-        EXPECT_EQ(dynamic_cast<LocaleResLoaderTrFile*>(loader.get()) != nullptr, type != 1);
-    }
 }
 
 TEST(WordTest, KnowsYesAndNo)

@@ -57,19 +57,4 @@ TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
     setClock(nullptr);
 }
 
-TEST(FileLogging, SaysWhyTheFileCouldNotBeAdded)
-{
-    const test::TempFolder folder;
-    FileLogging first(folder / "first.log");
-    first.setLevel(Error);
-    first.setLogFileUsed(true);
-    FileLogging second(folder / "second.log");
-    second.setLevel(Error);
-    second.setLogFileUsed(true); // the appender's id is taken
-    EXPECT_FALSE(second.isLogFileUsed());
-    const auto lines = logged(first.path(), 1);
-    ASSERT_EQ(lines.size(), 1U);
-    EXPECT_TRUE(lines[0].ends_with("[mainwindow] Failed to add file logger. Error: 5/8")) << lines[0];
-}
-
 } // namespace

@@ -27,7 +27,6 @@ TEST(LogLine, Format)
         {{-1, 1, 2, 0, "s", "before 1601", 0}, "[OFFFF] [00001] [00002] [s] before 1601"},
         {{Time, 1, 2, 7, "s", "no level", 0},
          "[2024.03.05 14:07:09:042] [2024.03.05 14:07:09:042] [00001] [00002] [s] no level"},
-        {{0, 1, 2, 7, "s", "neither", 0}, "[] [00001] [00002] [s] neither"},
         {{0, 1, 2, 1, "a\nb", "c\r\n[d]", 0}, "[FATAL] [00001] [00002] [a\\nb] c\\x0D\\n[d]"},
     };
     for (const auto& c : cases) {
@@ -43,13 +42,11 @@ TEST(LogText, StaysOneLineOfValidUtf8)
     {
         std::string text, line;
     } cases[] = {
-        {"plain \\ text ~", "plain \\ text ~"},
+        {"plain \\ ~ \u00DF\u65E5\U0001F512", "plain \\ ~ \u00DF\u65E5\U0001F512"},
         {"\0\t\x1B[31m\x7F"s, "\\x00\\x09\\x1B[31m\\x7F"},
-        {"Gr\u00FC\u00DFe \u65E5\u672C \U0001F512", "Gr\u00FC\u00DFe \u65E5\u672C \U0001F512"},
         {"\u0085|\u009B|\u00A0", "\\xC2\\x85|\\xC2\\x9B|\u00A0"},
         {"\u2028\u2029\u202A", "\\xE2\\x80\\xA8\\xE2\\x80\\xA9\u202A"},
-        {"\xFF\xC3", "\\xFF\\xC3"},
-        {"\xC3(\xE2\x82", "\\xC3(\\xE2\\x82"},
+        {"\xFF\xC3(\xE2\x82", "\\xFF\\xC3(\\xE2\\x82"},
         {"\xC0\x8A\xE0\x80\x8A", "\\xC0\\x8A\\xE0\\x80\\x8A"}, // line feeds in disguise
         {"\xED\xA0\x80", "\\xED\\xA0\\x80"},                   // a surrogate
         {"\xF4\x90\x80\x80\xF5", "\\xF4\\x90\\x80\\x80\\xF5"}, // beyond the last character

@@ -57,11 +57,12 @@ protected:
     LogSender<char>& sender = *LogSender<char>::instance();
 };
 
-TEST_F(LogRecTest, LevelMatrix)
+TEST_F(LogRecTest, SendsWhatTheLevelLetsThrough)
 {
     EXPECT_EQ(sender.level(), 0U) << "a new sender is off";
     for (std::uint32_t current = Off; current <= Trace; ++current) {
         sender.setLevel(current);
+        notes.clear();
         Messages expected;
         for (std::uint32_t level = Off; level <= Trace; ++level) {
             log(Level(level), "test") << "x";
@@ -69,7 +70,6 @@ TEST_F(LogRecTest, LevelMatrix)
                 expected.push_back("b:" + std::to_string(level) + ":x");
         }
         EXPECT_EQ(notes, expected) << "at level " << current;
-        notes.clear();
     }
 }
 
@@ -77,32 +77,22 @@ TEST_F(LogRecTest, StreamsNumbersTextsAndPairs)
 {
     sender.setLevel(Trace);
     const char* none = nullptr;
-    log(Debug, "test") << "a" << 1 << std::string("b") << -2.5 << 'c' << 18446744073709551615U << none;
+    log(Debug, "test") << "a" << 1234567 << std::string("b") << -2.5 << 'c' << 18446744073709551615U << none;
     log(Debug, "test") << L"\u20AC" << std::wstring(L"\u65E5") << static_cast<const wchar_t*>(nullptr);
     log(Debug, "test") << std::array{1, 2, 3, 4} << ' ' << std::array{5U, 4003U, 0U, 0U, 1U, 2U};
-    log(Debug, "test") << 1234567;
-    EXPECT_EQ(notes, (Messages{"b:5:a1b-2.5c18446744073709551615", "b:5:\u20AC\u65E5",
-                               "b:5:1/2,3/4 5/4003,0/0,1/2", "b:5:1234567"}));
+    EXPECT_EQ(notes, (Messages{"b:5:a1234567b-2.5c18446744073709551615", "b:5:\u20AC\u65E5",
+                               "b:5:1/2,3/4 5/4003,0/0,1/2"}));
 }
 
 TEST_F(LogRecTest, ReusedRecordStartsEmpty)
 {
-    sender.setLevel(Error);
-    {
-        LogRec<char> record(&sender, Error, "test");
-        EXPECT_EQ(sender.addRef(), 3U) << "the process's, the record's and this one";
-        EXPECT_EQ(sender.release(), 2U);
-        record << "first";
+    LogRec<char> record(&sender, Error, "test");
+    for (const std::uint32_t level : {Error, Off, Error}) {
+        sender.setLevel(level);
+        record << level;
         record.flush();
-        sender.setLevel(Off);
-        record << "unheard";
-        record.flush();
-        sender.setLevel(Error);
-        record << "last";
     }
-    EXPECT_EQ(notes, (Messages{"b:2:first", "b:2:last"}));
-    sender.setLevel(Off);
-    EXPECT_EQ(LogRec<char>(&sender).level(), 2U);
+    EXPECT_EQ(notes, (Messages{"b:2:2", "b:2:2"}));
     LogRec<char>(nullptr, Fatal, "test") << "goes nowhere";
 }
 
@@ -111,7 +101,6 @@ TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)
     sender.setLevel(Trace);
     auto& appenders = sender.appenders();
     const auto first = std::make_shared<NotingAppender>("a", notes);
-    EXPECT_EQ(appenders.add(3, nullptr), err::library(err::NullArgument));
     EXPECT_EQ(appenders.add(2, first), err::library(err::Busy));
     ASSERT_TRUE(appenders.add(1, first).ok());
     log(Fatal, "test") << 1;

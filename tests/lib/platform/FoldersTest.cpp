@@ -32,8 +32,7 @@ TEST(Folders, CreatePrivateFolders)
     const test::TempFolder folder;
     EXPECT_TRUE(createPrivateFolders(folder / "x/y/z/").ok());
     EXPECT_TRUE(createPrivateFolders(folder / "x/y/z").ok());
-    test::writeFile(folder / "file", "");
-    EXPECT_EQ(createPrivateFolders(folder / "file"), tessaly::err::system(EEXIST));
+    folder.write("file", "");
     EXPECT_EQ(createPrivateFolders(folder / "file/below"), tessaly::err::system(EEXIST));
     EXPECT_FALSE(createPrivateFolders("").ok());
 }

@@ -22,7 +22,6 @@ public:
     {
         lastValue = value;
         lastParam = param;
-        ++runs;
         return go.wait() ? answer : ResultCode{};
     }
 
@@ -30,7 +29,6 @@ public:
     ResultCode answer{5, 60};
     std::atomic<std::uint32_t> lastValue = 0;
     std::atomic<std::uintptr_t> lastParam = 0;
-    std::atomic<int> runs = 0;
 };
 
 TEST(Thread, WithoutRunnableOrJob)
@@ -39,12 +37,7 @@ TEST(Thread, WithoutRunnableOrJob)
     EXPECT_EQ(thread.start(), err::library(err::NoRunnable));
     EXPECT_EQ(thread.wait(0), WaitStatus::NoJob);
     EXPECT_EQ(thread.wait(), WaitStatus::NoJob);
-    EXPECT_FALSE(thread.isRunning());
-    EXPECT_EQ(thread.value(), 1U);
-    EXPECT_EQ(thread.reserved(), 0U);
     EXPECT_TRUE(thread.result().ok());
-    thread.setStopFlag(-7);
-    EXPECT_EQ(thread.stopFlag(), -7);
 }
 
 TEST(Thread, RunnableThatThrows)
@@ -89,20 +82,6 @@ TEST(Thread, OneJobFromStartToResultAndAgain)
     EXPECT_EQ(job.lastParam, 0U);
 }
 
-TEST(Thread, StartsAndEndsManyTimes)
-{
-    Job job;
-    ASSERT_TRUE(job.go.set().ok());
-    for (int i = 0; i < 1000; ++i) {
-        Thread thread;
-        thread.setRunnable(&job);
-        ASSERT_TRUE(thread.start().ok());
-        ASSERT_EQ(thread.wait(), WaitStatus::Finished);
-        ASSERT_TRUE(thread.start().ok());
-    } // the destructor waits
-    EXPECT_EQ(job.runs, 2000);
-}
-
 TEST(Thread, ConcurrentStartsLaunchOneJob)
 {
     for (int round = 0; round < 500; ++round) {
@@ -125,7 +104,7 @@ TEST(Thread, ConcurrentStartsLaunchOneJob)
         ASSERT_TRUE(job.go.set().ok());
         ASSERT_EQ(started, 1);
         ASSERT_EQ(busy, 1);
-    }
+    } // the destructor waits
 }
 
 } // namespace
