@@ -37,7 +37,7 @@ public:
 
     /// The path as the readers take it.
     std::wstring wide(std::string_view name = {}) const { return tessaly::platform::widePath(*this / name); }
-    /// Writes the file anew and gives its path.
+    /// Writes the file anew and gives its path. The name may be a whole path.
     std::wstring write(std::string_view name, std::string_view content) const
     {
         std::ofstream(*this / name, std::ios::binary) << content;
@@ -53,11 +53,6 @@ inline std::string readFile(const std::string& path)
     std::ostringstream content;
     content << std::ifstream(path, std::ios::binary).rdbuf();
     return content.str();
-}
-
-inline void writeFile(const std::string& path, std::string_view content)
-{
-    std::ofstream(path, std::ios::binary) << content;
 }
 
 /// Without their line ends; a last line without one counts too.

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
@@ -32,19 +31,15 @@ TEST(MyTranslator, TranslatesOrGivesTheSourceText)
 }
 
 /// Fills in every translation as a translator would: "[source]" for each.
-int translateAll(const QString& path)
+int translateAll(const test::TempFolder& folder, const char* name)
 {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    QString text = QString::fromUtf8(file.readAll());
-    file.close();
     static const QRegularExpression Message(
         "<source>((?:[^<]|<byte[^>]*>)*)</source>(.*?)<translation[^>]*>.*?</translation>",
         QRegularExpression::DotMatchesEverythingOption);
+    auto text = QString::fromStdString(test::readFile(folder / name));
     const int count = text.count(Message);
     text.replace(Message, "<source>\\1</source>\\2<translation>[\\1]</translation>");
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text.toUtf8());
+    folder.write(name, text.toStdString());
     return count;
 }
 
@@ -57,9 +52,8 @@ TEST(MyTranslator, TakesAFileThatLupdateMadeFromTheSources)
     char* argv[] = {name, nullptr};
     const QCoreApplication application(argc, argv);
     const test::TempFolder folder;
-    const QString file = QString::fromStdString(folder / "all.ts");
     QProcess lupdate;
-    lupdate.start(LUPDATE, {"-silent", "-locations", "none", SOURCE_DIR, "-ts", file});
+    lupdate.start(LUPDATE, {"-silent", "-locations", "none", SOURCE_DIR, "-ts", (folder / "all.ts").c_str()});
     ASSERT_TRUE(lupdate.waitForFinished(120000));
     ASSERT_EQ(lupdate.exitCode(), 0);
     // A complaint about a file that holds texts means that some of them are missing or in no context;
@@ -67,7 +61,7 @@ TEST(MyTranslator, TakesAFileThatLupdateMadeFromTheSources)
     static const QRegularExpression Loss("/src/(app|ui)/[^\n]*: (?!Ignoring definition)");
     const QString complaints = QString::fromUtf8(lupdate.readAllStandardError());
     EXPECT_FALSE(complaints.contains(Loss)) << complaints.toStdString();
-    ASSERT_GE(translateAll(file), 15);
+    ASSERT_GE(translateAll(folder, "all.ts"), 15);
 
     folder.write("all.langs.xml", "<locales><locale language='de' country='DE' file='all.ts'"
                                   " filetype='translations'/></locales>");
