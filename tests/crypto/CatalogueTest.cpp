@@ -28,14 +28,9 @@ TEST(Catalogue, IsTheOnePublished)
         const Job job(entry);
         expectRow(*job.encryptor);
         expectRow(*job.decryptor);
-        const bool stream = job.encryptor->blockLength() == 0;
-        const tessaly::crypto::AlgRecord expected = {job.encryptor->keyLength(),
-                                                     job.encryptor->ivLength(),
-                                                     stream ? CipherMode::Stream : CipherMode::Cbc,
-                                                     job.encryptor->blockLength(),
-                                                     entry.name == "Panama",
-                                                     stream};
-        EXPECT_EQ(AlgInfo().record(entry.id), expected);
+        EXPECT_EQ(AlgInfo().record(entry.id), entry.record);
+        EXPECT_EQ(entry.record.stream, job.encryptor->blockLength() == 0);
+        EXPECT_EQ(entry.record.mode, entry.record.stream ? CipherMode::Stream : CipherMode::Cbc);
         EXPECT_EQ(findAlgorithm(entry.name), &entry);
     }
     EXPECT_EQ(findAlgorithm("aes-256")->id, tessaly::crypto::DefaultAlgorithmId);
@@ -44,11 +39,10 @@ TEST(Catalogue, IsTheOnePublished)
 TEST(Catalogue, WhatItDoesNotHoldIsUnknownEverywhere)
 {
     const auto expectUnknown = [](std::uint32_t provider, std::uint32_t id) {
+        const CryptoResult unknown(err::UnknownAlgorithm);
         Job job("AES-256");
-        EXPECT_EQ(CEncryptorFactory().create(provider, id, &job.encryptor),
-                  CryptoResult(err::UnknownAlgorithm));
-        EXPECT_EQ(CDecryptorFactory().create(provider, id, &job.decryptor),
-                  CryptoResult(err::UnknownAlgorithm));
+        EXPECT_EQ(CEncryptorFactory().create(provider, id, &job.encryptor), unknown);
+        EXPECT_EQ(CDecryptorFactory().create(provider, id, &job.decryptor), unknown);
         EXPECT_TRUE(!job.encryptor && !job.decryptor);
     };
     for (const std::uint32_t id : {0U, 49U, 51U, 103U, 253U, 1013U, 1063U, 4294967295U}) {

@@ -41,11 +41,11 @@ TEST(FileFormat, GoldenFilesAreMadeAndOpened)
     }
 }
 
-/// Around the header's end, the block, one chunk and two.
-TEST(FileFormat, EveryAlgorithmAndLengthComesBack)
+/// Around the header's end, the block, one chunk and two; then in small chunks and small reads.
+TEST(FileFormat, EveryAlgorithmLengthAndChunkSizeComesBack)
 {
     for (const CatalogueEntry& algorithm : tessaly::crypto::catalogue()) {
-        const Job job(algorithm);
+        Job job(algorithm);
         const std::size_t block = std::max<std::size_t>(algorithm.record.blockLength, 1);
         std::vector<std::size_t> lengths = {0, 1, 55, 56, 57, 32711, 32712, 32713, 65479, 65480, 65481};
         for (const std::size_t edge : {block, 2 * block - 56 % block})
@@ -60,14 +60,7 @@ TEST(FileFormat, EveryAlgorithmAndLengthComesBack)
             ASSERT_EQ(decrypted.result, CryptoResult());
             ASSERT_EQ(decrypted.bytes, plain);
         }
-    }
-}
-
-TEST(FileFormat, IsTheSameForEveryChunkSizeAndWayOfReading)
-{
-    for (const CatalogueEntry& algorithm : tessaly::crypto::catalogue()) {
         const Bytes plain = noise(3000);
-        Job job(algorithm);
         const Bytes encrypted = job.encrypt(plain).bytes;
         for (const std::uint32_t chunkSize : {8U, 57U, 100U, 1000U, 4096U}) {
             job.chunkSize = chunkSize;

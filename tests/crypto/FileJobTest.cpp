@@ -9,7 +9,6 @@ namespace {
 
 using namespace tessaly::crypto;
 using tessaly::platform::fileStatus;
-namespace err = tessaly::err;
 namespace fs = std::filesystem;
 
 /// Notes the calls; cancels after one of them when told to.
@@ -69,34 +68,6 @@ TEST_F(FileJob, TellsWhatItReadAndMade)
     EXPECT_EQ(test::readFile(folder / "plain2"), content);
     EXPECT_EQ(fs::status(folder / "plain2").permissions(), fs::perms(0600));
     EXPECT_EQ(fs::status(folder / "encrypted").permissions(), fs::status(folder / "plain").permissions());
-}
-
-TEST_F(FileJob, CreatesNothingWhereItCannotSucceed)
-{
-    folder.write("short", "too short");
-    folder.write("foreign", std::string(300, 'x'));
-    folder.write("taken", "precious");
-    fs::create_symlink("nowhere", folder / "dangling");
-    const struct
-    {
-        const char* input;
-        const char* output;
-        CryptoResult result;
-    } rows[] = {
-        {"foreign", "out", err::CheckValueDiffers},
-        {"short", "out", err::InputTooShort},
-        {"absent", "out", err::system(ENOENT)},
-        {"encrypted", "taken", {err::WriteStreamFailed, err::system(EEXIST)}},
-        {"encrypted", "dangling", {err::WriteStreamFailed, err::system(EEXIST)}},
-        {"encrypted", "absent/out", {err::WriteStreamFailed, err::system(ENOENT)}},
-    };
-    for (const auto& row : rows) {
-        const FileJobOutcome outcome = decrypt(row.input, row.output);
-        EXPECT_EQ(outcome.result, row.result) << row.input << " to " << row.output;
-        EXPECT_FALSE(outcome.done() || outcome.cancelled || removeOutput(request, outcome));
-    }
-    EXPECT_FALSE(fs::exists(folder / "out") || fs::exists(folder / "nowhere"));
-    EXPECT_EQ(test::readFile(folder / "taken"), "precious");
 }
 
 TEST_F(FileJob, ACancelLeavesNothingOrAFileThatIsRemovedUnlessReplaced)

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <ctime>
+#include <optional>
 #include <string>
 
 namespace test {
@@ -12,13 +13,11 @@ class Environment
 public:
     Environment(const char* name, const char* value) : m_name(name)
     {
-        if (const char* old = std::getenv(name)) {
+        if (const char* old = std::getenv(name))
             m_old = old;
-            m_wasSet = true;
-        }
         put(value);
     }
-    ~Environment() { put(m_wasSet ? m_old.c_str() : nullptr); }
+    ~Environment() { put(m_old ? m_old->c_str() : nullptr); }
     Environment(const Environment&) = delete;
     Environment& operator=(const Environment&) = delete;
 
@@ -30,8 +29,7 @@ private:
     }
 
     const char* m_name;
-    std::string m_old;
-    bool m_wasSet = false;
+    std::optional<std::string> m_old;
 };
 
 } // namespace test

@@ -29,21 +29,15 @@ public:
 public slots:
     void update(const QString& application, const QVariantMap& properties)
     {
-        seen << QStringLiteral("%1 %2 %3")
-                    .arg(application)
-                    .arg(properties[QStringLiteral("progress")].toDouble())
-                    .arg(properties[QStringLiteral("progress-visible")].toBool());
+        const double progress = properties["progress"].toDouble();
+        const bool isVisible = properties["progress-visible"].toBool();
+        seen << QString("%1 %2 %3").arg(application).arg(progress).arg(isVisible);
     }
     uint Notify(const QString& application, uint, const QString& icon, const QString& summary,
                 const QString& body, const QStringList&, const QVariantMap& hints, int timeout)
     {
-        seen << QStringList{application,
-                            icon,
-                            summary,
-                            body,
-                            hints[QStringLiteral("desktop-entry")].toString(),
-                            QString::number(timeout)}
-                    .join(QLatin1Char('|'));
+        const QString entry = hints["desktop-entry"].toString();
+        seen << QStringList{application, icon, summary, body, entry, QString::number(timeout)}.join('|');
         return 1;
     }
 };
@@ -66,40 +60,38 @@ protected:
         desktop.taskbarProgress().setValue(40);
         desktop.taskbarProgress().setValue(40);
         desktop.taskbarProgress().setValue(101);
-        desktop.notifier().notify(QStringLiteral("Done"), QStringLiteral("<b> & \"c\""));
+        desktop.notifier().notify("Done", "<b> & \"c\"");
     }
 };
 
 TEST_F(DesktopTest, TellsTheSessionBus)
 {
     QProcess daemon;
-    daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                                                 QStringLiteral("--print-address")});
+    daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
     if (!daemon.waitForStarted())
         GTEST_SKIP() << "no dbus-daemon";
     ASSERT_TRUE(daemon.waitForReadyRead());
     const QString address = QString::fromUtf8(daemon.readLine().trimmed());
     const test::Environment bus("DBUS_SESSION_BUS_ADDRESS", address.toUtf8().constData());
 
-    auto connection = QDBusConnection::connectToBus(address, QStringLiteral("observer"));
+    auto connection = QDBusConnection::connectToBus(address, "observer");
     Observer observer;
-    ASSERT_TRUE(connection.connect({}, {}, QStringLiteral("com.canonical.Unity.LauncherEntry"),
-                                   QStringLiteral("Update"), &observer, SLOT(update(QString, QVariantMap))));
-    ASSERT_TRUE(connection.registerService(QStringLiteral("org.freedesktop.Notifications")));
-    ASSERT_TRUE(connection.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &observer,
+    ASSERT_TRUE(connection.connect({}, {}, "com.canonical.Unity.LauncherEntry", "Update", &observer,
+                                   SLOT(update(QString, QVariantMap))));
+    ASSERT_TRUE(connection.registerService("org.freedesktop.Notifications"));
+    ASSERT_TRUE(connection.registerObject("/org/freedesktop/Notifications", &observer,
                                           QDBusConnection::ExportAllSlots));
     {
         Desktop desktop;
         use(desktop);
     } // a bar still visible is taken down
-    const QString app = QStringLiteral("application://quillet.desktop ");
-    const QStringList expected = {
-        app + QStringLiteral("0.1 1"), app + QStringLiteral("0.4 1"), app + QStringLiteral("1 1"),
-        QStringLiteral("quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|quillet|-1"), app + QStringLiteral("1 0")};
+    const QString app = "application://quillet.desktop ";
+    const QStringList expected = {app + "0.1 1", app + "0.4 1", app + "1 1",
+                                  "quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|quillet|-1", app + "1 0"};
     EXPECT_TRUE(QTest::qWaitFor([&] { return observer.seen.size() >= expected.size(); }));
-    EXPECT_EQ(observer.seen, expected) << observer.seen.join(QLatin1Char('\n')).toStdString();
+    EXPECT_EQ(observer.seen, expected) << observer.seen.join('\n').toStdString();
 
-    QDBusConnection::disconnectFromBus(QStringLiteral("observer"));
+    QDBusConnection::disconnectFromBus("observer");
     daemon.terminate();
     daemon.waitForFinished();
 }

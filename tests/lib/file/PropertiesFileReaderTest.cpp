@@ -14,20 +14,13 @@ using namespace tessaly;
 using file::internal::PropertiesFileReader;
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-/// The pairs that its sink was handed.
-struct Collected
+template <class... More>
+Pairs readPairs(const std::wstring& path, const More&... more)
 {
     Pairs pairs;
-    file::IPropertiesFileReader::PairSink sink = [this](const std::string& key, const std::string& value) {
-        pairs.emplace_back(key, value);
-    };
-};
-
-Pairs readPairs(const std::wstring& path)
-{
-    Collected collected;
-    EXPECT_TRUE(PropertiesFileReader().read(path, collected.sink).ok());
-    return collected.pairs;
+    const auto sink = [&](const std::string& key, const std::string& value) { pairs.emplace_back(key, value); };
+    EXPECT_TRUE(PropertiesFileReader().read(path, sink, more...).ok());
+    return pairs;
 }
 
 TEST(PropertiesFileReader, ReadsPairs)
@@ -71,12 +64,9 @@ TEST(PropertiesFileReader, FiltersKeysAndExpandsVariables)
     const auto path = folder.write("p", "a=1\nb=${app} ${no} ${x${app}} ${} } ${app\n");
     const test::AppVariable variables;
     const auto onlyB = [](const std::string& key) { return key == "b"; };
-    Collected collected;
-    ASSERT_TRUE(PropertiesFileReader().read(path, collected.sink, onlyB).ok());
-    ASSERT_TRUE(PropertiesFileReader().read(path, collected.sink, nullptr, &variables).ok());
-    EXPECT_EQ(collected.pairs, (Pairs{{"b", "${app} ${no} ${x${app}} ${} } ${app"},
-                                      {"a", "1"},
-                                      {"b", "${app}! ${no} ${x${app}!} ${} } ${app"}}));
+    EXPECT_EQ(readPairs(path, onlyB), (Pairs{{"b", "${app} ${no} ${x${app}} ${} } ${app"}}));
+    EXPECT_EQ(readPairs(path, nullptr, &variables),
+              (Pairs{{"a", "1"}, {"b", "${app}! ${no} ${x${app}!} ${} } ${app"}}));
 }
 
 TEST(PropertiesFileReader, SurvivesRandomBytes)

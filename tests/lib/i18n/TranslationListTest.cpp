@@ -2,7 +2,6 @@
 #include "lib/i18n/LocaleResLoaderTrFile.h"
 #include "lib/i18n/StrBundleTrMgr.h"
 #include "lib/i18n/TranslationListLoaderXml.h"
-#include "lib/i18n/WordTest.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -69,16 +68,6 @@ TEST(LocaleResLoaders, SurviveBrokenFiles)
     EXPECT_FALSE(bundle.load(loader, folder.write("t", "<ts/>")).ok());
     EXPECT_FALSE(bundle.load(loader, folder.write("t", Entities + good)).ok());
     EXPECT_EQ(bundle.lookup("C", "a").text, "b");
-}
-
-TEST(WordTest, KnowsYesAndNo)
-{
-    for (const char* word : {"1", "OK", "yes", "OfCouse", "true"})
-        EXPECT_EQ(readYesNo(word), true) << word;
-    for (const char* word : {"0", "not", "NEVER", "False"})
-        EXPECT_EQ(readYesNo(word), false) << word;
-    for (const char* word : {"", "no", "ofcourse", " yes"})
-        EXPECT_EQ(readYesNo(word), std::nullopt) << word;
 }
 
 } // namespace
