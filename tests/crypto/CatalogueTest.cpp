@@ -29,6 +29,7 @@ TEST(Catalogue, IsTheOnePublished)
         expectRow(*job.encryptor);
         expectRow(*job.decryptor);
         EXPECT_EQ(AlgInfo().record(entry.id), entry.record);
+        EXPECT_EQ(entry.record.littleEndian, entry.name == "Panama");
         EXPECT_EQ(entry.record.stream, job.encryptor->blockLength() == 0);
         EXPECT_EQ(entry.record.mode, entry.record.stream ? CipherMode::Stream : CipherMode::Cbc);
         EXPECT_EQ(findAlgorithm(entry.name), &entry);

@@ -18,27 +18,26 @@ public:
     std::vector<std::int64_t> processed;
     std::vector<float> percents;
     CryptoResult result;
-    std::function<void()> onStarted = [] {};
-    std::function<void()> onProgress = [] {};
-    std::function<void()> onFinished = [] {};
+    std::function<void(char)> onCall = [](char) {};
 
-    void started(void*) override
-    {
-        calls += 's';
-        onStarted();
-    }
+    void started(void*) override { note('s'); }
     void progress(std::int64_t count, float percent, void*) override
     {
-        calls += 'p';
         processed.push_back(count);
         percents.push_back(percent);
-        onProgress();
+        note('p');
     }
     void finished(bool stopped, const CryptoResult& outcome, void*) override
     {
-        calls += stopped ? 'F' : 'f';
         result = outcome;
-        onFinished();
+        note(stopped ? 'F' : 'f');
+    }
+
+private:
+    void note(char call)
+    {
+        calls += call;
+        onCall(call);
     }
 };
 
@@ -121,7 +120,7 @@ TEST(Operation, StopsAfterTheChunkAtHand)
     forEveryWay([](Way& way) {
         for (int chunks = 0; chunks <= Chunks; ++chunks) {
             way.stop(); // an early stop is forgotten at the start
-            way.recorder.onStarted = [&] { chunks == 0 ? way.stop() : void(); };
+            way.recorder.onCall = [&](char) { chunks == 0 ? way.stop() : void(); };
             const Outcome outcome =
                 way.run({}, {.onCall = [&](int call) { call == chunks ? way.stop() : void(); }});
             EXPECT_EQ(outcome.result, CryptoResult());
@@ -187,7 +186,9 @@ TEST(Operation, ArgumentsAreCheckedInOrderWithoutACallback)
 TEST(Operation, OnlyOneRunsAtATime)
 {
     Way way("Twofish-128", true);
-    way.recorder.onStarted = [&] {
+    way.recorder.onCall = [&](char call) {
+        if (call != 's')
+            return;
         EXPECT_TRUE(way.job.encryptor->isBusy());
         EXPECT_EQ(way.job.encrypt(way.input).result, CryptoResult(err::Busy));
     };
@@ -200,15 +201,12 @@ TEST(Operation, NoExceptionLeavesIt)
 {
     const auto raise = [](auto...) { throw std::runtime_error("of the caller"); };
     const CryptoResult expected({err::CategoryCryptoPP, 6}, err::library(err::ProcessingFailed));
-    for (int thrower = 0; thrower < 4; ++thrower) {
+    for (const char thrower : {'s', 'p', 'f', 'r'}) {
         Way way("AES-128", true);
-        if (thrower < 2)
-            (thrower == 0 ? way.recorder.onStarted : way.recorder.onProgress) = raise;
-        if (thrower == 3)
-            way.recorder.onFinished = raise;
-        EXPECT_EQ(way.run(thrower == 2 ? Faults{.onCall = raise} : Faults{}).result, expected);
+        way.recorder.onCall = [&](char call) { call == thrower ? raise() : void(); };
+        EXPECT_EQ(way.run(thrower == 'r' ? Faults{.onCall = raise} : Faults{}).result, expected);
         EXPECT_EQ(way.recorder.calls.back(), 'f');
-        EXPECT_EQ(way.recorder.result, thrower == 3 ? CryptoResult() : expected);
+        EXPECT_EQ(way.recorder.result, thrower == 'f' ? CryptoResult() : expected);
         EXPECT_FALSE(way.job.encryptor->isBusy());
     }
 }

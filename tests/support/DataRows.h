@@ -15,15 +15,14 @@ using Row = std::vector<std::string>;
 inline std::vector<Row> dataRows(const std::string& name)
 {
     const std::filesystem::path path = std::filesystem::path(TEST_DATA_DIR) / name;
-    std::vector<Row> rows;
-    if (std::filesystem::is_directory(path)) {
+    std::stringstream text;
+    if (std::filesystem::is_directory(path))
         for (const auto& entry : std::filesystem::directory_iterator(path))
-            for (const Row& row : dataRows(name + "/" + entry.path().filename().string()))
-                rows.push_back(row);
-        return rows;
-    }
-    std::ifstream file(path);
-    for (std::string line; std::getline(file, line);) {
+            text << std::ifstream(entry.path()).rdbuf();
+    else
+        text << std::ifstream(path).rdbuf();
+    std::vector<Row> rows;
+    for (std::string line; std::getline(text, line);) {
         std::istringstream fields(line);
         Row row;
         for (std::string field; fields >> field;)

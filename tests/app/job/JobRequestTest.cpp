@@ -21,7 +21,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
     std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
     bool engine = true;
-    std::vector<std::pair<Area, QString>> messages;
+    std::pair<Area, std::string> message;
     QString dialogTitle;
 
     bool isJobRunning() const override { return running; }
@@ -35,7 +35,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
     bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
     bool prepareEngine(Operation, const AlgSelection&) override { return engine; }
-    void showMessage(Area area, Message message) override { messages.emplace_back(area, message.now()); }
+    void showMessage(Area area, Message text) override { message = {area, text.now().toStdString()}; }
 };
 
 class JobRequestTest : public ::testing::TestWithParam<Operation>
@@ -49,11 +49,9 @@ protected:
 
     void expectRefusal(Area area, const std::string& text)
     {
-        host.messages.clear();
+        host.message = {};
         EXPECT_FALSE(JobRequest(GetParam(), host, host).run());
-        ASSERT_EQ(host.messages.size(), 1U) << text;
-        EXPECT_EQ(host.messages[0].first, area) << text;
-        EXPECT_EQ(host.messages[0].second.toStdString(), text);
+        EXPECT_EQ(host.message, std::pair(area, text));
         EXPECT_EQ(test::readFile(folder / "in.txt"), "input") << text;
         EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << text;
     }

@@ -18,7 +18,7 @@ template <class... More>
 Pairs readPairs(const std::wstring& path, const More&... more)
 {
     Pairs pairs;
-    const auto sink = [&](const std::string& key, const std::string& value) { pairs.emplace_back(key, value); };
+    const auto sink = [&](const auto& key, const auto& value) { pairs.emplace_back(key, value); };
     EXPECT_TRUE(PropertiesFileReader().read(path, sink, more...).ok());
     return pairs;
 }

@@ -70,8 +70,7 @@ TEST(TranslationManager, OffersEnglishAndTheEnabledEntries)
     EXPECT_EQ(manager.languages(),
               (std::vector<Language>{{EnglishLcid, "English"},
                                      {German, "Deutsch"},
-                                     {French, "Fran\xC3\xA7"
-                                              "ais"},
+                                     {French, "Fran\u00E7ais"},
                                      {SerbianLatin, "Serbian (Serbia and Montenegro, Former, Latin)"}}));
 
     TranslationManager without(DataFolder, "nothing");
@@ -115,8 +114,6 @@ TEST(TranslationManager, AnswersWhileAnotherLanguageLoads)
             while (!done) {
                 const auto found = manager.bundle().lookup("CErrMsg", "File not found");
                 if (found.text != "Datei nicht gefunden & weg" && found.text != "Fichier introuvable")
-                    ++wrong;
-                if (const auto lcid = manager.locale().lcid; lcid != German && lcid != French)
                     ++wrong;
             }
         });

@@ -84,18 +84,6 @@ TEST_F(LogRecTest, StreamsNumbersTextsAndPairs)
                                "b:5:1/2,3/4 5/4003,0/0,1/2"}));
 }
 
-TEST_F(LogRecTest, ReusedRecordStartsEmpty)
-{
-    LogRec<char> record(&sender, Error, "test");
-    for (const std::uint32_t level : {Error, Off, Error}) {
-        sender.setLevel(level);
-        record << level;
-        record.flush();
-    }
-    EXPECT_EQ(notes, (Messages{"b:2:2", "b:2:2"}));
-    LogRec<char>(nullptr, Fatal, "test") << "goes nowhere";
-}
-
 TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)
 {
     sender.setLevel(Trace);

@@ -1,11 +1,7 @@
 #include "lib/platform/Folders.h"
-#include "lib/err/ErrorCodes.h"
 #include "support/Environment.h"
-#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
-
-#include <cerrno>
 
 namespace {
 
@@ -25,16 +21,6 @@ TEST(Folders, FollowTheEnvironment)
     const test::Environment homeless("HOME", nullptr);
     const test::Environment unset("XDG_STATE_HOME", nullptr);
     EXPECT_TRUE(stateFolder().ends_with("/.local/state")) << "the user data base knows the home";
-}
-
-TEST(Folders, CreatePrivateFolders)
-{
-    const test::TempFolder folder;
-    EXPECT_TRUE(createPrivateFolders(folder / "x/y/z/").ok());
-    EXPECT_TRUE(createPrivateFolders(folder / "x/y/z").ok());
-    folder.write("file", "");
-    EXPECT_EQ(createPrivateFolders(folder / "file/below"), tessaly::err::system(EEXIST));
-    EXPECT_FALSE(createPrivateFolders("").ok());
 }
 
 } // namespace

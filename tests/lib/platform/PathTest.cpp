@@ -22,12 +22,4 @@ TEST(Path, EveryNameSurvives)
         }
 }
 
-TEST(Path, LowerCaseDoesNotDependOnTheLocale)
-{
-    EXPECT_EQ(lowerCase(L'Z'), L'z');
-    EXPECT_EQ(lowerCase(L'\u00C4'), L'\u00E4');
-    EXPECT_EQ(lowerCase(L'\u0424'), L'\u0444');
-    EXPECT_EQ(lowerCase(L'1'), L'1');
-}
-
 } // namespace

@@ -1,5 +1,4 @@
 #include "lib/sync/Locker.h"
-#include "lib/sync/SafeData.h"
 #include "lib/sync/Signal.h"
 
 #include <gtest/gtest.h>
@@ -25,20 +24,6 @@ TEST(Locker, IsRecursiveAndExclusive)
     bool taken = true;
     std::thread([&] { taken = locker.tryLock(); }).join();
     EXPECT_FALSE(taken);
-}
-
-TEST(SafeData, CountsEveryIncrementOfFourThreads)
-{
-    tessaly::sync::internal::SafeData<Locker, int> counter(0);
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
-        threads.emplace_back([&] {
-            for (int n = 0; n < 1000; ++n)
-                counter.with([](int& value) { ++value; });
-        });
-    for (auto& thread : threads)
-        thread.join();
-    EXPECT_EQ(counter.get(), 4000);
 }
 
 TEST(Signal, StaysSetUntilReset)

@@ -14,20 +14,18 @@ using tessaly::thread::Thread;
 using tessaly::thread::WaitStatus;
 namespace err = tessaly::err;
 
-/// Waits for `go`, remembers its arguments and returns `answer`.
+/// Waits for `go`, remembers its parameter and returns `answer`.
 class Job final : public tessaly::thread::IRunnable
 {
 public:
-    ResultCode run(std::uint32_t value, std::uintptr_t param) override
+    ResultCode run(std::uint32_t, std::uintptr_t param) override
     {
-        lastValue = value;
         lastParam = param;
         return go.wait() ? answer : ResultCode{};
     }
 
     tessaly::sync::Signal go;
     ResultCode answer{5, 60};
-    std::atomic<std::uint32_t> lastValue = 0;
     std::atomic<std::uintptr_t> lastParam = 0;
 };
 
@@ -59,7 +57,6 @@ TEST(Thread, OneJobFromStartToResultAndAgain)
     Job job;
     Thread thread;
     thread.setRunnable(&job);
-    thread.setValue(100);
     ASSERT_TRUE(thread.start(42).ok());
     EXPECT_TRUE(thread.isRunning());
     EXPECT_EQ(thread.wait(0), WaitStatus::TimedOut);
@@ -69,7 +66,6 @@ TEST(Thread, OneJobFromStartToResultAndAgain)
     EXPECT_EQ(thread.wait(), WaitStatus::Finished);
     EXPECT_EQ(thread.wait(0), WaitStatus::Finished);
     EXPECT_EQ(thread.result(), job.answer);
-    EXPECT_EQ(job.lastValue, 100U);
     EXPECT_EQ(job.lastParam, 42U);
 
     ASSERT_TRUE(job.go.reset().ok());

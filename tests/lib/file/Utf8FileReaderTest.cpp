@@ -1,6 +1,5 @@
-#include "lib/file/TextFileReader.h"
-#include "lib/err/ErrorCodes.h"
 #include "lib/file/Utf8FileReader.h"
+#include "lib/err/ErrorCodes.h"
 #include "lib/platform/Path.h"
 #include "support/TempFolder.h"
 
@@ -18,19 +17,13 @@ using Lines = std::vector<std::string>;
 
 Lines readLines(const std::wstring& path)
 {
-    file::internal::TextFileReader reader;
-    EXPECT_TRUE(reader.open(path).ok());
     Lines lines;
-    std::string line;
-    for (bool hasLine = true; hasLine;) {
-        EXPECT_TRUE(reader.readLine(line, hasLine).ok());
-        if (hasLine)
-            lines.push_back(line);
-    }
+    const auto sink = [&](const std::string& line) { lines.push_back(line); };
+    EXPECT_TRUE(Utf8FileReader().readLines(path, sink).ok());
     return lines;
 }
 
-TEST(TextFileReader, SplitsAtLineFeedsOnly)
+TEST(Utf8FileReader, ReadsByLines)
 {
     const test::TempFolder folder;
     const std::string block(64 * 1024 - 1, 'x'); // a line end as the last byte of a read, and around it
@@ -41,7 +34,7 @@ TEST(TextFileReader, SplitsAtLineFeedsOnly)
     } cases[] = {
         {"", {}},
         {"a", {"a"}},
-        {"a\n\nb\r\n", {"a", "", "b\r"}},
+        {"a\n\nb\r\n", {"a", "", "b"}},
         {std::string("a\0b\n", 4), {std::string("a\0b", 3)}},
         {"\xEF\xBB\xBF", {}},
         {"\xEF\xBB\xBF\xEF\xBB\xBFz", {"\xEF\xBB\xBFz"}},
@@ -53,17 +46,13 @@ TEST(TextFileReader, SplitsAtLineFeedsOnly)
         EXPECT_EQ(readLines(folder.write("text", text)), lines) << text.substr(0, 20);
 }
 
-TEST(Utf8FileReader, ReadsWholeAndByLines)
+TEST(Utf8FileReader, ReadsWhole)
 {
     const test::TempFolder folder;
     const std::wstring path = folder.write("\xC3\xA4.txt", "\xEF\xBB\xBFone\r\ntwo\nthree");
     std::string text;
     ASSERT_TRUE(Utf8FileReader().read(path, text).ok());
     EXPECT_EQ(text, "one\r\ntwo\nthree");
-    Lines lines;
-    ASSERT_TRUE(
-        Utf8FileReader().readLines(path, [&](const std::string& line) { lines.push_back(line); }).ok());
-    EXPECT_EQ(lines, (Lines{"one", "two", "three"}));
 }
 
 TEST(Utf8FileReader, RefusesWhatIsNotAReadableTextFile)
