@@ -52,7 +52,6 @@ TEST(Catalogue, WhatItDoesNotHoldIsUnknownEverywhere)
         EXPECT_EQ(tessaly::crypto::displayName(id), "");
         expectUnknown(1, id);
     }
-    expectUnknown(0, 252);
     expectUnknown(10, 252);
     EXPECT_EQ(findAlgorithm("AES"), nullptr);
 }

@@ -69,7 +69,6 @@ TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
 {
     const fs::perms plain{0644};
     const fs::perms executable{0755};
-    const std::map<std::string, fs::perms> sendTo = {{SendTo, plain}};
     const std::map<std::string, fs::perms> contextMenu = {
         {"config/caja/scripts/Decrypt with Quillet", executable},
         {"config/caja/scripts/Encrypt with Quillet", executable},
@@ -82,16 +81,14 @@ TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
         {"data/nemo/actions/quillet-open.nemo_action", plain},
         {ServiceMenu, executable},
     };
-    auto both = contextMenu;
-    both.merge(std::map(sendTo));
-    update(false, true);
-    EXPECT_EQ(files(), sendTo);
-    update(true, true);
-    EXPECT_EQ(files(), both);
-    update(true, false);
-    EXPECT_EQ(files(), contextMenu);
-    update(false, false);
-    EXPECT_TRUE(files().empty());
+    for (const auto& [menu, sendTo] :
+         {std::pair(false, true), std::pair(true, true), std::pair(true, false), std::pair(false, false)}) {
+        auto expected = menu ? contextMenu : std::map<std::string, fs::perms>();
+        if (sendTo)
+            expected[SendTo] = plain;
+        update(menu, sendTo);
+        EXPECT_EQ(files(), expected);
+    }
 }
 
 TEST_F(ShellIntegrationTest, EntriesStartTheProgram)

@@ -20,12 +20,6 @@ TEST(CErrMsg, KnowsItsCodesAndNoOthers)
     }
     EXPECT_TRUE(messages.lookup(5, 206, text));
     EXPECT_EQ(text, "Output file name matches the name of the input file");
-}
-
-TEST(CErrMsg, AsksTheSystemForItsMessages)
-{
-    const thisapp::CErrMsg messages;
-    std::string text;
     ASSERT_TRUE(messages.lookup(1, ENOENT, text));
     EXPECT_EQ(text, "No such file or directory");
     EXPECT_FALSE(messages.lookup(1, 99999, text));

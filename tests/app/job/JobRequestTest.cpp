@@ -124,8 +124,7 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_EQ(request->inputPath, folder / "in.txt");
     EXPECT_FALSE(request->passwordMode);
     EXPECT_EQ(request->key.size(), 32U);
-    EXPECT_TRUE(request->rewriteOutput);
-    EXPECT_TRUE(request->outputFlag);
+    EXPECT_TRUE(request->rewriteOutput && request->outputFlag);
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
 
@@ -142,16 +141,13 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
         return true;
     };
     host.key = [](KeyEntry& entry) {
-        EXPECT_EQ(entry.keyLength, 32U);
-        EXPECT_EQ(entry.ivLength, 16U);
+        EXPECT_TRUE(entry.keyLength == 32 && entry.ivLength == 16);
         return entry.switchToNormal = entry.useSalt = true;
     };
     const auto request = JobRequest(GetParam(), host, host).run();
     ASSERT_TRUE(request);
     EXPECT_EQ(visits, 2);
-    EXPECT_TRUE(request->passwordMode);
-    EXPECT_TRUE(request->useSalt);
-    EXPECT_FALSE(request->outputFlag);
+    EXPECT_TRUE(request->passwordMode && request->useSalt && !request->outputFlag);
     EXPECT_EQ(request->password.view(), "secret");
     EXPECT_TRUE(request->key.empty());
 }

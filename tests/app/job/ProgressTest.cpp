@@ -47,7 +47,7 @@ TEST(ProgressTest, SmoothsTheSpeed)
     EXPECT_GT(*progress.bytesPerSecond(), 11.0 * MiB);
     EXPECT_LT(*progress.bytesPerSecond(), 25.0 * MiB);
     progress.update(140 * MiB + 1023, now += 1000); // too little for a sample
-    EXPECT_EQ(progress.remainingSeconds().has_value(), true);
+    ASSERT_TRUE(progress.remainingSeconds());
     EXPECT_LT(*progress.remainingSeconds(), 86);
 }
 

@@ -35,7 +35,6 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "");
 
     ASSERT_TRUE(manager.use(German).ok());
-    EXPECT_EQ(manager.locale().lcid, German);
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Datei nicht gefunden & weg");
     EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "Weg");
     EXPECT_EQ(text(manager, "CMainWindow", "%n file(s)"), "%n Dateien");
@@ -49,7 +48,6 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
     EXPECT_EQ(text(manager, "CMainWindow", "Algorithm:"), "Algorithme : de ${app}!");
     EXPECT_EQ(text(manager, "CMainWindow", "a|b"), "barre");
-    EXPECT_EQ(text(manager, "CMainWindow", "File not found"), "");
 
     // What cannot be had leaves everything as it was.
     EXPECT_EQ(manager.use(7), err::library(err::UnknownLocale));
@@ -59,7 +57,6 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
 
     ASSERT_TRUE(manager.use(EnglishLcid).ok());
-    EXPECT_EQ(manager.locale().lcid, EnglishLcid);
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "");
 }
 

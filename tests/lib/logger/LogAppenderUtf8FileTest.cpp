@@ -49,7 +49,6 @@ TEST_F(LogAppenderUtf8FileTest, CreatesFolderAndFileForTheUserAlone)
                                         line("two\\nlines, \\xFF and \u65E5\u672C") + line("third"));
     EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
     EXPECT_EQ(fs::status(folder / "a").permissions(), fs::perms(0700));
-    EXPECT_EQ(fs::status(folder / "a/b").permissions(), fs::perms(0700));
 }
 
 TEST_F(LogAppenderUtf8FileTest, BoundsItsQueueAndDiscardsItAtTheStop)
@@ -124,9 +123,7 @@ TEST_F(LogAppenderUtf8FileTest, EveryLineOfFourThreadsAndTwoAppendersIsWhole)
     ASSERT_TRUE(eventually([&] { return test::readLines(path).size() == 4 * PerThread; }));
     std::map<char, int> next;
     for (const std::string& text : test::readLines(path)) {
-        const std::size_t at = line("").size() - 1;
-        ASSERT_GT(text.size(), at);
-        const char thread = text[at];
+        const char thread = text.at(line("").size() - 1);
         ASSERT_EQ(text + "\n", line(std::string{thread} + " " + std::to_string(next[thread]++) + tail));
     }
 }
