@@ -6,6 +6,7 @@
 #include "lib/settings/Product.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 
 #include <cstdio>
 #include <filesystem>
@@ -42,16 +43,18 @@ int main(int argc, char** argv)
     qint64 worst = 0;
     long memory = 0;
     QTimer heartbeat;
+    QEventLoop loop; // and not the harness's waiting, which naps between two looks
     QObject::connect(&heartbeat, &QTimer::timeout, [&] {
         worst = std::max(worst, clock.restart());
         memory = std::max(memory, residentMemory());
+        if (!w.isRunning())
+            loop.quit();
     });
     QTest::keyClick(w.window.get(), Qt::Key_F5);
     const long before = residentMemory();
     clock.start();
     heartbeat.start(1);
-    if (!w.waitForEnd())
-        return 1;
+    loop.exec();
     std::printf("%s. Longest gap of a 1 ms timer: %lld ms. Memory: %ld MiB before, %ld MiB at most.\n",
                 w.result().c_str(), static_cast<long long>(worst), before, memory);
     return 0;
