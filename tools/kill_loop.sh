@@ -2,7 +2,7 @@
 # kill_loop.sh QUILLET QUILLET_CLI [ROUNDS]: kills the program at random moments while it encrypts a file and
 # deletes it, as the settings say. After each, the input must be whole or the output must decrypt.
 set -euo pipefail
-[ -n "${QUILLET_INSIDE_X:-}" ] || QUILLET_INSIDE_X=1 exec xvfb-run -a "$0" "$@"
+[ -n "${QUILLET_INSIDE_X:-}" ] || QUILLET_INSIDE_X=1 exec xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$0" "$@"
 
 quillet=$1 cli=$2 rounds=${3:-20}
 home=$(mktemp -d)

@@ -2,7 +2,8 @@
 # end_to_end.sh QUILLET: runs the program on an X server of its own, types the password, and compares the
 # file after the way back. Afterwards no secret may be found in settings, log or temporary files.
 set -euo pipefail
-[ -n "${QUILLET_INSIDE_X:-}" ] || QUILLET_INSIDE_X=1 exec xvfb-run -a "$0" "$@"
+# Without -noreset the server starts anew between two programs, and refuses whoever comes just then.
+[ -n "${QUILLET_INSIDE_X:-}" ] || QUILLET_INSIDE_X=1 exec xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$0" "$@"
 
 quillet=$1
 secret='Tr0ub4dor-and-3'
@@ -18,7 +19,7 @@ mkdir -p "$XDG_CONFIG_HOME/Tessaly"
 printf '[General]\nUseLogFile=true\nLogLevel=6\n' >"$XDG_CONFIG_HOME/Tessaly/Quillet.conf"
 pid=
 
-fail() { echo "$1" >&2; exit 1; }
+fail() { echo "$1" >&2; cat "$home/stderr" >&2; exit 1; }
 
 # wait_until COMMAND...: at most 30 seconds
 wait_until() {
