@@ -21,11 +21,12 @@ struct Case
     std::optional<KeepReason> kept;
 };
 
-/// Puts a copy in the file's place.
+/// Puts a copy of the same time in the file's place.
 void replace(const std::string& path)
 {
     fs::rename(path, path + ".old");
     fs::copy(path + ".old", path);
+    fs::last_write_time(path, fs::last_write_time(path + ".old"));
 }
 
 const Case Cases[] = {

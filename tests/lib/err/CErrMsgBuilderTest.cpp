@@ -34,7 +34,6 @@ TEST(CErrMsgBuilder, TakesTheFirstTextAndTheLastCode)
         {"It failed.", none, {5, 2}, {7, 3}, "text 3 (error: 7/3)"},
         {"It failed.", {7, 1}, {5, 2}, none, "text 1 (error: 5/2)"},
         {" ", {5, 0}, none, none, "(error: 5/0)"},
-        {"It failed.", {4294967295, 4294967295}, none, none, "It failed. (error: 4294967295/4294967295)"},
     };
     const Texts texts;
     const tessaly::err::internal::CErrMsgBuilder<char> builder(texts);

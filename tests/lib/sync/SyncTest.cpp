@@ -1,4 +1,5 @@
 #include "lib/sync/Locker.h"
+#include "lib/sync/SafeData.h"
 #include "lib/sync/Signal.h"
 
 #include <gtest/gtest.h>
@@ -24,6 +25,23 @@ TEST(Locker, IsRecursiveAndExclusive)
     bool taken = true;
     std::thread([&] { taken = locker.tryLock(); }).join();
     EXPECT_FALSE(taken);
+}
+
+TEST(SafeData, CountsEveryIncrementOfTwoThreads)
+{
+    tessaly::sync::internal::SafeData<Locker, int> counter(0);
+    const auto countTo1000 = [&] {
+        for (int n = 0; n < 1000; ++n)
+            counter.with([](int& value) {
+                const int before = value;
+                std::this_thread::yield();
+                value = before + 1;
+            });
+    };
+    std::thread other(countTo1000);
+    countTo1000();
+    other.join();
+    EXPECT_EQ(counter.get(), 2000);
 }
 
 TEST(Signal, StaysSetUntilReset)
