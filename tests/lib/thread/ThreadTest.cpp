@@ -76,6 +76,19 @@ TEST(Thread, OneJobFromStartToResultAndAgain)
     EXPECT_EQ(job.lastParam, 0U);
 }
 
+TEST(Thread, StartsAndEndsManyTimes)
+{
+    Job job;
+    ASSERT_TRUE(job.go.set().ok());
+    Thread thread;
+    thread.setRunnable(&job);
+    for (std::uintptr_t round = 1; round <= 5000; ++round) {
+        ASSERT_TRUE(thread.start(round).ok());
+        ASSERT_EQ(thread.wait(), WaitStatus::Finished);
+        ASSERT_EQ(job.lastParam, round);
+    }
+}
+
 TEST(Thread, ConcurrentStartsLaunchOneJob)
 {
     for (int round = 0; round < 500; ++round) {
