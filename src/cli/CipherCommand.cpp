@@ -58,9 +58,11 @@ ExitCode report(const FileJobRequest& request, const FileJobOutcome& outcome, co
 {
     if (outcome.done())
         return Done;
-    crypto::removeOutput(request, outcome);
+    const bool created = outcome.output.kind != platform::FileKind::Missing;
+    if (created && !crypto::removeOutput(request, outcome))
+        complain("could not remove the partial output: " + platform::nativePath(request.output));
     if (outcome.cancelled) {
-        complain("interrupted; no output was left");
+        complain("interrupted");
         return Interrupted;
     }
     const std::string sentence =
@@ -93,8 +95,9 @@ ExitCode runWith(const FileJobRequest& request, const Arguments& arguments)
         complain(errorLine("Failed to prepare the engine.", made));
         return Failed;
     }
-    // The old output goes away only now, when nothing but the work itself can still fail.
-    if (io::checkOutput(request.input, request.output) == io::OutputCheck::Exists) {
+    // The old output goes away only now, when nothing but the work itself can still fail. Without
+    // --force none was there; one that has come to be since then stays, and the creation fails.
+    if (arguments.force && io::checkOutput(request.input, request.output) == io::OutputCheck::Exists) {
         if (const ResultCode removed = platform::removeFile(request.output); !removed.ok()) {
             complain(errorLine("Failed to replace the output.", removed));
             return Failed;

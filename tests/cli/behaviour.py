@@ -157,7 +157,7 @@ class Behaviour(unittest.TestCase):
             while not shown.endswith(prompt):
                 shown += os.read(terminal, 1024)
             time.sleep(0.05)  # the echo goes off just after the prompt
-            os.write(terminal, answer)
+            os.write(terminal, answer() if callable(answer) else answer)
         try:
             while piece := os.read(terminal, 1024):
                 shown += piece
@@ -179,6 +179,17 @@ class Behaviour(unittest.TestCase):
         self.assertEqual(code, 1)
         shown, code = self.on_terminal(["encrypt", "--force", "plain"], [(b"Password: ", b"\x03")])
         self.assertEqual(code, 130, shown)
+
+    def test_output_that_appears_during_the_question_stays(self):
+        self.encrypt("plain")
+
+        def answer():
+            self.write("plain.dec", "precious")
+            return PASSWORD.encode() + b"\n"
+
+        shown, code = self.on_terminal(["decrypt", "plain.enc"], [(b"Password: ", answer)])
+        self.assertIn("File exists", shown)
+        self.assertEqual((code, self.read("plain.dec")), (1, b"precious"))
 
     def test_interrupt_leaves_nothing(self):
         with open("large", "wb") as file:
