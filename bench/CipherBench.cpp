@@ -1,4 +1,4 @@
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CDecryptorFactory.h"
 #include "crypto/cryptopp/CEncryptorFactory.h"
 

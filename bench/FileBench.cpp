@@ -1,7 +1,7 @@
-#include "crypto/Catalogue.h"
-#include "crypto/FileJob.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CDecryptorFactory.h"
 #include "crypto/cryptopp/CEncryptorFactory.h"
+#include "crypto/job/FileJob.h"
 
 #include <benchmark/benchmark.h>
 

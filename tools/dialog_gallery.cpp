@@ -1,5 +1,5 @@
 // Saves a picture of every dialog: dialog_gallery FOLDER [dark]. QT_SCALE_FACTOR=2 doubles the scale.
-#include "lib/settings/SAppOptions.h"
+#include "common/settings/SAppOptions.h"
 #include "ui/algorithms/CAlgInfoDialog.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
 #include "ui/algorithms/CSelectAlgFrame.h"

@@ -1,5 +1,5 @@
 // Prints the locale catalogue: LCID, tag and display name, separated by tabs.
-#include "lib/i18n/LocaleCatalogue.h"
+#include "lib/i18n/locale/LocaleCatalogue.h"
 
 #include <iostream>
 

@@ -2,8 +2,8 @@
 // QT_SCALE_FACTOR=2 doubles the scale.
 #include "window/WindowHarness.h"
 
-#include "lib/settings/CAppSettings.h"
-#include "lib/settings/Product.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/Product.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 
 #include <QDir>

@@ -2,8 +2,8 @@
 // and how much memory the job took: window_latency [SIZE].
 #include "window/WindowHarness.h"
 
-#include "lib/settings/CAppSettings.h"
-#include "lib/settings/Product.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/Product.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

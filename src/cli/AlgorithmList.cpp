@@ -1,6 +1,6 @@
 #include "cli/AlgorithmList.h"
 
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 
 #include <cstddef>
 

@@ -4,7 +4,7 @@
 #include "cli/Message.h"
 #include "cli/ProgressLine.h"
 #include "cli/Secrets.h"
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CDecryptorFactory.h"
 #include "crypto/cryptopp/CEncryptorFactory.h"
 #include "io/PathCheck.h"

@@ -1,6 +1,6 @@
 #include "cli/CommandLine.h"
 
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,6 +1,6 @@
 #include "cli/DefaultOutput.h"
 
-#include "lib/naming/OutputNaming.h"
+#include "common/naming/OutputNaming.h"
 
 #include <filesystem>
 

@@ -1,7 +1,7 @@
 #include "cli/Message.h"
 
+#include "common/errors/ErrorTexts.h"
 #include "lib/err/CErrMsgBuilder.h"
-#include "lib/err/ErrorTexts.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -18,7 +18,7 @@ void complain(const std::string& message)
 
 std::string errorLine(const std::string& sentence, const tessaly::crypto::CryptoResult& result)
 {
-    const tessaly::err::ErrorTexts texts;
+    const thisapp::ErrorTexts texts;
     return tessaly::err::internal::CErrMsgBuilder<char>(texts).build(sentence, result.first(),
                                                                      result.second());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/FileJob.h"
+#include "crypto/job/FileJob.h"
 
 #include <chrono>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "cli/Secrets.h"
 
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
 

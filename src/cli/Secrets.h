@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/CommandLine.h"
-#include "crypto/FileJob.h"
+#include "crypto/job/FileJob.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#include "lib/settings/CAppSettings.h"
-#include "lib/settings/Product.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/Product.h"
 #include "support/TempFolder.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "crypto/AlgInfo.h"
 #include "crypto/Engine.h"
+#include "crypto/catalogue/AlgInfo.h"
 #include "support/DataRows.h"
 
 #include <gtest/gtest.h>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "crypto/Catalogue.h"
-#include "crypto/CipherRun.h"
-#include "crypto/FileHeader.h"
 #include "crypto/MemoryStreams.h"
+#include "crypto/catalogue/Catalogue.h"
+#include "crypto/cipher/CipherRun.h"
 #include "crypto/cryptopp/CDecryptorFactory.h"
 #include "crypto/cryptopp/CEncryptorFactory.h"
+#include "crypto/format/FileHeader.h"
 #include "lib/secret/Hex.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "crypto/FileHeader.h"
+#include "crypto/format/FileHeader.h"
 #include "crypto/Engine.h"
 #include "support/DataRows.h"
 

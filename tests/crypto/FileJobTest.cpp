@@ -1,4 +1,4 @@
-#include "crypto/FileJob.h"
+#include "crypto/job/FileJob.h"
 #include "crypto/Engine.h"
 #include "lib/platform/Path.h"
 #include "support/TempFolder.h"

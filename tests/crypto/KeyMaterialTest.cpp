@@ -1,4 +1,4 @@
-#include "crypto/KeyMaterial.h"
+#include "crypto/key/KeyMaterial.h"
 #include "crypto/Engine.h"
 #include "support/DataRows.h"
 

@@ -1,6 +1,6 @@
-#include "crypto/AlgInfo.h"
 #include "crypto/Engine.h"
-#include "crypto/KeyMaterial.h"
+#include "crypto/catalogue/AlgInfo.h"
+#include "crypto/key/KeyMaterial.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails on an include against the layer order app > ui > crypto > io > lib (cli stands beside app),
+# Fails on an include against the layer order app > ui > common > crypto > io > lib (cli stands beside app, over common),
 # on a Crypto++ header outside crypto/cryptopp, and on Qt below ui where it is not allowed.
 set -u
 cd "$1/src" || exit 2
@@ -7,7 +7,9 @@ failed=0
 complain() { printf '%s\n' "$2" | sed "s|^|$1: |"; failed=1; }
 
 rank() {
-  case $1 in lib) echo 0 ;; io) echo 1 ;; crypto) echo 2 ;; ui) echo 3 ;; app | cli) echo 4 ;; *) echo -1 ;; esac
+  case $1 in
+    lib) echo 0 ;; io) echo 1 ;; crypto) echo 2 ;; common) echo 3 ;; ui) echo 4 ;; app | cli) echo 5 ;; *) echo -1 ;;
+  esac
 }
 
 while IFS=: read -r file line text; do
@@ -15,7 +17,8 @@ while IFS=: read -r file line text; do
   to=$(sed -E 's|.*"([a-z]+)/.*|\1|' <<<"$text")
   to_rank=$(rank "$to")
   [ "$to_rank" -ge 0 ] || continue
-  if [ "$to_rank" -gt "$(rank "$from")" ] || { [ "$to" != "$from" ] && [ "$to_rank" = 4 ]; }; then
+  if [ "$to_rank" -gt "$(rank "$from")" ] || { [ "$to" != "$from" ] && [ "$to_rank" = 5 ]; } ||
+    [ "$from-$to" = cli-ui ]; then
     complain "against the layer order" "$file:$line:$text"
   fi
 done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include[[:space:]]+"[a-z]+/' --include='*.h' --include='*.cpp' . | sed 's|^\./||')
@@ -23,8 +26,7 @@ done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include[[:space:]]+"[a-z]+/' --inc
 hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+[<"](cryptopp|crypto\+\+)/' . | grep -v '^\./crypto/cryptopp/')
 [ -z "$hits" ] || complain "Crypto++ outside crypto/cryptopp" "$hits"
 
-hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+<Q[A-Za-z]+' lib io crypto cli |
-  grep -vE '^lib/(i18n|settings|naming)/')
+hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+<Q[A-Za-z]+' lib io crypto cli | grep -v '^lib/i18n/')
 [ -z "$hits" ] || complain "Qt below ui" "$hits"
 
 hits=$(grep -rnE '^[[:space:]]*#[[:space:]]*(if|ifdef|ifndef|elif)\b.*(_WIN32|__linux__|__unix__|Q_OS_)' .)

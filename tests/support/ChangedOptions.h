@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/settings/SAppOptions.h"
+#include "common/settings/SAppOptions.h"
 
 #include <type_traits>
 
@@ -20,7 +20,7 @@ inline thisapp::SAppOptions changedOptions()
             value = 5;
     };
 #define SETTING(Type, Key, member, fallback) change(options.member);
-#include "lib/settings/SettingsKeys.def"
+#include "common/settings/SettingsKeys.def"
     options.localeId = 1031;
     options.setDefaultAlgorithm({1, 3});
     options.useDefaultAlgorithmAtStarting = true;

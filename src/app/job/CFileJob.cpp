@@ -1,7 +1,7 @@
 #include "app/job/CFileJob.h"
 
 #include "app/job/CMsgDispatcher.h"
-#include "app/job/ErrorText.h"
+#include "common/errors/ErrorText.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/platform/File.h"
 #include "lib/platform/Path.h"

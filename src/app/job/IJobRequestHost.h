@@ -2,8 +2,8 @@
 
 #include "app/job/Operation.h"
 #include "app/job/SEncryptData.h"
+#include "common/settings/AlgSelection.h"
 #include "lib/secret/Secret.h"
-#include "lib/settings/AlgSelection.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "app/job/InputRemoval.h"
 
 #include "app/job/SEncryptData.h"
-#include "crypto/AlgInfo.h"
-#include "crypto/FileHeader.h"
+#include "crypto/catalogue/AlgInfo.h"
+#include "crypto/format/FileHeader.h"
 #include "lib/platform/File.h"
 #include "lib/platform/Path.h"
 

@@ -1,9 +1,9 @@
 #include "app/job/JobReport.h"
 
-#include "app/job/ErrorText.h"
 #include "app/job/InputRemoval.h"
 #include "app/job/Message.h"
 #include "app/job/SEncryptData.h"
+#include "common/errors/ErrorText.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/logger/Log.h"
 

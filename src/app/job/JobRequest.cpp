@@ -1,10 +1,10 @@
 #include "app/job/JobRequest.h"
 
-#include "app/job/PathText.h"
-#include "crypto/AlgInfo.h"
+#include "common/path/PathText.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/SettingsKeys.h"
+#include "crypto/catalogue/AlgInfo.h"
 #include "io/PathCheck.h"
-#include "lib/settings/CAppSettings.h"
-#include "lib/settings/SettingsKeys.h"
 
 #include <QDir>
 

@@ -3,7 +3,7 @@
 #include "app/job/IJobRequestHost.h"
 #include "app/job/Message.h"
 #include "app/job/SEncryptData.h"
-#include "crypto/IAlgInfo.h"
+#include "crypto/catalogue/IAlgInfo.h"
 
 #include <QCoreApplication>
 #include <QString>

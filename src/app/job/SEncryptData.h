@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/job/Operation.h"
+#include "common/settings/AlgSelection.h"
 #include "crypto/CryptoResult.h"
 #include "lib/platform/File.h"
 #include "lib/secret/Secret.h"
-#include "lib/settings/AlgSelection.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 
 #include "app/job/Message.h"
 #include "app/widgets/CDragDropFrame.h"
-#include "lib/settings/AlgSelection.h"
+#include "common/settings/AlgSelection.h"
 
 #include <QString>
 

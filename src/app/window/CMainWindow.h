@@ -6,7 +6,7 @@
 #include "app/window/Actions.h"
 #include "app/window/JobDisplay.h"
 #include "app/window/OptionsHandler.h"
-#include "lib/settings/IAppOptionsChanged.h"
+#include "common/settings/IAppOptionsChanged.h"
 
 #include <QMainWindow>
 #include <QStringList>

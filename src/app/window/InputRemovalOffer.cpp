@@ -2,12 +2,12 @@
 
 #include "app/job/InputRemoval.h"
 #include "app/job/JobReport.h"
-#include "app/job/PathText.h"
 #include "app/job/SEncryptData.h"
+#include "common/path/PathText.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/SettingsKeys.h"
 #include "lib/platform/File.h"
 #include "lib/platform/Path.h"
-#include "lib/settings/CAppSettings.h"
-#include "lib/settings/SettingsKeys.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>

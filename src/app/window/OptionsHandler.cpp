@@ -1,12 +1,12 @@
 #include "app/window/OptionsHandler.h"
 
 #include "app/i18n/MyTranslator.h"
-#include "app/job/PathText.h"
-#include "crypto/Catalogue.h"
+#include "common/path/PathText.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/OptionsStore.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/logger/FileLogging.h"
-#include "lib/settings/CAppSettings.h"
-#include "lib/settings/OptionsStore.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
 #include <QCoreApplication>

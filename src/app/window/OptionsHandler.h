@@ -1,8 +1,8 @@
 #pragma once
 
-#include "lib/i18n/Language.h"
-#include "lib/settings/AlgSelection.h"
-#include "lib/settings/SAppOptions.h"
+#include "common/settings/AlgSelection.h"
+#include "common/settings/SAppOptions.h"
+#include "lib/i18n/locale/Language.h"
 
 #include <QString>
 

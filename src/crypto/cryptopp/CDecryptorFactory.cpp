@@ -1,6 +1,6 @@
 #include "crypto/cryptopp/CDecryptorFactory.h"
 
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CSymmetricDecryptor.h"
 #include "crypto/cryptopp/CSymmetricEngine.h"
 #include "crypto/cryptopp/Ciphers.h"
@@ -28,7 +28,7 @@ std::unique_ptr<crypto::ISymmetricDecryptor> makeById(std::uint32_t algorithmId)
 #define STREAM_CIPHER(id, name, cipher, key, iv)                                                             \
     case id:                                                                                                 \
         return make<cipher::Decryption, id, key, iv, 0>();
-#include "crypto/algorithms.def"
+#include "crypto/catalogue/algorithms.def"
     default:
         return nullptr;
     }

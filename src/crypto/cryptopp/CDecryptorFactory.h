@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/IDecryptorFactory.h"
+#include "crypto/cipher/IDecryptorFactory.h"
 
 namespace tessaly::cryptopp {
 

@@ -1,6 +1,6 @@
 #include "crypto/cryptopp/CEncryptorFactory.h"
 
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CSymmetricEncryptor.h"
 #include "crypto/cryptopp/CSymmetricEngine.h"
 #include "crypto/cryptopp/Ciphers.h"
@@ -24,7 +24,7 @@ std::unique_ptr<crypto::ISymmetricEncryptor> make()
     static_assert(cipher::BLOCKSIZE == (block) && cipher::StaticGetValidKeyLength(key) == (key), name);
 #define STREAM_CIPHER(id, name, cipher, key, iv)                                                             \
     static_assert(cipher::IV_LENGTH == (iv) && cipher::StaticGetValidKeyLength(key) == (key), name);
-#include "crypto/algorithms.def"
+#include "crypto/catalogue/algorithms.def"
 
 std::unique_ptr<crypto::ISymmetricEncryptor> makeById(std::uint32_t algorithmId)
 {
@@ -35,7 +35,7 @@ std::unique_ptr<crypto::ISymmetricEncryptor> makeById(std::uint32_t algorithmId)
 #define STREAM_CIPHER(id, name, cipher, key, iv)                                                             \
     case id:                                                                                                 \
         return make<cipher::Encryption, id, key, iv, 0>();
-#include "crypto/algorithms.def"
+#include "crypto/catalogue/algorithms.def"
     default:
         return nullptr;
     }

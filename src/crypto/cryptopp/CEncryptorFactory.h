@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/IEncryptorFactory.h"
+#include "crypto/cipher/IEncryptorFactory.h"
 
 namespace tessaly::cryptopp {
 

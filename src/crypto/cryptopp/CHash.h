@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/IHash.h"
+#include "crypto/key/IHash.h"
 
 namespace tessaly::cryptopp {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "crypto/IHashEngine.h"
 #include "crypto/cryptopp/Guard.h"
+#include "crypto/key/IHashEngine.h"
 
 #include <cryptopp/cryptlib.h>
 

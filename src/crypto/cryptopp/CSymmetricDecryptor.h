@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/SymmetricDecryptor.h"
+#include "crypto/cipher/SymmetricDecryptor.h"
 
 namespace tessaly::cryptopp {
 

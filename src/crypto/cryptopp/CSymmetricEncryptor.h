@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/SymmetricEncryptor.h"
+#include "crypto/cipher/SymmetricEncryptor.h"
 
 namespace tessaly::cryptopp {
 

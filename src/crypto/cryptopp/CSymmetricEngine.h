@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/ICipherEngine.h"
+#include "crypto/cipher/ICipherEngine.h"
 #include "crypto/cryptopp/Guard.h"
 
 namespace tessaly::cryptopp {

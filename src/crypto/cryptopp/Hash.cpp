@@ -1,4 +1,4 @@
-#include "crypto/Hash.h"
+#include "crypto/key/Hash.h"
 
 #include "crypto/cryptopp/CHash.h"
 #include "crypto/cryptopp/CHashEngine.h"

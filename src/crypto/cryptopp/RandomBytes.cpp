@@ -1,4 +1,4 @@
-#include "crypto/RandomBytes.h"
+#include "crypto/key/RandomBytes.h"
 
 #include "crypto/cryptopp/Guard.h"
 

@@ -2,9 +2,9 @@
 
 #include "lib/err/ResultCode.h"
 #include "lib/file/IVariablesSetter.h"
-#include "lib/i18n/ILocaleResLoader.h"
 #include "lib/i18n/IStrBundle.h"
 #include "lib/i18n/ItemNameCmp.h"
+#include "lib/i18n/resource/ILocaleResLoader.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 

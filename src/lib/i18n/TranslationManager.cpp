@@ -2,9 +2,9 @@
 
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/AsciiCase.h"
-#include "lib/i18n/LocaleCatalogue.h"
-#include "lib/i18n/LocaleResLoaderFactory.h"
-#include "lib/i18n/TranslationListLoaderFactory.h"
+#include "lib/i18n/list/TranslationListLoaderFactory.h"
+#include "lib/i18n/locale/LocaleCatalogue.h"
+#include "lib/i18n/resource/LocaleResLoaderFactory.h"
 #include "lib/platform/Path.h"
 
 #include <algorithm>

@@ -2,11 +2,11 @@
 
 #include "lib/err/ResultCode.h"
 #include "lib/file/IVariablesSetter.h"
-#include "lib/i18n/ILocaleProvider.h"
-#include "lib/i18n/ITranslationListLoader.h"
-#include "lib/i18n/ITranslationListProvider.h"
-#include "lib/i18n/Language.h"
 #include "lib/i18n/StrBundleTrMgr.h"
+#include "lib/i18n/list/ITranslationListLoader.h"
+#include "lib/i18n/list/ITranslationListProvider.h"
+#include "lib/i18n/locale/ILocaleProvider.h"
+#include "lib/i18n/locale/Language.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 

@@ -1,8 +1,8 @@
 #include "ui/algorithms/AlgInfoReport.h"
 
-#include "crypto/AlgInfo.h"
-#include "crypto/Catalogue.h"
-#include "crypto/Hash.h"
+#include "crypto/catalogue/AlgInfo.h"
+#include "crypto/catalogue/Catalogue.h"
+#include "crypto/key/Hash.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/IAlgInfo.h"
+#include "crypto/catalogue/IAlgInfo.h"
 
 #include <QString>
 

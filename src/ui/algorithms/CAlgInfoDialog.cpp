@@ -1,7 +1,7 @@
 #include "ui/algorithms/CAlgInfoDialog.h"
 
-#include "crypto/AlgInfo.h"
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/AlgInfo.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"

@@ -1,6 +1,6 @@
 #include "ui/algorithms/CCryptoAlgProvider.h"
 
-#include "crypto/Catalogue.h"
+#include "crypto/catalogue/Catalogue.h"
 
 namespace thisapp {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/settings/AlgSelection.h"
+#include "common/settings/AlgSelection.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 

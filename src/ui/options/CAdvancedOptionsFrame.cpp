@@ -1,7 +1,7 @@
 #include "ui/options/CAdvancedOptionsFrame.h"
 
+#include "common/settings/SAppOptions.h"
 #include "lib/logger/Level.h"
-#include "lib/settings/SAppOptions.h"
 #include "ui/style/PlainToolTip.h"
 #include "ui/style/ReadOnlyField.h"
 #include "ui_CAdvancedOptionsFrame.h"

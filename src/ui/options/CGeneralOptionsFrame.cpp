@@ -1,6 +1,6 @@
 #include "ui/options/CGeneralOptionsFrame.h"
 
-#include "lib/settings/SAppOptions.h"
+#include "common/settings/SAppOptions.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/shortcuts/Shortcuts.h"
 #include "ui_CGeneralOptionsFrame.h"

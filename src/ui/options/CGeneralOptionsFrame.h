@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/i18n/Language.h"
+#include "lib/i18n/locale/Language.h"
 
 #include <QFrame>
 

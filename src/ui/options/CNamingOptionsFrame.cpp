@@ -1,6 +1,6 @@
 #include "ui/options/CNamingOptionsFrame.h"
 
-#include "lib/naming/NamingSettings.h"
+#include "common/naming/NamingSettings.h"
 #include "ui/style/ReadOnlyField.h"
 #include "ui_CNamingOptionsFrame.h"
 

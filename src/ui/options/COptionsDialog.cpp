@@ -1,7 +1,7 @@
 #include "ui/options/COptionsDialog.h"
 
-#include "lib/naming/OutputNaming.h"
-#include "lib/settings/IAppOptionsChanged.h"
+#include "common/naming/OutputNaming.h"
+#include "common/settings/IAppOptionsChanged.h"
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/TextTail.h"
 #include "ui/style/TextSize.h"

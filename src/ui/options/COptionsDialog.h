@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lib/i18n/Language.h"
-#include "lib/settings/SAppOptions.h"
+#include "common/settings/SAppOptions.h"
+#include "lib/i18n/locale/Language.h"
 
 #include <QDialog>
 

@@ -1,6 +1,6 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 
-#include "crypto/RandomBytes.h"
+#include "crypto/key/RandomBytes.h"
 #include "io/PrivateFile.h"
 #include "lib/secret/Hex.h"
 #include "ui/password/HexCheck.h"

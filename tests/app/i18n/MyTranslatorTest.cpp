@@ -1,6 +1,6 @@
 #include "app/i18n/MyTranslator.h"
 
-#include "app/errors/CErrMsg.h"
+#include "common/errors/CErrMsg.h"
 #include "lib/i18n/TranslationManager.h"
 #include "support/TempFolder.h"
 

@@ -1,6 +1,6 @@
 #include "app/job/JobRequest.h"
-#include "app/job/PathText.h"
-#include "lib/settings/CAppSettings.h"
+#include "common/path/PathText.h"
+#include "common/settings/CAppSettings.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>

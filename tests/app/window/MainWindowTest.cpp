@@ -1,6 +1,6 @@
 #include "window/WindowHarness.h"
 
-#include "lib/settings/CAppSettings.h"
+#include "common/settings/CAppSettings.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 
 #include <QCheckBox>

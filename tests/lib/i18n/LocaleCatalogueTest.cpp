@@ -1,4 +1,4 @@
-#include "lib/i18n/LocaleCatalogue.h"
+#include "lib/i18n/locale/LocaleCatalogue.h"
 
 #include <gtest/gtest.h>
 

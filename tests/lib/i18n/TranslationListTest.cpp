@@ -1,7 +1,7 @@
 #include "lib/err/ErrorCodes.h"
-#include "lib/i18n/LocaleResLoaderTrFile.h"
 #include "lib/i18n/StrBundleTrMgr.h"
-#include "lib/i18n/TranslationListLoaderXml.h"
+#include "lib/i18n/list/TranslationListLoaderXml.h"
+#include "lib/i18n/resource/LocaleResLoaderTrFile.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "lib/i18n/TranslationManager.h"
 #include "lib/err/ErrorCodes.h"
-#include "lib/i18n/LocaleCatalogue.h"
+#include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/platform/Path.h"
 #include "support/AppVariable.h"
 #include "support/TempFolder.h"

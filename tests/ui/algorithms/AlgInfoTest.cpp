@@ -1,4 +1,4 @@
-#include "crypto/AlgInfo.h"
+#include "crypto/catalogue/AlgInfo.h"
 #include "ui/Widgets.h"
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/CAlgInfoDialog.h"

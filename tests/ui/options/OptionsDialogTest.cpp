@@ -1,6 +1,6 @@
 #include "ui/options/COptionsDialog.h"
 
-#include "lib/settings/IAppOptionsChanged.h"
+#include "common/settings/IAppOptionsChanged.h"
 #include "support/ChangedOptions.h"
 #include "ui/FakeAlgProvider.h"
 #include "ui/Widgets.h"

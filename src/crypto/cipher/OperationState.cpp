@@ -1,0 +1,49 @@
+#include "crypto/cipher/OperationState.h"
+
+#include <mutex>
+
+namespace tessaly::crypto {
+
+bool OperationState::begin()
+{
+    std::lock_guard guard(m_lock);
+    if (m_busy)
+        return false;
+    m_busy = true;
+    m_stopRequested = false;
+    m_lastResult = {};
+    return true;
+}
+
+void OperationState::end(const CryptoResult& result)
+{
+    std::lock_guard guard(m_lock);
+    m_lastResult = result;
+    m_busy = false;
+}
+
+void OperationState::requestStop()
+{
+    std::lock_guard guard(m_lock);
+    m_stopRequested = true;
+}
+
+bool OperationState::isStopRequested() const
+{
+    std::lock_guard guard(m_lock);
+    return m_stopRequested;
+}
+
+bool OperationState::isBusy() const
+{
+    std::lock_guard guard(m_lock);
+    return m_busy;
+}
+
+CryptoResult OperationState::lastResult() const
+{
+    std::lock_guard guard(m_lock);
+    return m_lastResult;
+}
+
+} // namespace tessaly::crypto

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "lib/err/ResultCode.h"
+#include "lib/i18n/list/ITranslationListProvider.h"
+
+#include <string>
+
+namespace tessaly::i18n {
+
+/// Loads a translation list, then provides its entries. Any thread may read them meanwhile.
+class ITranslationListLoader : public ITranslationListProvider
+{
+public:
+    /// Reads the list at path; a failure leaves the entries as they were.
+    virtual ResultCode load(const std::wstring& path) = 0;
+};
+
+} // namespace tessaly::i18n

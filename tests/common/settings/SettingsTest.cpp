@@ -1,0 +1,161 @@
+#include "common/naming/NamingSettings.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/OptionsStore.h"
+#include "common/settings/Product.h"
+#include "common/settings/SettingsKeys.h"
+#include "support/ChangedOptions.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace {
+
+using thisapp::AlgSelection;
+using thisapp::SAppOptions;
+namespace keys = thisapp::keys;
+
+const auto KnownAlgorithm = [](std::uint32_t id) { return id == 252 || id == 3; };
+
+/// A fresh user profile for each test.
+class Settings : public testing::Test
+{
+protected:
+    void SetUp() override { qputenv("XDG_CONFIG_HOME", profile.path().toLocal8Bit()); }
+    void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
+
+    QString file() const { return profile.filePath("Tessaly/Quillet.conf"); }
+    SAppOptions read() const { return thisapp::readOptions(CAppSettings(), KnownAlgorithm); }
+    static void set(const char* key, const QVariant& value) { CAppSettings().setValue(key, value); }
+
+    QTemporaryDir profile;
+};
+
+TEST_F(Settings, StoredAtTheUsersPlace)
+{
+    CAppSettings settings;
+    EXPECT_EQ(settings.fileName(), file());
+    EXPECT_EQ(settings.productId(), tessaly::QuilletProductId);
+    EXPECT_NE(tessaly::AppSettings(77).fileName(), file());
+
+    qputenv("XDG_CONFIG_HOME", "relative");
+    EXPECT_EQ(CAppSettings().fileName(), QDir::home().filePath(".config/Tessaly/Quillet.conf"));
+}
+
+TEST_F(Settings, EveryValueSurvivesWritingAndReading)
+{
+    const SAppOptions options = test::changedOptions();
+    {
+        CAppSettings settings;
+        EXPECT_TRUE(thisapp::writeOptions(settings, options));
+        thisapp::writeDefaultAlgorithm(settings, options.defaultAlgorithm());
+        thisapp::writeLocaleId(settings, options.localeId);
+    }
+    EXPECT_EQ(read(), options);
+
+    const thisapp::NamingSettings naming = thisapp::readNamingSettings(CAppSettings());
+    EXPECT_EQ(naming.encryption.suffix, options.encFileNameSuffix);
+    SAppOptions other = options;
+    thisapp::NamingSettings().store(other);
+    EXPECT_NE(other, options);
+    naming.store(other);
+    EXPECT_EQ(other, options);
+}
+
+TEST_F(Settings, DefaultsInTheOrderOfWriting)
+{
+    std::string values;
+    for (const auto& [name, value] : thisapp::writtenValues(read()))
+        values += std::string(name.data()) + '=' + value.toString().toStdString() + ' ';
+    EXPECT_EQ(values,
+              "IntegrateToShellContextMenu=true AddToSendMenu=true UseDefaultAlgorithmAtStarting=true "
+              "LogLevel=0 UseLogFile=false UseSalt=false RewriteOutputFile=false "
+              "ShowAdvancedPasswordOptions=true ShowPassword=false ShowConfirmDialog=true "
+              "UseConfirmPassword=true UseOutputFileAutogenerator=true OutputDirPath= "
+              "UseDefaultOutputDir=false DeleteSourceFileAfterEncryption=false "
+              "ConfirmDeleteSourceFileAfterEncryption=true EncFileNameAddExt=true "
+              "EncFileNameAddSuffix=false EncFileNameAddPrefix=false EncFileNameAddDate=false "
+              "EncFileNameExt=enc EncFileNameSuffix= EncFileNamePrefix= DecFileNameAddExt=true "
+              "DecFileNameAddSuffix=false DecFileNameAddPrefix=false DecFileNameAddDate=false "
+              "DecFileNameExt=dec DecFileNameSuffix= DecFileNamePrefix= ");
+    EXPECT_FALSE(QFile::exists(file())) << "reading writes nothing";
+}
+
+TEST_F(Settings, WritingWithoutChangesStoresAllButLocaleAndAlgorithm)
+{
+    CAppSettings settings;
+    EXPECT_FALSE(thisapp::writeOptions(settings, read())) << "no change of the desktop integration";
+    EXPECT_EQ(settings.allKeys().size(), 30);
+    for (const char* key : {"LocaleId", "DefaultCryptoLibrary", "DefaultCryptoAlgorithm"})
+        EXPECT_FALSE(settings.contains(key)) << key;
+
+    SAppOptions options;
+    options.addToSendMenu = false;
+    EXPECT_TRUE(thisapp::writeOptions(settings, options));
+    EXPECT_FALSE(thisapp::writeOptions(settings, options));
+    options.integrateToShellContextMenu = false;
+    EXPECT_TRUE(thisapp::writeOptions(settings, options));
+}
+
+/// Stores each value under every key of one type.
+template <typename T>
+void expectDefaultsFor(const std::vector<QVariant>& values)
+{
+    for (const QVariant& value : values) {
+        CAppSettings settings;
+#define SETTING(Type, Key, member, fallback)                                                                 \
+    if (std::is_same_v<Type, T>)                                                                             \
+        settings.setValue(keys::Key.name, value);
+#include "common/settings/SettingsKeys.def"
+        EXPECT_EQ(thisapp::readStoredOptions(settings), SAppOptions()) << value.toString().toStdString();
+    }
+}
+
+TEST_F(Settings, WrongTypesReadAsTheDefaults)
+{
+    const QStringList list{"a", "b"};
+    expectDefaultsFor<bool>({"banana", "", 2, "-1", QVariant(), list, QByteArray("\x80\x81")});
+    expectDefaultsFor<std::uint32_t>({"true", "1.5", "-1", "99999999999", "", true, QVariant(), list});
+    expectDefaultsFor<QString>({list, QVariant(), QVariantMap{{"a", 1}}});
+}
+
+TEST_F(Settings, IdsOutOfRange)
+{
+    for (const QVariant& id : {QVariant(0), QVariant(1034), QVariant(-1), QVariant("x")}) {
+        set("LocaleId", id);
+        EXPECT_EQ(thisapp::readLocaleId(CAppSettings()), 1033U);
+    }
+    for (const int level : {-1, 7, 100}) {
+        set("LogLevel", level);
+        EXPECT_EQ(read().logLevel, 0U);
+    }
+    set("LogLevel", 6);
+    EXPECT_EQ(read().logLevel, 6U);
+}
+
+TEST_F(Settings, DefaultAlgorithm)
+{
+    const auto stored = [] { return thisapp::readDefaultAlgorithm(CAppSettings(), KnownAlgorithm); };
+    EXPECT_EQ(stored(), (AlgSelection{1, 252}));
+    set("DefaultCryptoAlgorithm", 3);
+    for (const std::uint32_t library : {1U, 10U, 20U, 100U, 200U, 300U}) {
+        set("DefaultCryptoLibrary", library);
+        EXPECT_EQ(stored(), (AlgSelection{library, 3}));
+    }
+    set("DefaultCryptoLibrary", 2);
+    EXPECT_FALSE(stored());
+    EXPECT_EQ(read().defaultAlgorithm(), thisapp::DefaultAlgSelection);
+
+    set("DefaultCryptoLibrary", 1);
+    set("DefaultCryptoAlgorithm", 8);
+    EXPECT_FALSE(stored());
+
+    set("DefaultCryptoAlgorithm", 3);
+    for (const QVariant& off : {QVariant(false), QVariant("banana")}) {
+        set("UseDefaultAlgorithmAtStarting", off);
+        EXPECT_FALSE(stored());
+    }
+}
+
+} // namespace
