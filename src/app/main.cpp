@@ -10,9 +10,11 @@
 #include "common/settings/Product.h"
 #include "crypto/cryptopp/CDecryptorFactory.h"
 #include "crypto/cryptopp/CEncryptorFactory.h"
+#include "io/OutputFile.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/logger/FileLogging.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/Process.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
 
@@ -22,6 +24,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <exception>
 #include <span>
 #include <string_view>
 
@@ -29,6 +32,9 @@ using namespace tessaly;
 using namespace thisapp;
 
 namespace {
+
+/// How long the end of the program waits for a job that it has stopped.
+constexpr unsigned PatienceMs = 2000;
 
 constexpr char Usage[] = R"(Usage: quillet [FILE]
        quillet [-encrypt | -decrypt] [-start] [-ifile FILE] [-ofile FILE] [-algorithm NAME]
@@ -66,16 +72,16 @@ QStringList programArguments(std::span<char*> arguments)
 {
     QStringList texts;
     for (const char* argument : arguments)
-        texts += pathText(std::string(argument));
+        texts += pathText(argument);
     return texts;
 }
 
 /// Beside an installed program, or in the folder that the program was built in.
-std::wstring translationFolder()
+std::filesystem::path translationFolder()
 {
     const QDir programFolder(QCoreApplication::applicationDirPath());
     const QDir installed(programFolder.filePath(QStringLiteral("../share/quillet/translations")));
-    return widePath(installed.exists() ? installed.absolutePath()
+    return textPath(installed.exists() ? installed.absolutePath()
                                        : programFolder.filePath(QStringLiteral("translations")));
 }
 
@@ -96,23 +102,24 @@ void updateShell(bool contextMenu, bool sendTo)
     desktop::updateShellIntegration(QCoreApplication::applicationFilePath(), contextMenu, sendTo);
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+/// Everything from the application object to its end.
+int runApplication(int& argc, char** argv)
 {
-    if (answerOnTerminal({argv, static_cast<std::size_t>(argc)}))
-        return 0;
-    if (!desktop::isDisplayThere()) {
-        std::fputs("quillet: no display; quillet-cli does the same without one\n", stderr);
-        return 1;
-    }
-    platform::disableCoreDumps();
-    platform::ignoreWriteSignals();
-    prepareApplication();
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(applicationIcon());
+    // Ctrl-C in the terminal, a log-out or a request to terminate ends a job as closing the window does.
+    // Outlives the window and the wait for its worker, so that a second one cannot cut that short.
+    const platform::Interrupts interrupts([] {
+        QMetaObject::invokeMethod(
+            qApp,
+            [] {
+                QApplication::closeAllWindows();
+                QApplication::quit();
+            },
+            Qt::QueuedConnection);
+    });
 
-    i18n::TranslationManager translations(translationFolder(), QuilletName);
+    i18n::TranslationManager translations(platform::wideText(translationFolder()), QuilletName);
     MyTranslator translator(translations.bundle());
     logger::FileLogging logging(logger::FileLogging::defaultPath(),
                                 [](ResultCode error) { return errorText(error).toStdString(); });
@@ -134,10 +141,36 @@ int main(int argc, char* argv[])
         const SAppOptions stored = options.read();
         updateShell(stored.integrateToShellContextMenu, stored.addToSendMenu);
     });
-    // Ctrl-C in the terminal ends a job as closing the window does: nothing partial stays behind.
-    const platform::Interrupts interrupts([&] {
-        QMetaObject::invokeMethod(&window, "close", Qt::QueuedConnection);
-        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
-    });
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    if (!window.endJob(PatienceMs)) {
+        // The worker waits for a disk. What it has written has no name yet, and gets none.
+        io::OutputFile::removeHiddenNames();
+        platform::endProcess(exitCode);
+    }
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (answerOnTerminal({argv, static_cast<std::size_t>(argc)}))
+        return 0;
+    if (!desktop::isDisplayThere()) {
+        std::fputs("quillet: no display; quillet-cli does the same without one\n", stderr);
+        return 1;
+    }
+    platform::disableCoreDumps();
+    platform::ignoreWriteSignals();
+    // The last resort: neither memory nor a thread may be had. It needs neither itself.
+    try {
+        prepareApplication();
+        return runApplication(argc, argv);
+    } catch (const std::exception& exception) {
+        std::fprintf(stderr, "quillet: %s\n", exception.what());
+    } catch (...) {
+        std::fputs("quillet: unknown failure\n", stderr);
+    }
+    io::OutputFile::removeHiddenNames();
+    platform::endProcess(1);
 }

@@ -4,28 +4,45 @@
 #include "cli/Message.h"
 #include "cli/ProgressLine.h"
 #include "cli/Secrets.h"
+#include "common/errors/JobStepText.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CDecryptorFactory.h"
 #include "crypto/cryptopp/CEncryptorFactory.h"
 #include "io/PathCheck.h"
+#include "lib/platform/File.h"
 #include "lib/platform/Interrupts.h"
-#include "lib/platform/Path.h"
+#include "lib/sync/Locker.h"
+#include "lib/sync/SafeData.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace cli {
 
 using namespace tessaly;
 using crypto::CryptoResult;
+using crypto::ExistingOutput;
 using crypto::FileJobOutcome;
 using crypto::FileJobRequest;
 
 namespace {
 
-/// Empty when the paths can be used.
-std::string checkPaths(const FileJobRequest& request, const std::string& input, const std::string& output,
-                       bool force)
+/// What Ctrl-C stops: the engine at work, if there is one.
+using Stop = sync::internal::SafeData<sync::Locker, std::function<void()>>;
+
+std::string folderText(const std::filesystem::path& path)
 {
+    return path.has_parent_path() ? path.parent_path().string() : ".";
+}
+
+/// Empty when the paths can be used.
+std::string checkPaths(const FileJobRequest& request, bool force)
+{
+    const std::string input = request.input.string();
+    const std::string output = request.output.string();
     switch (io::checkInput(request.input)) {
     case io::InputCheck::NotFound:
         return "input not found: " + input;
@@ -39,11 +56,25 @@ std::string checkPaths(const FileJobRequest& request, const std::string& input, 
         return "output is the input itself: " + output + "; name another with --output";
     case io::OutputCheck::NotRegular:
         return "output is not a regular file: " + output;
+    case io::OutputCheck::NoFolder:
+        return "output folder not found: " + folderText(request.output);
     case io::OutputCheck::Exists:
         return force ? "" : "output exists: " + output + "; --force replaces it";
     case io::OutputCheck::Free:
         break;
     }
+    return {};
+}
+
+/// Empty unless the output would take the place of the secret that opens it.
+std::string checkSecretFiles(const FileJobRequest& request, const Arguments& arguments)
+{
+    const platform::FileStatus output = platform::fileStatus(request.output);
+    const std::pair<const std::optional<std::string>&, const char*> secrets[] = {
+        {arguments.passwordFile, "password"}, {arguments.keyFile, "key"}, {arguments.ivFile, "IV"}};
+    for (const auto& [file, what] : secrets)
+        if (file && output.sameFile(platform::fileStatus(*file)))
+            return "output is the " + std::string(what) + " file: " + request.output.string();
     return {};
 }
 
@@ -54,40 +85,31 @@ ExitCode exitCodeOf(const CryptoResult& result)
     return wrongOrDamaged ? WrongKeyOrDamaged : Failed;
 }
 
-ExitCode report(const FileJobRequest& request, const FileJobOutcome& outcome, const Arguments& arguments)
+/// What was being done to which file.
+std::string stepSentence(const FileJobRequest& request, const FileJobOutcome& outcome)
+{
+    std::string text = thisapp::failedStepText(outcome);
+    return text.replace(text.find("%1"), 2, thisapp::failedFile(outcome, request).string());
+}
+
+ExitCode report(const FileJobRequest& request, const FileJobOutcome& outcome, Command command)
 {
     if (outcome.done())
         return Done;
-    const bool created = outcome.output.kind != platform::FileKind::Missing;
-    if (created && !crypto::removeOutput(request, outcome))
-        complain("could not remove the partial output: " + platform::nativePath(request.output));
     if (outcome.cancelled) {
         complain("interrupted");
         return Interrupted;
     }
-    const std::string sentence =
-        arguments.command == Command::Encrypt ? "Failed to encrypt file." : "Failed to decrypt file.";
-    std::string line = errorLine(sentence, outcome.result);
+    std::string line = errorLine(
+        command == Command::Encrypt ? "Failed to encrypt file." : "Failed to decrypt file.", outcome.result);
     if (outcome.result == CryptoResult(err::CheckValueDiffers))
         line += ": wrong password, key, IV or algorithm, or not an encrypted file";
-    complain(line);
+    complain(line + ". " + stepSentence(request, outcome));
     return exitCodeOf(outcome.result);
 }
 
-template <class Cipher>
-ExitCode runJob(Cipher& cipher, const FileJobRequest& request, const Arguments& arguments)
-{
-    const platform::Interrupts interrupts([&cipher] { cipher.stop(); });
-    FileJobOutcome outcome;
-    {
-        ProgressLine progress;
-        outcome = crypto::runFileJob(cipher, request, progress);
-    }
-    return report(request, outcome, arguments);
-}
-
 template <class Factory, class Cipher>
-ExitCode runWith(const FileJobRequest& request, const Arguments& arguments)
+ExitCode runWith(FileJobRequest& request, const Arguments& arguments, Stop& stop)
 {
     std::unique_ptr<Cipher> cipher;
     const CryptoResult made = Factory().create(crypto::CryptoPPLibraryId, arguments.algorithmId, &cipher);
@@ -95,56 +117,64 @@ ExitCode runWith(const FileJobRequest& request, const Arguments& arguments)
         complain(errorLine("Failed to prepare the engine.", made));
         return Failed;
     }
-    // The old output goes away only now, when nothing but the work itself can still fail. Without
-    // --force none was there; one that has come to be since then stays, and the creation fails.
-    if (arguments.force && io::checkOutput(request.input, request.output) == io::OutputCheck::Exists) {
-        if (const ResultCode removed = platform::removeFile(request.output); !removed.ok()) {
-            complain(errorLine("Failed to replace the output.", removed));
-            return Failed;
-        }
+    stop.set([&cipher] { cipher->stop(); });
+    FileJobOutcome outcome;
+    {
+        ProgressLine progress;
+        outcome = crypto::runFileJob(*cipher, request, progress);
     }
-    return runJob(*cipher, request, arguments);
+    stop.set({});
+    return report(request, outcome, arguments.command);
 }
 
-SecretOutcome gatherInterruptibly(const Arguments& arguments, FileJobRequest& request, std::string& problem)
+/// Usage errors apart, everything that keeps the job from its start is told here.
+std::optional<ExitCode> prepare(FileJobRequest& request, const Arguments& arguments)
 {
-    const platform::Interrupts interrupts([] {});
-    const SecretOutcome outcome = gatherSecret(arguments, request, problem);
-    return platform::Interrupts::happened() ? SecretOutcome::Interrupted : outcome;
+    std::string problem = checkPaths(request, arguments.force);
+    if (problem.empty())
+        problem = checkSecretFiles(request, arguments);
+    if (!problem.empty()) {
+        complain(problem);
+        return Failed;
+    }
+    const SecretOutcome secret = gatherSecret(arguments, request, problem);
+    if (secret == SecretOutcome::Interrupted || platform::Interrupts::happened()) {
+        complain("interrupted");
+        return Interrupted;
+    }
+    if (secret == SecretOutcome::NotAsked) {
+        complain("no password: name --password-file, or --key-file and --iv-file, or run it on a terminal");
+        return Usage;
+    }
+    if (secret == SecretOutcome::Unusable) {
+        complain(problem);
+        return Failed;
+    }
+    return {};
 }
 
 } // namespace
 
 ExitCode runCipherCommand(const Arguments& arguments)
 {
-    const std::string output = arguments.output.value_or(defaultOutput(arguments.input, arguments.command));
     FileJobRequest request;
-    request.input = platform::widePath(arguments.input);
-    request.output = platform::widePath(output);
-    request.salt = arguments.salt;
-    if (const std::string problem = checkPaths(request, arguments.input, output, arguments.force);
-        !problem.empty()) {
-        complain(problem);
-        return Failed;
-    }
+    request.input = arguments.input;
+    request.output = arguments.output.value_or(defaultOutput(arguments.input, arguments.command));
+    request.useSalt = arguments.salt;
+    request.existing = arguments.force ? ExistingOutput::ReplaceAtEnd : ExistingOutput::Keep;
 
-    std::string problem;
-    switch (gatherInterruptibly(arguments, request, problem)) {
-    case SecretOutcome::Unusable:
-        complain(problem);
-        return Failed;
-    case SecretOutcome::NotAsked:
-        complain("no password: name --password-file, or --key-file and --iv-file, or run it on a terminal");
-        return Usage;
-    case SecretOutcome::Interrupted:
-        complain("interrupted");
-        return Interrupted;
-    case SecretOutcome::Ready:
-        break;
-    }
+    Stop stop;
+    const platform::Interrupts interrupts([&stop] {
+        stop.with([](const std::function<void()>& stopEngine) {
+            if (stopEngine)
+                stopEngine();
+        });
+    });
+    if (const std::optional<ExitCode> ended = prepare(request, arguments))
+        return *ended;
     return arguments.command == Command::Encrypt
-               ? runWith<cryptopp::CEncryptorFactory, crypto::ISymmetricEncryptor>(request, arguments)
-               : runWith<cryptopp::CDecryptorFactory, crypto::ISymmetricDecryptor>(request, arguments);
+               ? runWith<cryptopp::CEncryptorFactory, crypto::ISymmetricEncryptor>(request, arguments, stop)
+               : runWith<cryptopp::CDecryptorFactory, crypto::ISymmetricDecryptor>(request, arguments, stop);
 }
 
 } // namespace cli

@@ -6,6 +6,7 @@
 #include "lib/platform/Process.h"
 
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -18,13 +19,8 @@ cli::ExitCode print(const std::string& text)
     return written ? cli::Done : cli::Failed;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+cli::ExitCode run(int argc, char** argv)
 {
-    tessaly::platform::ignoreWriteSignals();
-    tessaly::platform::disableCoreDumps();
-
     const cli::ParseOutcome parsed = cli::parseCommandLine(argc, argv);
     if (!parsed.arguments) {
         if (!parsed.answer.empty())
@@ -35,4 +31,21 @@ int main(int argc, char** argv)
     if (parsed.arguments->command == cli::Command::Algorithms)
         return print(parsed.arguments->json ? cli::algorithmJson() : cli::algorithmTable());
     return cli::runCipherCommand(*parsed.arguments);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    tessaly::platform::ignoreWriteSignals();
+    tessaly::platform::disableCoreDumps();
+    // The last resort: neither memory nor a thread may be had. It needs neither itself.
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& exception) {
+        std::fprintf(stderr, "quillet-cli: %s\n", exception.what());
+    } catch (...) {
+        std::fputs("quillet-cli: unknown failure\n", stderr);
+    }
+    return cli::Failed;
 }

@@ -1,6 +1,7 @@
 #include "io/IStreamFile.h"
 
 #include "lib/err/ErrorCodes.h"
+#include "lib/platform/Path.h"
 
 #include <algorithm>
 #include <mutex>
@@ -10,14 +11,20 @@ namespace tessaly::io {
 
 namespace {
 
-/// Some file systems give the size 0 for files that do hold something. Taken at their word, such a
-/// file would count as empty, and its content as saved.
-bool hidesItsSize(const platform::File& file, const platform::FileStatus& status)
+/// What the system opened may be something else than what stood there when the path was looked at. Some
+/// file systems give the size 0 for files that do hold something: taken at their word, such a file would
+/// count as empty, and its content as saved.
+ResultCode examine(const platform::File& file, platform::FileStatus& status)
 {
+    if (const ResultCode result = file.status(status); !result.ok())
+        return result;
+    if (status.kind != platform::FileKind::Regular)
+        return err::library(err::OpenFileFailed);
     char byte = 0;
     std::size_t got = 0;
-    return status.kind == platform::FileKind::Regular && status.size == 0 && file.read(&byte, 1, got).ok() &&
-           got > 0;
+    if (status.size == 0 && file.read(&byte, 1, got).ok() && got > 0)
+        return err::library(err::GetFileSizeFailed);
+    return {};
 }
 
 } // namespace
@@ -27,21 +34,34 @@ ResultCode IStreamFile<Char>::open(const std::basic_string<Char>& path)
 {
     if (path.empty())
         return err::library(err::NullArgument);
+    if (isOpen())
+        return err::library(err::AlreadyOpen);
+    platform::File file;
+    if (const ResultCode result = file.openForReading(platform::pathFromWide(path)); !result.ok())
+        return result;
+    return open(std::move(file));
+}
+
+template <class Char>
+ResultCode IStreamFile<Char>::open(platform::File file)
+{
+    platform::FileStatus status;
+    if (const ResultCode result = examine(file, status); !result.ok())
+        return result;
     std::lock_guard guard(m_lock);
     if (m_file.isOpen())
         return err::library(err::AlreadyOpen);
-    platform::File file;
-    platform::FileStatus status;
-    if (const ResultCode result = file.openForReading(path); !result.ok())
-        return result;
-    if (const ResultCode result = file.status(status); !result.ok())
-        return result;
-    if (hidesItsSize(file, status))
-        return err::library(err::GetFileSizeFailed);
     m_file = std::move(file);
     m_status = status;
     m_position = 0;
     return {};
+}
+
+template <class Char>
+bool IStreamFile<Char>::isOpen() const
+{
+    std::lock_guard guard(m_lock);
+    return m_file.isOpen();
 }
 
 template <class Char>

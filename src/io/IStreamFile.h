@@ -8,14 +8,17 @@
 
 namespace tessaly::io {
 
-/// A file to read. Its lock guards every member; a system read runs outside it.
+/// A regular file to read. Its lock guards every member and is held only to copy; system calls run
+/// outside it.
 template <class Char>
 class IStreamFile final : public IStreamBytes
 {
 public:
-    /// (5, 5) for an empty path, (5, 7) when already open, (5, 43) when the system does not tell the
-    /// size of what the file holds, (1, system error) else.
+    /// (5, 5) for an empty path, (5, 7) when already open, (5, 42) for what is no regular file, (5, 43)
+    /// when the system does not tell the size of what the file holds, (1, system error) else.
     ResultCode open(const std::basic_string<Char>& path);
+    /// Reads a file that is open; errors as above.
+    ResultCode open(platform::File file);
 
     bool isAtStart() const override;
     bool isAtEnd() const override;
@@ -27,6 +30,7 @@ public:
     platform::FileStatus status() const;
 
 private:
+    bool isOpen() const;
     bool fail(ResultCode error);
 
     mutable sync::Locker m_lock;

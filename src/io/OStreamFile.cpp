@@ -1,6 +1,7 @@
 #include "io/OStreamFile.h"
 
 #include "lib/err/ErrorCodes.h"
+#include "lib/platform/Path.h"
 
 #include <mutex>
 #include <utility>
@@ -16,15 +17,35 @@ constexpr std::int64_t WritebackPiece = 8 << 20;
 } // namespace
 
 template <class Char>
-ResultCode OStreamFile<Char>::open(const std::basic_string<Char>& path, platform::Creation creation,
-                                   platform::Access access)
+ResultCode OStreamFile<Char>::open(const std::basic_string<Char>& path)
 {
     if (path.empty())
         return err::library(err::NullArgument);
+    if (isOpen())
+        return err::library(err::AlreadyOpen);
+    platform::File file;
+    if (const ResultCode result = file.openForWriting(platform::pathFromWide(path)); !result.ok())
+        return result;
+    return open(std::move(file));
+}
+
+template <class Char>
+ResultCode OStreamFile<Char>::open(platform::File file)
+{
     std::lock_guard guard(m_lock);
     if (m_file.isOpen())
         return err::library(err::AlreadyOpen);
-    return m_file.openForWriting(path, creation, access);
+    m_file = std::move(file);
+    m_lastError = {};
+    m_written = m_handedToDisk = 0;
+    return {};
+}
+
+template <class Char>
+bool OStreamFile<Char>::isOpen() const
+{
+    std::lock_guard guard(m_lock);
+    return m_file.isOpen();
 }
 
 template <class Char>
@@ -85,35 +106,20 @@ ResultCode OStreamFile<Char>::lastError() const
 }
 
 template <class Char>
-platform::FileStatus OStreamFile<Char>::status() const
+ResultCode OStreamFile<Char>::flush()
 {
-    std::lock_guard guard(m_lock);
-    platform::FileStatus status;
-    if (m_file.isOpen())
-        (void)m_file.status(status);
-    return status;
+    return isOpen() ? m_file.sync() : err::library(err::StreamClosed);
 }
 
 template <class Char>
-ResultCode OStreamFile<Char>::finish()
+ResultCode OStreamFile<Char>::close()
 {
     platform::File file;
     {
         std::lock_guard guard(m_lock);
-        file = std::move(m_file);
+        std::swap(file, m_file);
     }
-    if (!file.isOpen())
-        return err::library(err::StreamClosed);
-    const ResultCode synced = file.sync();
-    const ResultCode closed = file.close();
-    return synced.ok() ? closed : synced;
-}
-
-template <class Char>
-void OStreamFile<Char>::close()
-{
-    std::lock_guard guard(m_lock);
-    (void)m_file.close();
+    return file.close();
 }
 
 template class OStreamFile<wchar_t>;

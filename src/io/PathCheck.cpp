@@ -14,17 +14,22 @@ using platform::FileStatus;
 
 namespace {
 
-std::wstring normalized(const std::wstring& path)
+std::wstring normalized(const std::filesystem::path& path)
 {
     std::error_code error;
-    const std::filesystem::path native = platform::nativePath(path);
-    const auto absolute = std::filesystem::absolute(native, error);
-    return platform::widePath((error ? native : absolute).lexically_normal().string());
+    const auto absolute = std::filesystem::absolute(path, error);
+    return platform::wideText((error ? path : absolute).lexically_normal());
+}
+
+bool isInFolder(const std::filesystem::path& path)
+{
+    const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+    return platform::fileStatus(folder).kind == FileKind::Directory;
 }
 
 } // namespace
 
-InputCheck checkInput(const std::wstring& input)
+InputCheck checkInput(const std::filesystem::path& input)
 {
     switch (platform::fileStatus(input).kind) {
     case FileKind::Regular:
@@ -39,19 +44,19 @@ InputCheck checkInput(const std::wstring& input)
     return InputCheck::NotRegular;
 }
 
-OutputCheck checkOutput(const std::wstring& input, const std::wstring& output)
+OutputCheck checkOutput(const std::filesystem::path& input, const std::filesystem::path& output)
 {
     if (samePath(input, output))
         return OutputCheck::MatchesInput;
     const FileStatus there = platform::fileStatus(output);
-    if (there.kind == FileKind::Missing)
-        return OutputCheck::Free;
+    if (!there.exists())
+        return isInFolder(output) ? OutputCheck::Free : OutputCheck::NoFolder;
     if (there.sameFile(platform::fileStatus(input)))
         return OutputCheck::MatchesInput;
-    return there.kind == FileKind::Regular ? OutputCheck::Exists : OutputCheck::NotRegular;
+    return there.kind == FileKind::Regular && !there.isLink ? OutputCheck::Exists : OutputCheck::NotRegular;
 }
 
-bool samePath(const std::wstring& first, const std::wstring& second)
+bool samePath(const std::filesystem::path& first, const std::filesystem::path& second)
 {
     return std::ranges::equal(normalized(first), normalized(second), {}, platform::lowerCase,
                               platform::lowerCase);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <filesystem>
 
 namespace tessaly::io {
 
@@ -14,15 +14,16 @@ enum class OutputCheck {
     Free,
     Exists,       ///< a regular file
     MatchesInput, ///< by path, letter case ignored, or by symbolic or hard link
-    NotRegular,   ///< a directory, device, FIFO, socket or dangling link
+    NotRegular,   ///< a directory, device, FIFO, socket or symbolic link
+    NoFolder,     ///< the folder that it is to stand in is missing, or is none
 };
 
-InputCheck checkInput(const std::wstring& input);
+InputCheck checkInput(const std::filesystem::path& input);
 
 /// What stands where the output is to go. Never blocks and changes nothing.
-OutputCheck checkOutput(const std::wstring& input, const std::wstring& output);
+OutputCheck checkOutput(const std::filesystem::path& input, const std::filesystem::path& output);
 
 /// Absolute paths without "." and "..", compared without regard to letter case.
-bool samePath(const std::wstring& first, const std::wstring& second);
+bool samePath(const std::filesystem::path& first, const std::filesystem::path& second);
 
 } // namespace tessaly::io

@@ -1,44 +1,21 @@
 #include "io/PrivateFile.h"
 
-#include "io/OStreamNewFile.h"
-#include "lib/err/ErrorCodes.h"
-#include "lib/platform/Path.h"
-
-#include <filesystem>
-#include <random>
+#include "io/OutputFile.h"
 
 namespace tessaly::io {
 
-namespace {
-
-ResultCode writeNew(const std::wstring& path, std::string_view contents, bool& created)
+ResultCode writePrivateFile(const std::filesystem::path& path, std::string_view contents)
 {
-    OStreamNewFile file(path, platform::Access::Private);
+    const auto place = std::make_shared<FilePlace>();
+    if (const ResultCode opened = place->open(path); !opened.ok())
+        return opened;
+    OutputFile file;
+    if (const ResultCode opened = file.open(place, platform::Access::ownerOnly()); !opened.ok())
+        return opened;
     const auto count = static_cast<std::int64_t>(contents.size());
-    const bool written = file.write(contents.data(), count) == count;
-    created = file.isCreated();
-    return written ? file.finish() : file.lastError();
-}
-
-ResultCode replace(const std::wstring& from, const std::wstring& to)
-{
-    std::error_code error;
-    std::filesystem::rename(platform::nativePath(from), platform::nativePath(to), error);
-    return error ? err::system(error.value()) : platform::syncFolderOf(to);
-}
-
-} // namespace
-
-ResultCode writePrivateFile(const std::wstring& path, std::string_view contents)
-{
-    const std::wstring temporary = path + L"." + std::to_wstring(std::random_device{}());
-    bool created = false;
-    ResultCode result = writeNew(temporary, contents, created);
-    if (result.ok())
-        result = replace(temporary, path);
-    if (!result.ok() && created)
-        static_cast<void>(platform::removeFile(temporary));
-    return result;
+    if (file.write(contents.data(), count) < count)
+        return file.lastError();
+    return file.commit(OutputFile::Existing::Replace);
 }
 
 } // namespace tessaly::io

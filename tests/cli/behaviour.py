@@ -191,17 +191,48 @@ class Behaviour(unittest.TestCase):
         self.assertIn("File exists", shown)
         self.assertEqual((code, self.read("plain.dec")), (1, b"precious"))
 
+    def wait_until_busy(self, process):
+        """Until it has worked for a moment; the output has no name by which it could be seen."""
+        while process.poll() is None:
+            with open(f"/proc/{process.pid}/stat") as stat_file:
+                if int(stat_file.read().rpartition(")")[2].split()[11]) > 20:  # user time in 1/100 s
+                    return
+            time.sleep(0.01)
+        self.fail("it ended on its own")
+
     def test_interrupt_leaves_nothing(self):
         with open("large", "wb") as file:
             file.truncate(8 << 30)
-        for sent in (signal.SIGINT, signal.SIGTERM):
+        for sent, code in ((signal.SIGINT, 130), (signal.SIGTERM, 130), (signal.SIGKILL, -9)):
             running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large"], stderr=subprocess.PIPE)
-            while not os.path.exists("large.enc"):
-                time.sleep(0.01)
+            self.wait_until_busy(running)
             running.send_signal(sent)
-            self.assertEqual(running.wait(60), 130)
+            self.assertEqual(running.wait(60), code)
             running.stderr.close()
             self.assert_files("large")
+        nohup = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "plain"], stdin=subprocess.DEVNULL,
+                                 preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN))
+        nohup.send_signal(signal.SIGHUP)
+        self.assertEqual(nohup.wait(60), 0, "what was ignored stays ignored")
+
+    def test_force_keeps_the_former_output_until_the_new_one_is_whole(self):
+        self.encrypt("plain")
+        self.write("empty.enc", "short")
+        self.assertIn("folder not found: nowhere", self.encrypt("--output", "nowhere/out", "plain", code=1))
+        for name, arguments in {
+            "wrong password": ["decrypt", "--password-file", "wrong", "plain.enc"],
+            "no encrypted file": ["decrypt", "--password-file", "pw", "empty.enc"],
+            "hides its size": ["encrypt", "--password-file", "pw", "/proc/self/status"],
+            "output is the password file": ["encrypt", "--password-file", "out", "plain"],
+        }.items():
+            with self.subTest(name):
+                self.write("wrong", "incorrect horse")
+                self.write("out", "precious")
+                command, *rest = arguments
+                error = self.run_cli(command, "--force", "--output", "out", *rest,
+                                     code=3 if command == "decrypt" else 1)
+                self.assertEqual(self.read("out"), b"precious")
+                self.assertRegex(error, r"/proc/self/status|plain\.enc|empty\.enc|out", "the file is named")
 
 
 if __name__ == "__main__":

@@ -1,9 +1,12 @@
 #include "crypto/job/FileJob.h"
 #include "crypto/Engine.h"
-#include "lib/platform/Path.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <sys/stat.h>
 
 namespace {
 
@@ -18,6 +21,7 @@ public:
     std::string calls;
     std::int64_t total = -1;
     char cancelAfter = ' ';
+    std::function<void()> atFlush = [] {};
 
     void jobStarted(std::int64_t size) override
     {
@@ -25,7 +29,11 @@ public:
         total = size;
     }
     void jobProgress(std::int64_t, float) override {}
-    void jobFlushing() override { calls += 'w'; }
+    void jobFlushing() override
+    {
+        calls += 'w';
+        atFlush();
+    }
     bool isJobCancelled() override { return calls.back() == cancelAfter; }
 };
 
@@ -34,7 +42,6 @@ class FileJob : public testing::Test
 protected:
     void SetUp() override
     {
-        request.password = tessaly::SecretText("secret");
         folder.write("plain", content);
         ASSERT_TRUE(encrypt("plain", "encrypted").done());
         observer = {};
@@ -43,8 +50,9 @@ protected:
     template <class Cipher>
     FileJobOutcome run(Cipher& cipher, const char* input, const char* output)
     {
-        request.input = folder.wide(input);
-        request.output = folder.wide(output);
+        request.password = tessaly::SecretText(password);
+        request.input = folder.at(input);
+        request.output = folder.at(output);
         return runFileJob(*cipher, request, observer);
     }
     FileJobOutcome encrypt(const char* from, const char* to) { return run(ciphers.encryptor, from, to); }
@@ -53,6 +61,7 @@ protected:
     test::TempFolder folder;
     std::string content = std::string(100000, 'x') + "end";
     test::Job ciphers{"Threefish-512"};
+    const char* password = "secret";
     FileJobRequest request;
     Observer observer;
 };
@@ -61,31 +70,85 @@ TEST_F(FileJob, TellsWhatItReadAndMade)
 {
     const FileJobOutcome outcome = decrypt("encrypted", "plain2");
     EXPECT_TRUE(outcome.done());
+    EXPECT_FALSE(outcome.outputDeleted);
     EXPECT_EQ(observer.calls, "sw");
-    EXPECT_EQ(observer.total, fileStatus(folder.wide("encrypted")).size);
-    EXPECT_TRUE(outcome.input.sameFile(fileStatus(folder.wide("encrypted"))));
-    EXPECT_TRUE(outcome.output.sameFile(fileStatus(folder.wide("plain2"))));
+    EXPECT_EQ(observer.total, fileStatus(folder.at("encrypted")).size);
+    EXPECT_TRUE(outcome.input.place->names(outcome.input.status));
+    EXPECT_TRUE(outcome.output.place->names(outcome.output.status));
     EXPECT_EQ(test::readFile(folder / "plain2"), content);
     EXPECT_EQ(fs::status(folder / "plain2").permissions(), fs::perms(0600));
-    EXPECT_EQ(fs::status(folder / "encrypted").permissions(), fs::status(folder / "plain").permissions());
+    EXPECT_TRUE(request.password.empty()) << "the password goes with the job";
 }
 
-TEST_F(FileJob, ACancelLeavesNothingOrAFileThatIsRemovedUnlessReplaced)
+/// How a job ends, by what stood at the output's path, and what is told and left of it.
+TEST_F(FileJob, LeavesAndTellsWhatItShould)
 {
-    observer.cancelAfter = 's';
-    EXPECT_TRUE(encrypt("plain", "out").cancelled);
-    EXPECT_FALSE(fs::exists(folder / "out"));
+    using enum ExistingOutput;
+    enum End { Success, WrongKey, StopAtStart, StopAtFlush, NoInput, OutputComes, FolderMoves };
+    const struct
+    {
+        const char* name;
+        ExistingOutput existing;
+        bool formerThere;
+        End end;
+        bool deletedTold;
+        const char* left; ///< at the path: nothing, the former, the new or another's
+    } rows[] = {
+        {"new", Keep, false, Success, false, "new"},
+        {"kept", Keep, true, Success, true, "former"},
+        {"kept, wrong key", Keep, true, WrongKey, false, "former"},
+        {"wrong key", Keep, false, WrongKey, false, ""},
+        {"stopped before a byte", Keep, false, StopAtStart, false, ""},
+        {"stopped at the flush", Keep, false, StopAtFlush, true, ""},
+        {"another's comes", Keep, false, OutputComes, true, "another's"},
+        {"folder moves", Keep, false, FolderMoves, true, ""},
+        {"removed first", RemoveFirst, true, Success, false, "new"},
+        {"removed first, wrong key", RemoveFirst, true, WrongKey, true, ""},
+        {"removed first, no input", RemoveFirst, true, NoInput, true, ""},
+        {"removed first, none there", RemoveFirst, false, WrongKey, false, ""},
+        {"removed first, another's comes", RemoveFirst, true, OutputComes, true, "another's"},
+        {"replaced", ReplaceAtEnd, true, Success, false, "new"},
+        {"not replaced, wrong key", ReplaceAtEnd, true, WrongKey, false, "former"},
+        {"not replaced, no input", ReplaceAtEnd, true, NoInput, false, "former"},
+        {"not replaced, stopped", ReplaceAtEnd, true, StopAtFlush, true, "former"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        fs::remove_all(folder / "dir");
+        fs::remove_all(folder / "moved");
+        fs::create_directory(folder / "dir");
+        if (row.formerThere)
+            folder.write("dir/out", "former");
+        password = row.end == WrongKey ? "wrong" : "secret";
+        request.existing = row.existing;
+        observer = {};
+        observer.cancelAfter = row.end == StopAtStart ? 's' : row.end == StopAtFlush ? 'w' : ' ';
+        observer.atFlush = [&] {
+            if (row.end == OutputComes)
+                folder.write("dir/out", "another's");
+            if (row.end == FolderMoves)
+                fs::rename(folder / "dir", folder / "moved");
+        };
+        const FileJobOutcome outcome = decrypt(row.end == NoInput ? "absent" : "encrypted", "dir/out");
+        EXPECT_EQ(outcome.done(), row.left == std::string("new"));
+        EXPECT_EQ(outcome.outputDeleted, row.deletedTold);
+        const std::string left = test::readFile(folder / "dir/out");
+        EXPECT_EQ(left == content ? "new" : left, row.left);
+        EXPECT_TRUE(row.end != FolderMoves || fs::is_empty(folder / "moved"));
+        for (const auto& entry : fs::directory_iterator(folder / (row.end == FolderMoves ? "moved" : "dir")))
+            EXPECT_EQ(entry.path().filename(), "out");
+    }
+}
 
-    observer.cancelAfter = 'w';
-    const FileJobOutcome outcome = encrypt("plain", "out");
-    EXPECT_TRUE(outcome.cancelled && outcome.result.ok() && !outcome.done());
-    fs::rename(folder / "out", folder / "moved");
-    folder.write("out", "someone else's");
-    EXPECT_FALSE(removeOutput(request, outcome));
-    EXPECT_EQ(test::readFile(folder / "out"), "someone else's");
-    fs::rename(folder / "moved", folder / "out");
-    EXPECT_TRUE(removeOutput(request, outcome));
-    EXPECT_FALSE(fs::exists(folder / "out"));
+TEST_F(FileJob, AnEncryptedFileIsForNobodyWhoCouldNotReadThePlainOne)
+{
+    ::umask(0022);
+    for (const unsigned mode : {0600U, 0640U, 0644U, 0666U, 0400U}) {
+        fs::permissions(folder / "plain", fs::perms(mode));
+        fs::remove(folder / "out");
+        EXPECT_TRUE(encrypt("plain", "out").done());
+        EXPECT_EQ(fs::status(folder / "out").permissions(), fs::perms(mode & ~0022U));
+    }
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "io/IStreamFile.h"
-#include "io/OStreamNewFile.h"
+#include "io/OStreamFile.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/platform/Path.h"
 #include "support/TempFolder.h"
@@ -8,11 +8,11 @@
 
 #include <array>
 #include <cerrno>
+#include <sys/stat.h>
 
 namespace {
 
 using namespace tessaly;
-using io::OStreamNewFile;
 using InFile = io::IStreamFile<wchar_t>;
 using OutFile = io::OStreamFile<wchar_t>;
 namespace fs = std::filesystem;
@@ -63,9 +63,9 @@ TEST_F(FileStream, ReadingRefusesAndReports)
     EXPECT_EQ(in.open(L"/proc/self/status"), err::library(err::GetFileSizeFailed));
     EXPECT_EQ(readSome(in, 1), "!");
     EXPECT_EQ(in.lastError(), err::library(err::StreamClosed));
-    ASSERT_TRUE(in.open(folder.wide(".")).ok());
-    EXPECT_EQ(readSome(in, 1), "!");
-    EXPECT_EQ(in.lastError(), err::system(EISDIR));
+    ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
+    for (const std::wstring& irregular : {folder.wide("."), folder.wide("fifo"), std::wstring(L"/dev/null")})
+        EXPECT_EQ(in.open(irregular), err::library(err::OpenFileFailed)) << "nothing counts as empty";
 }
 
 TEST_F(FileStream, WritingAppends)
@@ -76,40 +76,20 @@ TEST_F(FileStream, WritingAppends)
     EXPECT_EQ(out.write("new ", 4), 4);
     folder.write("out", "replaced ");
     EXPECT_EQ(out.write("again", 5), 5);
-    EXPECT_TRUE(out.finish().ok());
+    EXPECT_TRUE(out.flush().ok() && out.close().ok());
     EXPECT_EQ(test::readFile(folder / "out"), "replaced again");
-    EXPECT_EQ(out.finish(), err::library(err::StreamClosed));
+    EXPECT_EQ(out.flush(), err::library(err::StreamClosed));
+    EXPECT_EQ(out.open(L""), err::library(err::NullArgument));
 }
 
-TEST_F(FileStream, AFullDiskIsAnErrorOfWriteAndOfFinish)
+TEST_F(FileStream, AFullDiskIsAnErrorOfWriteAndOfFlush)
 {
     OutFile out;
     ASSERT_TRUE(out.open(L"/dev/full").ok());
     EXPECT_EQ(out.write("x", 1), 0);
     EXPECT_EQ(out.lastError(), err::system(ENOSPC));
-    EXPECT_EQ(out.finish(), err::system(EINVAL)) << "the device can't promise that data stays";
-}
-
-TEST_F(FileStream, ANewFileAppearsWithItsFirstBytes)
-{
-    const char* name = "caf\xE9 \xF0\x9F\x94\x91"; // \xE9 is no UTF-8
-    OStreamNewFile out(folder.wide(name), platform::Access::Default);
-    EXPECT_FALSE(out.isCreated() || fs::exists(folder / name));
-    EXPECT_EQ(out.write("data", 4), 4);
-    EXPECT_TRUE(out.created().sameFile(platform::fileStatus(folder.wide(name))));
-    EXPECT_TRUE(out.finish().ok());
-    EXPECT_EQ(test::readFile(folder / name), "data");
-}
-
-TEST_F(FileStream, ANewFileOnceRefusedIsNotTriedAgain)
-{
-    folder.write("taken", "precious");
-    OStreamNewFile out(folder.wide("taken"), platform::Access::Default);
-    EXPECT_EQ(out.write("x", 1), 0);
-    EXPECT_EQ(out.lastError(), err::system(EEXIST));
-    fs::remove(folder / "taken");
-    EXPECT_EQ(out.finish(), err::system(EEXIST));
-    EXPECT_FALSE(out.isCreated() || fs::exists(folder / "taken"));
+    EXPECT_EQ(out.open(folder.wide("other")), err::library(err::AlreadyOpen));
+    EXPECT_EQ(out.flush(), err::system(EINVAL)) << "the device can't promise that data stays";
 }
 
 } // namespace

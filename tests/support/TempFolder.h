@@ -35,6 +35,7 @@ public:
     std::string operator/(std::string_view name) const { return (m_path / name).string(); }
     const std::filesystem::path& path() const { return m_path; }
 
+    std::filesystem::path at(std::string_view name) const { return m_path / name; }
     /// The path as the readers take it.
     std::wstring wide(std::string_view name = {}) const { return tessaly::platform::widePath(*this / name); }
     /// Writes the file anew and gives its path. The name may be a whole path.

@@ -3,9 +3,10 @@
 #include "app/job/CMsgDispatcher.h"
 #include "common/errors/ErrorText.h"
 #include "lib/err/ErrorCodes.h"
-#include "lib/platform/File.h"
-#include "lib/platform/Path.h"
 
+#include <chrono>
+#include <new>
+#include <thread>
 #include <utility>
 
 namespace thisapp {
@@ -17,22 +18,18 @@ namespace {
 /// What the thread is started for.
 enum Task : std::uintptr_t { Cipher, RemoveInput };
 
-crypto::FileJobRequest engineRequest(SEncryptData& data)
+/// News that must arrive, whatever the memory is short of: without it the window would wait for ever.
+template <class Signal>
+void deliver(Signal signal)
 {
-    return {platform::widePath(data.inputPath),
-            platform::widePath(data.outputPath),
-            data.passwordMode,
-            data.useSalt,
-            std::exchange(data.password, {}),
-            std::exchange(data.key, {}),
-            std::exchange(data.iv, {})};
-}
-
-/// Makes room for a new output; fine when there is nothing any more.
-ResultCode removeFormerOutput(const std::wstring& path)
-{
-    const ResultCode result = platform::removeFile(path);
-    return platform::fileStatus(path).kind == platform::FileKind::Missing ? ResultCode{} : result;
+    for (;;) {
+        try {
+            signal();
+            return;
+        } catch (const std::bad_alloc&) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+    }
 }
 
 } // namespace
@@ -48,6 +45,12 @@ CFileJob::~CFileJob()
 {
     stop();
     m_thread.wait();
+}
+
+bool CFileJob::end(unsigned milliseconds)
+{
+    stop();
+    return m_thread.wait(milliseconds) != thread::WaitStatus::TimedOut;
 }
 
 bool CFileJob::isStoppable() const
@@ -74,10 +77,9 @@ ResultCode CFileJob::start(SEncryptData request)
     m_progress.set({});
     const ResultCode started = startThread(Cipher);
     if (!started.ok()) {
-        m_data.with([](SEncryptData& data) { data.wipeSecrets(); });
-        const SEncryptData unstarted = m_data.get();
-        if (unstarted.outputFlag) // the output that was to be replaced, as if the job had begun
-            (void)platform::removeFile(platform::widePath(unstarted.outputPath));
+        m_data.with([](SEncryptData& data) { data.request.wipeSecrets(); });
+        bool removed = false; // the output that was to be replaced goes as if the job had begun
+        (void)crypto::makeRoom(m_data.get().request, removed);
     }
     return started;
 }
@@ -121,58 +123,41 @@ ResultCode CFileJob::run(std::uint32_t, std::uintptr_t task)
 {
     if (task == Cipher) {
         runCipher();
-        emit m_dispatcher.notifyEncryptFinished();
+        deliver([this] { emit m_dispatcher.notifyEncryptFinished(); });
     } else {
         m_inputRemoval.set(removeInput(m_data.get()));
-        emit m_dispatcher.notifyInputRemovalFinished();
+        deliver([this] { emit m_dispatcher.notifyInputRemovalFinished(); });
     }
     return {};
 }
 
+/// No exception leaves it: whatever happens, the outcome says how the job ended.
 void CFileJob::runCipher()
 {
-    SEncryptData request = m_data.with([](SEncryptData& data) {
-        SEncryptData copy = data;
-        data.wipeSecrets();
-        data.outcome = {};
-        return copy;
-    });
-    const JobOutcome outcome = execute(request);
+    crypto::FileJobOutcome outcome;
+    std::string text;
+    try {
+        Operation operation{};
+        crypto::FileJobRequest request = m_data.with([&operation](SEncryptData& data) {
+            crypto::FileJobRequest copy = data.request;
+            data.request.wipeSecrets();
+            operation = data.operation;
+            return copy;
+        });
+        outcome = execute(operation, request);
+        text = errorText(outcome.result).toStdString();
+    } catch (...) {
+        if (outcome.result.ok())
+            outcome.result = err::library(err::RunnableThrew);
+    }
     m_data.with([&](SEncryptData& data) {
-        data.outputFlag = request.outputFlag;
-        data.outcome = outcome;
+        data.request.wipeSecrets();
+        data.outcome = std::move(outcome);
+        data.errorText = std::move(text);
     });
 }
 
-JobOutcome CFileJob::execute(SEncryptData& request)
-{
-    const crypto::FileJobRequest job = engineRequest(request);
-    JobOutcome outcome;
-    const bool replacing = request.outputFlag;
-    if (replacing)
-        outcome.result = removeFormerOutput(job.output);
-    if (!outcome.result.ok()) {
-        request.outputFlag = false;
-        outcome.errorText = errorText(outcome.result).toStdString();
-        return outcome;
-    }
-
-    const crypto::FileJobOutcome ended = runEngine(request.operation, job);
-    const bool created = ended.output.kind != platform::FileKind::Missing;
-    request.outputFlag = replacing || created;
-    outcome.cancelled = ended.cancelled;
-    outcome.result = ended.result;
-    outcome.errorText = errorText(ended.result).toStdString();
-    outcome.input = ended.input;
-    outcome.output = ended.output;
-    if (!outcome.done() && request.outputFlag) {
-        const bool gone = platform::fileStatus(job.output).kind == platform::FileKind::Missing;
-        outcome.outputRemoved = gone || crypto::removeOutput(job, ended);
-    }
-    return outcome;
-}
-
-crypto::FileJobOutcome CFileJob::runEngine(Operation operation, const crypto::FileJobRequest& request)
+crypto::FileJobOutcome CFileJob::execute(Operation operation, crypto::FileJobRequest& request)
 {
     // References of its own: the owner may clear the job while the engines are at work.
     const SEncryptor engines = m_engines.get();

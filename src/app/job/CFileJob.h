@@ -35,15 +35,19 @@ struct JobProgress
 
 /// One encryption or decryption at a time on a thread of its own. The public operations belong to the
 /// owner's thread; the worker reports through the dispatcher's signals, which the owner receives on
-/// its own thread. Each shared value has a lock, held only to copy.
+/// its own thread. Each shared value has a lock, held only to copy. What a job does with its files is
+/// crypto::runFileJob's business.
 class CFileJob final : private tessaly::thread::IRunnable, private tessaly::crypto::IFileJobObserver
 {
 public:
     /// The references must outlive the job.
     CFileJob(const tessaly::crypto::IEncryptorFactory& encryptors,
              const tessaly::crypto::IDecryptorFactory& decryptors, CMsgDispatcher& dispatcher);
-    /// Stops and waits.
+    /// Stops and waits without limit.
     ~CFileJob() override;
+    /// Stops and waits for at most that long; false when the worker is still at it, which then must not
+    /// lose what it works with.
+    [[nodiscard]] bool end(unsigned milliseconds);
 
     /// From a start until the owner, having got the news of the end, calls finish.
     bool isRunning() const { return m_running; }
@@ -77,10 +81,8 @@ private:
     bool isJobCancelled() override;
 
     void runCipher();
-    JobOutcome execute(SEncryptData& request);
+    tessaly::crypto::FileJobOutcome execute(Operation operation, tessaly::crypto::FileJobRequest& request);
     tessaly::ResultCode startThread(std::uintptr_t task);
-    tessaly::crypto::FileJobOutcome runEngine(Operation operation,
-                                              const tessaly::crypto::FileJobRequest& request);
 
     template <class T>
     using Shared = tessaly::sync::internal::SafeData<tessaly::sync::Locker, T>;

@@ -4,7 +4,6 @@
 #include "crypto/catalogue/AlgInfo.h"
 #include "crypto/format/FileHeader.h"
 #include "lib/platform/File.h"
-#include "lib/platform/Path.h"
 
 #include <QCoreApplication>
 
@@ -23,12 +22,12 @@ struct Text
 
 bool isUnchanged(const platform::FileStatus& now, const platform::FileStatus& asRead)
 {
-    return now.sameFile(asRead) && now.size == asRead.size && now.modifiedNs == asRead.modifiedNs;
+    return now.size == asRead.size && now.modifiedNs == asRead.modifiedNs;
 }
 
 std::uint64_t expectedOutputSize(const SEncryptData& data)
 {
-    return crypto::encryptedSize(static_cast<std::uint64_t>(data.outcome.input.size),
+    return crypto::encryptedSize(static_cast<std::uint64_t>(data.outcome.input.status.size),
                                  crypto::AlgInfo().record(data.selection.algorithm).blockLength);
 }
 
@@ -36,21 +35,22 @@ std::uint64_t expectedOutputSize(const SEncryptData& data)
 
 std::optional<KeepReason> reasonToKeepInput(const SEncryptData& data)
 {
+    const crypto::JobFile& input = data.outcome.input;
+    const crypto::JobFile& output = data.outcome.output;
     // A job that is done has synced its output and the folder of it.
-    if (data.operation != Operation::Encrypt || !data.outcome.done())
+    if (data.operation != Operation::Encrypt || !data.outcome.done() || !input.place || !output.place)
         return KeepReason::NotEncrypted;
 
-    const platform::FileStatus output = platform::fileStatus(platform::widePath(data.outputPath));
-    if (!output.sameFile(data.outcome.output) ||
-        static_cast<std::uint64_t>(output.size) != expectedOutputSize(data))
+    if (!output.place->names(output.status) ||
+        static_cast<std::uint64_t>(output.place->status().size) != expectedOutputSize(data))
         return KeepReason::OutputDiffers;
 
-    const platform::FileStatus input = platform::fileStatus(platform::widePath(data.inputPath));
-    if (input.isLink)
+    const platform::FileStatus now = input.place->status();
+    if (now.isLink)
         return KeepReason::SymbolicLink;
-    if (!isUnchanged(input, data.outcome.input))
+    if (!input.place->names(input.status) || !isUnchanged(now, input.status))
         return KeepReason::Changed;
-    if (input.hardLinks != 1)
+    if (now.hardLinks != 1)
         return KeepReason::HardLinks;
     return {};
 }
@@ -60,7 +60,7 @@ InputRemoval removeInput(const SEncryptData& data)
     InputRemoval removal;
     removal.kept = reasonToKeepInput(data);
     if (!removal.kept)
-        removal.error = platform::removeFile(platform::widePath(data.inputPath));
+        removal.error = data.outcome.input.place->remove();
     return removal;
 }
 

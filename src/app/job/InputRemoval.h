@@ -32,7 +32,7 @@ struct InputRemoval
 /// Nothing when the input may be deleted. Only looks at both files.
 std::optional<KeepReason> reasonToKeepInput(const SEncryptData& data);
 
-/// Looks again, then deletes the input.
+/// Looks again, then deletes the input; returns when that has reached the disk.
 InputRemoval removeInput(const SEncryptData& data);
 
 /// Tells the user why the input is still there.

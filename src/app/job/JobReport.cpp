@@ -22,9 +22,9 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(JobReport)
 };
 
-void reportRemovedOutput(const JobOutcome& outcome, IMessageAreas& areas)
+void reportRemovedOutput(const crypto::FileJobOutcome& outcome, IMessageAreas& areas)
 {
-    if (outcome.outputRemoved)
+    if (outcome.outputDeleted)
         areas.showMessage(Area::Output,
                           {MessageKind::Warning, [] { return Text::tr("Output file has been deleted."); }});
 }
@@ -35,7 +35,7 @@ void explainCorruptedData(const SEncryptData& data, IMessageAreas& areas)
     if (data.operation != Operation::Decrypt ||
         data.outcome.result.first() != err::library(err::CheckValueDiffers))
         return;
-    areas.showMessage(Area::Input, {MessageKind::Plain, [mode = data.passwordMode] {
+    areas.showMessage(Area::Input, {MessageKind::Plain, [mode = data.request.passwordMode] {
                                         return mode ? Text::tr("Check the password and the algorithm.")
                                                     : Text::tr("Check the key, the IV and the algorithm.");
                                     }});
@@ -46,7 +46,7 @@ void explainCorruptedData(const SEncryptData& data, IMessageAreas& areas)
 void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
 {
     const OperationTexts& texts = operationTexts(data.operation);
-    const JobOutcome& outcome = data.outcome;
+    const crypto::FileJobOutcome& outcome = data.outcome;
     if (outcome.cancelled) {
         reportRemovedOutput(outcome, areas);
         logger::log(logger::Information, LogSource) << texts.cancelled;
@@ -56,7 +56,7 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
         areas.showMessage(Area::Result,
                           {MessageKind::Success, [&texts] { return translated(texts.succeeded); }});
     } else {
-        logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << outcome.errorText;
+        logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
         reportRemovedOutput(outcome, areas);
         areas.showMessage(Area::Result, {MessageKind::Error, [&texts, result = outcome.result] {
                                              return translated(texts.failed) + ' ' + errorText(result);

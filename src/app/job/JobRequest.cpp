@@ -80,14 +80,13 @@ JobRequest::Verdict JobRequest::inputIsDefined()
     const QString input = m_host.inputText().trimmed();
     if (input.isEmpty())
         return refusal(Area::Input, m_texts.fileNotDefined);
-    m_input = widePath(input);
-    m_data.inputPath = nativePath(input);
+    m_data.request.input = textPath(input);
     return {};
 }
 
 JobRequest::Verdict JobRequest::inputIsFound()
 {
-    switch (io::checkInput(m_input)) {
+    switch (io::checkInput(m_data.request.input)) {
     case io::InputCheck::Usable:
         break;
     case io::InputCheck::NotFound:
@@ -108,16 +107,16 @@ JobRequest::Verdict JobRequest::outputIsDefined()
     const QString output = m_host.outputText().trimmed();
     if (output.isEmpty())
         return Refusal{Area::Output, [] { return tr("Output file is not defined."); }};
-    m_output = widePath(output);
-    m_data.outputPath = nativePath(output);
+    m_data.request.output = textPath(output);
     return {};
 }
 
 JobRequest::Verdict JobRequest::outputDiffersFromInput()
 {
-    switch (io::checkOutput(m_input, m_output)) {
+    switch (io::checkOutput(m_data.request.input, m_data.request.output)) {
     case io::OutputCheck::Free:
     case io::OutputCheck::Exists:
+    case io::OutputCheck::NoFolder:
         break;
     case io::OutputCheck::MatchesInput:
         return Refusal{Area::Result,
@@ -160,12 +159,12 @@ JobRequest::Verdict JobRequest::secretIsEntered()
         m_question.switchToAdvanced = false;
         if (!m_host.enterPassword(m_question))
             return passwordNotDefined();
-        m_data.useSalt = keyEntry.useSalt = m_question.useSalt;
+        m_data.request.useSalt = keyEntry.useSalt = m_question.useSalt;
         m_data.rewriteOutput = keyEntry.rewriteOutput = m_question.rewriteOutput;
         if (!m_question.switchToAdvanced) {
-            m_data.passwordMode = true;
-            m_data.password = std::exchange(m_question.password, {});
-            if (m_data.password.empty())
+            m_data.request.passwordMode = true;
+            m_data.request.password = std::exchange(m_question.password, {});
+            if (m_data.request.password.empty())
                 return passwordNotDefined();
             return {};
         }
@@ -173,12 +172,12 @@ JobRequest::Verdict JobRequest::secretIsEntered()
         keyEntry.switchToNormal = false;
         if (!m_host.enterKeyAndIv(keyEntry))
             return passwordNotDefined();
-        m_data.useSalt = m_question.useSalt = keyEntry.useSalt;
+        m_data.request.useSalt = m_question.useSalt = keyEntry.useSalt;
         m_data.rewriteOutput = m_question.rewriteOutput = keyEntry.rewriteOutput;
         if (!keyEntry.switchToNormal) {
-            m_data.passwordMode = false;
-            m_data.key = std::move(keyEntry.key);
-            m_data.iv = std::move(keyEntry.iv);
+            m_data.request.passwordMode = false;
+            m_data.request.key = std::move(keyEntry.key);
+            m_data.request.iv = std::move(keyEntry.iv);
             return {};
         }
     }
@@ -186,18 +185,18 @@ JobRequest::Verdict JobRequest::secretIsEntered()
 
 JobRequest::Verdict JobRequest::ivFits()
 {
-    const auto ivSize = m_data.iv.size();
-    if (m_data.passwordMode || ivSize == m_sizes.ivLength)
+    const auto ivSize = m_data.request.iv.size();
+    if (m_data.request.passwordMode || ivSize == m_sizes.ivLength)
         return {};
     return Refusal{Area::Result, [ivSize] { return tr("Invalid IV size. Entered %1 bytes").arg(ivSize); }};
 }
 
 JobRequest::Verdict JobRequest::keyFits()
 {
-    if (m_data.passwordMode || m_data.key.size() == m_sizes.keyLength)
+    if (m_data.request.passwordMode || m_data.request.key.size() == m_sizes.keyLength)
         return {};
     // Deliberately the size of the IV in this message, too.
-    const auto ivSize = m_data.iv.size();
+    const auto ivSize = m_data.request.iv.size();
     return Refusal{Area::Result, [ivSize] { return tr("Invalid key size. Entered %1 bytes").arg(ivSize); }};
 }
 
@@ -212,7 +211,8 @@ JobRequest::Verdict JobRequest::engineIsReady()
 /// only marked here; the worker removes it, as that may take its time.
 JobRequest::Verdict JobRequest::outputMayBeWritten()
 {
-    if (io::checkOutput(m_input, m_output) == io::OutputCheck::Free)
+    const io::OutputCheck found = io::checkOutput(m_data.request.input, m_data.request.output);
+    if (found == io::OutputCheck::Free || found == io::OutputCheck::NoFolder)
         return {};
     if (Verdict refused = outputDiffersFromInput())
         return refused;
@@ -220,7 +220,7 @@ JobRequest::Verdict JobRequest::outputMayBeWritten()
         return Refusal{Area::Result, [] {
                            return tr("Output file already exists! A 'not rewrite' option has been selected.");
                        }};
-    m_data.outputFlag = true;
+    m_data.request.existing = crypto::ExistingOutput::RemoveFirst;
     return {};
 }
 

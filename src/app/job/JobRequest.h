@@ -59,8 +59,6 @@ private:
     SEncryptData m_data;
     PasswordEntry m_question;
     tessaly::crypto::AlgRecord m_sizes;
-    std::wstring m_input;
-    std::wstring m_output;
 };
 
 } // namespace thisapp

@@ -44,7 +44,7 @@ constexpr char LogSource[] = "mainwindow";
 
 bool isUsableInput(const QString& path)
 {
-    return !path.isEmpty() && io::checkInput(widePath(path)) == io::InputCheck::Usable;
+    return !path.isEmpty() && io::checkInput(textPath(path)) == io::InputCheck::Usable;
 }
 
 /// The path of a chosen file that may come as a URL.
@@ -134,7 +134,7 @@ void CMainWindow::connectJob()
 void CMainWindow::processCommandLine(const QStringList& arguments)
 {
     logger::log(logger::Information, LogSource)
-        << "Try to process command line: " << nativePath(quotedArguments(arguments));
+        << "Try to process command line: " << textPath(quotedArguments(arguments)).native();
     const CommandLine line = parseCommandLine(arguments, systemSlashRule(), isUsableInput);
     if (line.input) {
         m_form->setInputText(QDir::toNativeSeparators(*line.input));
@@ -203,8 +203,8 @@ void CMainWindow::requestJob(Operation operation)
     if (!request)
         return;
 
-    const QString input = pathText(request->inputPath);
-    const std::int64_t size = platform::fileStatus(widePath(input)).size;
+    const QString input = pathText(request->request.input);
+    const std::int64_t size = platform::fileStatus(request->request.input).size;
     const ResultCode started = m_job.start(std::move(*request));
     if (started.ok()) {
         m_display.begin(input, size);
@@ -380,7 +380,7 @@ void CMainWindow::refresh()
     m_actions[ActionId::OpenOutputFolder].setEnabled(!m_form->outputText().isEmpty());
     const QString input = m_form->inputText().trimmed();
     if (isInputAccepted())
-        m_form->showFile(input, platform::fileStatus(widePath(input)).size);
+        m_form->showFile(input, platform::fileStatus(textPath(input)).size);
     else
         m_form->showNoFile();
     setTitle();

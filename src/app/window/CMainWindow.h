@@ -48,6 +48,9 @@ public:
     /// `arguments` are those after the program's name.
     void processCommandLine(const QStringList& arguments);
 
+    /// Stops a running job and waits for at most that long; false when it has not ended by then.
+    [[nodiscard]] bool endJob(unsigned milliseconds) { return m_job.end(milliseconds); }
+
     void filesDropped(int widgetId, const QList<QUrl>& urls) override;
     void appOptionsChanged(const thisapp::SAppOptions& options) override;
 

@@ -7,7 +7,6 @@
 #include "common/settings/CAppSettings.h"
 #include "common/settings/SettingsKeys.h"
 #include "lib/platform/File.h"
-#include "lib/platform/Path.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -23,9 +22,9 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(InputRemoval)
 };
 
-bool exists(const std::string& path)
+bool isThere(const std::filesystem::path& path)
 {
-    return platform::fileStatus(platform::widePath(path)).kind != platform::FileKind::Missing;
+    return platform::fileStatus(path).exists();
 }
 
 bool confirm(QWidget& window, const QString& inputPath)
@@ -43,8 +42,8 @@ bool confirm(QWidget& window, const QString& inputPath)
 
 bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, IMessageAreas& areas)
 {
-    if (ended.operation != Operation::Encrypt || !ended.outcome.done() || !exists(ended.outputPath) ||
-        !exists(ended.inputPath))
+    if (ended.operation != Operation::Encrypt || !ended.outcome.done() || !isThere(ended.request.output) ||
+        !isThere(ended.request.input))
         return false;
     const CAppSettings settings;
     if (!readSetting(settings, keys::DeleteSourceFileAfterEncryption))
@@ -54,7 +53,7 @@ bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, IMessageAr
         return false;
     }
     return !readSetting(settings, keys::ConfirmDeleteSourceFileAfterEncryption) ||
-           confirm(window, pathText(ended.inputPath));
+           confirm(window, pathText(ended.request.input));
 }
 
 } // namespace thisapp

@@ -47,7 +47,7 @@ void JobDisplay::showEnd(const SEncryptData& ended, bool userIsHere)
     reportOutcome(ended, m_form);
     if (ended.outcome.done())
         m_form.progressFrame().setProgress(
-            100, {MessageKind::Plain, [size = ended.outcome.input.size, time = m_clock.elapsed()] {
+            100, {MessageKind::Plain, [size = ended.outcome.input.status.size, time = m_clock.elapsed()] {
                       return summaryText(size, time);
                   }});
     else

@@ -16,11 +16,12 @@ constexpr bool needsPair(wchar_t c)
 
 } // namespace
 
-QString pathText(const std::wstring& path)
+QString pathText(const std::filesystem::path& path)
 {
+    const std::wstring wide = platform::wideText(path);
     QString text;
-    text.reserve(static_cast<int>(path.size()));
-    for (const wchar_t c : path) {
+    text.reserve(static_cast<int>(wide.size()));
+    for (const wchar_t c : wide) {
         const auto codePoint = static_cast<uint>(c);
         if (needsPair(c))
             text += QChar(QChar::highSurrogate(codePoint));
@@ -29,28 +30,18 @@ QString pathText(const std::wstring& path)
     return text;
 }
 
-QString pathText(const std::string& native)
+std::filesystem::path textPath(const QString& text)
 {
-    return pathText(platform::widePath(native));
-}
-
-std::wstring widePath(const QString& text)
-{
-    std::wstring path;
-    path.reserve(static_cast<std::size_t>(text.size()));
+    std::wstring wide;
+    wide.reserve(static_cast<std::size_t>(text.size()));
     for (int i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
         if (sizeof(wchar_t) > 2 && c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
-            path.push_back(static_cast<wchar_t>(QChar::surrogateToUcs4(c, text[++i])));
+            wide.push_back(static_cast<wchar_t>(QChar::surrogateToUcs4(c, text[++i])));
         else
-            path.push_back(static_cast<wchar_t>(c.unicode()));
+            wide.push_back(static_cast<wchar_t>(c.unicode()));
     }
-    return path;
-}
-
-std::string nativePath(const QString& text)
-{
-    return platform::nativePath(widePath(text));
+    return platform::pathFromWide(wide);
 }
 
 } // namespace thisapp

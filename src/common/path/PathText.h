@@ -2,15 +2,14 @@
 
 #include <QString>
 
-#include <string>
+#include <filesystem>
 
-/// Between the texts of the fields and the system's paths, lossless for every file name: what is not
-/// UTF-8 travels as lone surrogates (see lib/platform/Path.h), which Qt's own conversions replace.
+/// The one place where the texts of the user interface become paths and paths texts, lossless for every
+/// file name: what is not UTF-8 travels as lone surrogates (see lib/platform/Path.h), which Qt's own
+/// conversions replace.
 namespace thisapp {
 
-QString pathText(const std::wstring& path);
-QString pathText(const std::string& native);
-std::wstring widePath(const QString& text);
-std::string nativePath(const QString& text);
+QString pathText(const std::filesystem::path& path);
+std::filesystem::path textPath(const QString& text);
 
 } // namespace thisapp

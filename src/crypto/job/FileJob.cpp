@@ -1,7 +1,8 @@
 #include "crypto/job/FileJob.h"
 
 #include "io/IStreamFile.h"
-#include "io/OStreamNewFile.h"
+#include "io/OutputFile.h"
+#include "lib/err/ErrorCodes.h"
 
 #include <utility>
 
@@ -9,6 +10,7 @@ namespace tessaly::crypto {
 
 namespace {
 
+using io::OutputFile;
 using platform::Access;
 
 /// Hands the engine's callbacks on to the job's observer.
@@ -16,8 +18,8 @@ template <class Cipher>
 class EngineWatch final : public ICipherCallback
 {
 public:
-    EngineWatch(Cipher& cipher, IFileJobObserver& observer, std::int64_t total)
-        : m_cipher(cipher), m_observer(observer), m_total(total)
+    EngineWatch(Cipher& cipher, FileJobRequest& request, IFileJobObserver& observer, std::int64_t total)
+        : m_cipher(cipher), m_request(request), m_observer(observer), m_total(total)
     {
     }
 
@@ -25,6 +27,7 @@ public:
 
     void started(void*) override
     {
+        m_request.password = {}; // the engine has its key
         m_observer.jobStarted(m_total);
         if (m_observer.isJobCancelled())
             m_cipher.stop();
@@ -37,6 +40,7 @@ public:
 
 private:
     Cipher& m_cipher;
+    FileJobRequest& m_request;
     IFileJobObserver& m_observer;
     std::int64_t m_total;
     bool m_stopped = false;
@@ -46,9 +50,9 @@ CryptoResult process(ISymmetricEncryptor& encryptor, const FileJobRequest& reque
                      io::OStreamBytes& out, ICipherCallback& callback)
 {
     return request.passwordMode
-               ? encryptor.encryptWithPassword(&in, &out, request.password.c_str(), request.salt, &callback,
-                                               nullptr)
-               : encryptor.encrypt(&in, &out, request.key, request.iv, request.salt, &callback, nullptr);
+               ? encryptor.encryptWithPassword(&in, &out, request.password.c_str(), request.useSalt,
+                                               &callback, nullptr)
+               : encryptor.encrypt(&in, &out, request.key, request.iv, request.useSalt, &callback, nullptr);
 }
 
 CryptoResult process(ISymmetricDecryptor& decryptor, const FileJobRequest& request, io::IStreamBytes& in,
@@ -59,50 +63,172 @@ CryptoResult process(ISymmetricDecryptor& decryptor, const FileJobRequest& reque
                : decryptor.decrypt(&in, &out, request.key, request.iv, &callback, nullptr);
 }
 
-template <class Cipher>
-FileJobOutcome runJob(Cipher& cipher, const FileJobRequest& request, IFileJobObserver& observer,
-                      Access access)
+/// An encrypted file is for everybody who may read the plain one, a decrypted one for its owner.
+Access accessOf(const ISymmetricEncryptor&, const platform::FileStatus& input)
 {
-    FileJobOutcome outcome;
-    io::IStreamFile<wchar_t> in;
-    if (const ResultCode opened = in.open(request.input); !opened.ok()) {
-        outcome.result = opened;
-        return outcome;
+    return Access::noMoreThan(input);
+}
+
+Access accessOf(const ISymmetricDecryptor&, const platform::FileStatus&)
+{
+    return Access::ownerOnly();
+}
+
+/// One job on its way through its steps; each notes itself in the outcome before it begins.
+template <class Cipher>
+class Run
+{
+public:
+    Run(Cipher& cipher, FileJobRequest& request, IFileJobObserver& observer)
+        : m_cipher(cipher), m_request(request), m_observer(observer)
+    {
     }
-    outcome.input = in.status();
-    io::OStreamNewFile out(request.output, access);
-    EngineWatch<Cipher> watch(cipher, observer, in.size());
-    outcome.result = process(cipher, request, in, out, watch);
-    outcome.cancelled = watch.wasStopped();
-    if (outcome.done()) {
-        observer.jobFlushing();
-        if (const ResultCode flushed = out.finish(); !flushed.ok())
-            outcome.result = {err::WriteStreamFailed, flushed};
-        outcome.cancelled = observer.isJobCancelled();
+
+    FileJobOutcome run()
+    {
+        try {
+            m_outcome.result = work();
+        } catch (...) {
+            m_outcome.result = {ResultCode{err::CategoryCryptoPP, OtherError},
+                                err::library(err::ProcessingFailed)};
+        }
+        const bool wasThere = m_removedFormer || m_out.isBegun();
+        if (!m_outcome.done())
+            m_outcome.outputDeleted = m_out.discard() && wasThere;
+        return std::move(m_outcome);
     }
-    out.close();
-    outcome.output = out.created();
+
+private:
+    /// Crypto++'s error type for anything that is not an exception of its own.
+    static constexpr std::uint32_t OtherError = 6;
+
+    CryptoResult work()
+    {
+        CryptoResult result = makeRoomFirst();
+        if (result.ok())
+            result = openInput();
+        if (result.ok())
+            result = createOutput();
+        if (result.ok())
+            result = encipher();
+        return m_outcome.cancelled || !result.ok() ? result : storeOutput();
+    }
+
+    CryptoResult makeRoomFirst()
+    {
+        m_outcome.step = JobStep::RemoveFormerOutput;
+        return makeRoom(m_request, m_removedFormer);
+    }
+
+    CryptoResult openInput()
+    {
+        m_outcome.step = JobStep::OpenInput;
+        const auto place = std::make_shared<io::FilePlace>();
+        platform::File file;
+        ResultCode result = place->open(m_request.input);
+        if (result.ok())
+            result = place->folder().openForReading(place->name(), file);
+        if (result.ok())
+            result = m_in.open(std::move(file));
+        m_outcome.input = {place, m_in.status()};
+        return result;
+    }
+
+    CryptoResult createOutput()
+    {
+        m_outcome.step = JobStep::CreateOutput;
+        const auto place = std::make_shared<io::FilePlace>();
+        ResultCode result = place->open(m_request.output);
+        if (result.ok())
+            result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status));
+        m_outcome.output = {place, m_out.status()};
+        return result.ok() ? CryptoResult() : CryptoResult(err::WriteStreamFailed, result);
+    }
+
+    CryptoResult encipher()
+    {
+        m_outcome.step = JobStep::Process;
+        EngineWatch<Cipher> watch(m_cipher, m_request, m_observer, m_in.size());
+        const CryptoResult result = process(m_cipher, m_request, m_in, m_out, watch);
+        m_outcome.cancelled = watch.wasStopped();
+        return result;
+    }
+
+    CryptoResult storeOutput()
+    {
+        m_outcome.step = JobStep::StoreOutput;
+        m_observer.jobFlushing();
+        const auto existing = m_request.existing == ExistingOutput::ReplaceAtEnd
+                                  ? OutputFile::Existing::Replace
+                                  : OutputFile::Existing::Keep;
+        const ResultCode stored = m_out.commit(existing, [this] { return !m_observer.isJobCancelled(); });
+        m_outcome.output.status = m_out.status();
+        m_outcome.cancelled = stored == err::library(err::OperationStopped);
+        return stored.ok() || m_outcome.cancelled ? CryptoResult()
+                                                  : CryptoResult(err::WriteStreamFailed, stored);
+    }
+
+    Cipher& m_cipher;
+    FileJobRequest& m_request;
+    IFileJobObserver& m_observer;
+    io::IStreamFile<wchar_t> m_in;
+    OutputFile m_out;
+    FileJobOutcome m_outcome;
+    bool m_removedFormer = false;
+};
+
+template <class Cipher>
+FileJobOutcome runJob(Cipher& cipher, FileJobRequest& request, IFileJobObserver& observer) noexcept
+{
+    FileJobOutcome outcome = Run<Cipher>(cipher, request, observer).run();
+    request.wipeSecrets();
     return outcome;
 }
 
 } // namespace
 
-FileJobOutcome runFileJob(ISymmetricEncryptor& encryptor, const FileJobRequest& request,
-                          IFileJobObserver& observer)
+void FileJobRequest::wipeSecrets()
 {
-    return runJob(encryptor, request, observer, Access::Default);
+    password = {};
+    key = {};
+    iv = {};
 }
 
-FileJobOutcome runFileJob(ISymmetricDecryptor& decryptor, const FileJobRequest& request,
-                          IFileJobObserver& observer)
+bool FileJobOutcome::failedAtOutput() const
 {
-    return runJob(decryptor, request, observer, Access::Private);
+    if (step == JobStep::Process)
+        return result.first() == err::library(err::WriteStreamFailed);
+    return step != JobStep::OpenInput;
 }
 
-bool removeOutput(const FileJobRequest& request, const FileJobOutcome& outcome)
+FileJobOutcome runFileJob(ISymmetricEncryptor& encryptor, FileJobRequest& request,
+                          IFileJobObserver& observer) noexcept
 {
-    return outcome.output.sameFile(platform::fileStatus(request.output)) &&
-           platform::removeFile(request.output).ok();
+    return runJob(encryptor, request, observer);
+}
+
+FileJobOutcome runFileJob(ISymmetricDecryptor& decryptor, FileJobRequest& request,
+                          IFileJobObserver& observer) noexcept
+{
+    return runJob(decryptor, request, observer);
+}
+
+ResultCode makeRoom(const FileJobRequest& request, bool& removed)
+{
+    removed = false;
+    if (request.existing != ExistingOutput::RemoveFirst)
+        return {};
+    io::FilePlace place;
+    if (const ResultCode opened = place.open(request.output); !opened.ok())
+        return opened;
+    const platform::FileStatus former = place.status();
+    if (former.isLink || former.kind != platform::FileKind::Regular)
+        return {}; // gone already, or not what the user agreed to: the end of the job will find it
+    if (former.sameFile(platform::fileStatus(request.input)))
+        return err::library(err::OutputMatchesInput);
+    const ResultCode result = place.folder().remove(place.name());
+    removed = !place.status().sameFile(former);
+    return removed ? ResultCode{} : result;
 }
 
 } // namespace tessaly::crypto

@@ -3,36 +3,61 @@
 #include "crypto/CryptoResult.h"
 #include "crypto/cipher/ISymmetricDecryptor.h"
 #include "crypto/cipher/ISymmetricEncryptor.h"
+#include "io/FilePlace.h"
 #include "lib/platform/File.h"
 #include "lib/secret/Secret.h"
 
 #include <cstdint>
-#include <string>
+#include <filesystem>
+#include <memory>
 
 namespace tessaly::crypto {
+
+/// What becomes of a file that stands where the output is to go.
+enum class ExistingOutput {
+    Keep,         ///< it stays, and the job fails
+    RemoveFirst,  ///< it goes before the work begins
+    ReplaceAtEnd, ///< it is whole until the new one takes its place
+};
 
 /// What to read, what to write and with which secret.
 struct FileJobRequest
 {
-    std::wstring input;
-    std::wstring output;
+    std::filesystem::path input;
+    std::filesystem::path output;
+    ExistingOutput existing = ExistingOutput::Keep;
     bool passwordMode = true;
-    bool salt = false;   ///< encryption only
-    SecretText password; ///< password mode
-    SecretBytes key;     ///< else
-    SecretBytes iv;      ///< else
+    bool useSalt = false; ///< encryption only
+    SecretText password;  ///< password mode
+    SecretBytes key;      ///< else
+    SecretBytes iv;       ///< else
+
+    void wipeSecrets();
 };
+
+/// A file that a job has opened or made: where, and what it was then.
+struct JobFile
+{
+    std::shared_ptr<const io::FilePlace> place; ///< null when the job did not come to it
+    platform::FileStatus status;
+};
+
+enum class JobStep { OpenInput, RemoveFormerOutput, CreateOutput, Process, StoreOutput };
 
 struct FileJobOutcome
 {
     bool cancelled = false;
     CryptoResult result;
-    /// The output as it was created; of kind Missing when the job created none.
-    platform::FileStatus output;
-    /// The input as it was opened.
-    platform::FileStatus input;
+    /// The last one that was begun: after a failure the one that failed.
+    JobStep step = JobStep::OpenInput;
+    /// There was an output of this job, or a former one that it removed, and nothing of it is left.
+    bool outputDeleted = false;
+    JobFile input;
+    JobFile output;
 
     bool done() const { return result.ok() && !cancelled; }
+    /// The failure has to do with the output, not with the input.
+    bool failedAtOutput() const;
 };
 
 /// Follows a job, on the thread that runs it.
@@ -50,17 +75,17 @@ public:
     virtual bool isJobCancelled() = 0;
 };
 
-/// Enciphers or deciphers one file into a new one: opens both, runs the engine, and waits until the
-/// output is on the disk. The output is created with the first bytes, and only where nothing stands.
-/// A partial output is left for the caller to remove with removeOutput. Blocks; to end it early call
-/// stop on the engine from another thread.
-FileJobOutcome runFileJob(ISymmetricEncryptor& encryptor, const FileJobRequest& request,
-                          IFileJobObserver& observer);
-FileJobOutcome runFileJob(ISymmetricDecryptor& decryptor, const FileJobRequest& request,
-                          IFileJobObserver& observer);
+/// Enciphers or deciphers one file into a new one, from making room for it to its name: the output
+/// appears when it is whole and on the disk, or not at all. The password is wiped as soon as the key is
+/// made of it, the rest of the secret at the end. Blocks; to end it early call stop on the engine from
+/// another thread. No exception leaves it.
+FileJobOutcome runFileJob(ISymmetricEncryptor& encryptor, FileJobRequest& request,
+                          IFileJobObserver& observer) noexcept;
+FileJobOutcome runFileJob(ISymmetricDecryptor& decryptor, FileJobRequest& request,
+                          IFileJobObserver& observer) noexcept;
 
-/// Removes the output that the job created, unless another file has taken its place since.
-/// True when it was removed.
-bool removeOutput(const FileJobRequest& request, const FileJobOutcome& outcome);
+/// The first step of a job alone, for one that cannot be started: removes the former output when it is
+/// to go first. `removed` tells whether there was one.
+ResultCode makeRoom(const FileJobRequest& request, bool& removed);
 
 } // namespace tessaly::crypto

@@ -1,6 +1,7 @@
 #include "lib/file/IStreamUtf8File.h"
 
 #include "lib/err/ErrorCodes.h"
+#include "lib/platform/Path.h"
 
 #include <string_view>
 
@@ -18,7 +19,7 @@ ResultCode IStreamUtf8File::open(const std::wstring& path)
     if (path.empty())
         return err::library(err::NullArgument);
     m_left = options().sizeLimit;
-    ResultCode result = m_file.openForReading(path);
+    ResultCode result = m_file.openForReading(platform::pathFromWide(path));
     if (result.ok())
         result = checkFile();
     if (result.ok())

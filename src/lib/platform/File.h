@@ -4,7 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
+#include <filesystem>
 
 namespace tessaly::platform {
 
@@ -26,30 +26,40 @@ struct FileStatus
     std::uint64_t hardLinks = 0;
     std::int64_t size = 0;
     std::int64_t modifiedNs = 0; ///< since the system's epoch, modulo 2^64: only to compare for equality
+    std::uint32_t mode = 0;      ///< who may do what with it, as the system keeps it
+    std::uint32_t group = 0;
 
+    bool exists() const { return kind != FileKind::Missing; }
     bool sameFile(const FileStatus& other) const
     {
-        return kind != FileKind::Missing && device == other.device && inode == other.inode;
+        return exists() && device == other.device && inode == other.inode;
     }
 };
 
 /// Never blocks, whatever the path names. A path that cannot be examined counts as missing.
-FileStatus fileStatus(const std::wstring& path);
+FileStatus fileStatus(const std::filesystem::path& path);
 
-ResultCode removeFile(const std::wstring& path);
+ResultCode removeFile(const std::filesystem::path& path);
 
-/// Makes a created or removed entry of the folder that holds `path` durable.
-ResultCode syncFolderOf(const std::wstring& path);
+/// Who may use a file that is created.
+class Access
+{
+public:
+    static Access ownerOnly();
+    /// What the user's umask leaves.
+    static Access byUmask();
+    /// What the umask leaves, but nobody who could not read that file as well.
+    static Access noMoreThan(const FileStatus& file);
 
-enum class Creation {
-    OpenOrCreate,
-    CreateNew, ///< fails when anything stands at the path, a dangling link included
+private:
+    friend class Folder;
+    friend class File;
+    std::uint32_t m_mode = 0;
+    std::uint32_t m_group = 0;
+    bool m_forGroup = false; ///< another group than m_group gets no more than everybody
 };
 
-enum class Access {
-    Private, ///< the owner alone
-    Default, ///< what the user's umask leaves
-};
+enum class Lock { Shared, Exclusive };
 
 /// An open file; closes itself. One thread at a time, but for the queries of a const object.
 class File
@@ -61,23 +71,28 @@ public:
     File& operator=(File&& other) noexcept;
 
     /// Both close the file that was open before. Never blocks, not even on a FIFO.
-    ResultCode openForReading(const std::wstring& path);
-    ResultCode openForWriting(const std::wstring& path, Creation creation, Access access);
+    ResultCode openForReading(const std::filesystem::path& path);
+    /// Creates it when it is missing.
+    ResultCode openForWriting(const std::filesystem::path& path);
     bool isOpen() const { return m_handle >= 0; }
 
     ResultCode status(FileStatus& status) const;
     /// One read; zero bytes at the end of the file.
     ResultCode read(void* buffer, std::size_t count, std::size_t& countRead) const;
-    /// One write; may write less than asked.
+    /// One write; may write less than asked, but on success never nothing.
     ResultCode write(const void* buffer, std::size_t count, std::size_t& countWritten) const;
     ResultCode seekToEnd() const;
     /// Asks the system to begin writing to the disk what it holds of these bytes; does not wait.
     void startWriteback(std::int64_t offset, std::int64_t count) const;
     /// Returns when data and size have reached the disk.
     ResultCode sync() const;
+    /// Takes the file's advisory lock without waiting; it ends with the handle. An exclusive one takes
+    /// a file that is open for writing. See isLocked in Folder.h.
+    ResultCode tryLock(Lock lock) const;
     ResultCode close();
 
 private:
+    friend class Folder;
     int m_handle = -1;
 };
 

@@ -9,8 +9,9 @@ namespace tessaly::platform {
 void ignoreWriteSignals();
 
 /// While it lives, Ctrl-C, a hang-up or a request to terminate does not end the process: it is
-/// remembered, interrupts a blocking read, and calls `onInterrupt` on a thread of its own. One at a
-/// time in a process.
+/// remembered, interrupts a blocking read, and calls `onInterrupt` on a thread of its own. A signal that
+/// the process was started to ignore stays ignored; afterwards all is as it was before. One at a time in
+/// a process. Throws std::system_error when there can be no thread.
 class Interrupts
 {
 public:

@@ -1,5 +1,6 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 
+#include "common/path/PathText.h"
 #include "crypto/key/RandomBytes.h"
 #include "io/PrivateFile.h"
 #include "lib/secret/Hex.h"
@@ -202,7 +203,7 @@ void CSetKeyAndIvDialog::onUiSave()
     if (path.isEmpty())
         return;
     const SecretText text = textToKeep();
-    const ResultCode result = io::writePrivateFile(path.toStdWString(), text.view());
+    const ResultCode result = io::writePrivateFile(thisapp::textPath(path), text.view());
     if (result.ok())
         m_ui->lineEditMsg->showMessage(tr("The key and IV were saved. Only you can read the file."),
                                        MessageKind::Success);

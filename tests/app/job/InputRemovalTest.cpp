@@ -29,6 +29,22 @@ void replace(const std::string& path)
     fs::last_write_time(path, fs::last_write_time(path + ".old"));
 }
 
+crypto::JobFile opened(const fs::path& path)
+{
+    const auto place = std::make_shared<io::FilePlace>();
+    EXPECT_TRUE(place->open(path).ok());
+    return {place, platform::fileStatus(path)};
+}
+
+/// Another folder with the same names takes the place of the one that the job has worked in.
+void swapFolder(const test::TempFolder& dir)
+{
+    const fs::path moved = dir.path().string() + "-moved";
+    fs::rename(dir.path(), moved);
+    fs::copy(moved, dir.path());
+    fs::remove_all(moved);
+}
+
 const Case Cases[] = {
     {"nothing", [](auto&, auto&) {}, {}},
     {"decryption", [](auto&, auto& data) { data.operation = Operation::Decrypt; }, KeepReason::NotEncrypted},
@@ -48,6 +64,7 @@ const Case Cases[] = {
      KeepReason::SymbolicLink},
     {"input with a twin", [](auto& dir, auto&) { fs::create_hard_link(dir / "in", dir / "twin"); },
      KeepReason::HardLinks},
+    {"folder swapped", [](auto& dir, auto&) { swapFolder(dir); }, KeepReason::OutputDiffers},
 };
 
 TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
@@ -57,10 +74,10 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         const test::TempFolder folder;
         SEncryptData data;
         data.selection = DefaultAlgSelection;
-        data.inputPath = folder / "in";
-        data.outputPath = folder / "out";
-        data.outcome.input = platform::fileStatus(folder.write("in", "plain"));
-        data.outcome.output = platform::fileStatus(folder.write("out", std::string(64, 'x')));
+        folder.write("in", "plain");
+        folder.write("out", std::string(64, 'x'));
+        data.outcome.input = opened(folder.at("in"));
+        data.outcome.output = opened(folder.at("out"));
         c.happens(folder, data);
         const InputRemoval removal = removeInput(data);
         EXPECT_EQ(removal.kept, c.kept);

@@ -121,10 +121,11 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     const auto request = JobRequest(GetParam(), host, host).run();
     ASSERT_TRUE(request);
     EXPECT_EQ(request->operation, GetParam());
-    EXPECT_EQ(request->inputPath, folder / "in.txt");
-    EXPECT_FALSE(request->passwordMode);
-    EXPECT_EQ(request->key.size(), 32U);
-    EXPECT_TRUE(request->rewriteOutput && request->outputFlag);
+    EXPECT_EQ(request->request.input, folder.at("in.txt"));
+    EXPECT_FALSE(request->request.passwordMode);
+    EXPECT_EQ(request->request.key.size(), 32U);
+    EXPECT_TRUE(request->rewriteOutput);
+    EXPECT_EQ(request->request.existing, crypto::ExistingOutput::RemoveFirst);
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
 
@@ -147,9 +148,10 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
     const auto request = JobRequest(GetParam(), host, host).run();
     ASSERT_TRUE(request);
     EXPECT_EQ(visits, 2);
-    EXPECT_TRUE(request->passwordMode && request->useSalt && !request->outputFlag);
-    EXPECT_EQ(request->password.view(), "secret");
-    EXPECT_TRUE(request->key.empty());
+    EXPECT_TRUE(request->request.passwordMode && request->request.useSalt);
+    EXPECT_EQ(request->request.existing, crypto::ExistingOutput::Keep);
+    EXPECT_EQ(request->request.password.view(), "secret");
+    EXPECT_TRUE(request->request.key.empty());
 }
 
 TEST_P(JobRequestTest, AsksAsTheSettingsSay)

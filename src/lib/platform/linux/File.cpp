@@ -1,36 +1,17 @@
 #include "lib/platform/File.h"
 
-#include "lib/err/ErrorCodes.h"
-#include "lib/platform/Path.h"
+#include "lib/platform/linux/FileStatus.h"
+#include "lib/platform/linux/SystemCall.h"
 
-#include <cerrno>
 #include <fcntl.h>
-#include <filesystem>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
 namespace tessaly::platform {
 
-namespace {
-
-/// Success or the system's last error.
-ResultCode outcome(bool succeeded)
-{
-    return succeeded ? ResultCode{} : err::system(errno);
-}
-
-/// Repeats a system call that a signal interrupted.
-template <class Call>
-auto uninterrupted(Call call)
-{
-    auto result = call();
-    while (result == -1 && errno == EINTR)
-        result = call();
-    return result;
-}
-
-FileStatus fromStat(const struct stat& info)
+FileStatus toFileStatus(const struct stat& info)
 {
     FileStatus status;
     status.kind = S_ISREG(info.st_mode)   ? FileKind::Regular
@@ -44,55 +25,64 @@ FileStatus fromStat(const struct stat& info)
     status.modifiedNs =
         static_cast<std::int64_t>(static_cast<std::uint64_t>(info.st_mtim.tv_sec) * 1000000000U +
                                   static_cast<std::uint64_t>(info.st_mtim.tv_nsec));
+    status.mode = info.st_mode & 07777U;
+    status.group = info.st_gid;
     return status;
 }
 
-/// A path with an embedded zero names nothing: the system would cut it there.
-bool isUsable(const std::wstring& path)
+FileStatus entryStatus(int folder, const char* name)
 {
-    return !path.empty() && path.find(L'\0') == std::wstring::npos;
-}
-
-} // namespace
-
-FileStatus fileStatus(const std::wstring& path)
-{
-    if (!isUsable(path))
-        return {};
-    const std::string name = nativePath(path);
     struct stat link = {};
-    if (::lstat(name.c_str(), &link) != 0)
+    if (::fstatat(folder, name, &link, AT_SYMLINK_NOFOLLOW) != 0)
         return {};
     struct stat target = {};
     FileStatus status;
-    if (::stat(name.c_str(), &target) == 0)
-        status = fromStat(target);
+    if (::fstatat(folder, name, &target, 0) == 0)
+        status = toFileStatus(target);
     else
         status.kind = FileKind::DanglingLink;
     status.isLink = S_ISLNK(link.st_mode);
     return status;
 }
 
-ResultCode removeFile(const std::wstring& path)
+bool isUsable(const std::filesystem::path& path)
+{
+    return !path.empty() && path.native().find('\0') == std::string::npos;
+}
+
+FileStatus fileStatus(const std::filesystem::path& path)
+{
+    return isUsable(path) ? entryStatus(AT_FDCWD, path.c_str()) : FileStatus{};
+}
+
+ResultCode removeFile(const std::filesystem::path& path)
 {
     if (!isUsable(path))
         return err::system(ENOENT);
-    return outcome(::unlink(nativePath(path).c_str()) == 0);
+    return outcome(uninterrupted([&] { return ::unlink(path.c_str()); }) == 0);
 }
 
-ResultCode syncFolderOf(const std::wstring& path)
+Access Access::ownerOnly()
 {
-    std::string folder = std::filesystem::path(nativePath(path)).parent_path().string();
-    if (folder.empty())
-        folder = ".";
-    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) // a folder that takes files without showing them can't be synced; the file itself was
-        return outcome(errno == EACCES);
-    ResultCode result = outcome(::fsync(handle) == 0);
-    if (result == err::system(EINVAL)) // some file systems have nothing to sync in a folder
-        result = {};
-    ::close(handle);
-    return result;
+    Access access;
+    access.m_mode = 0600;
+    return access;
+}
+
+Access Access::byUmask()
+{
+    Access access;
+    access.m_mode = 0666;
+    return access;
+}
+
+Access Access::noMoreThan(const FileStatus& file)
+{
+    Access access;
+    access.m_mode = file.mode & 0666U;
+    access.m_group = file.group;
+    access.m_forGroup = true;
+    return access;
 }
 
 File::~File()
@@ -110,31 +100,21 @@ File& File::operator=(File&& other) noexcept
     return *this;
 }
 
-ResultCode File::openForReading(const std::wstring& path)
+ResultCode File::openForReading(const std::filesystem::path& path)
 {
     (void)close();
     if (!isUsable(path))
         return err::system(ENOENT);
-    const std::string name = nativePath(path);
-    m_handle =
-        uninterrupted([&] { return ::open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK); });
-    if (!isOpen())
-        return err::system(errno);
-    ::posix_fadvise(m_handle, 0, 0, POSIX_FADV_SEQUENTIAL);
-    return {};
+    m_handle = uninterrupted([&] { return ::open(path.c_str(), ReadingFlags); });
+    return outcome(isOpen());
 }
 
-ResultCode File::openForWriting(const std::wstring& path, Creation creation, Access access)
+ResultCode File::openForWriting(const std::filesystem::path& path)
 {
     (void)close();
     if (!isUsable(path))
         return err::system(ENOENT);
-    const std::string name = nativePath(path);
-    int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
-    if (creation == Creation::CreateNew)
-        flags |= O_EXCL;
-    const mode_t mode = access == Access::Private ? 0600 : 0666;
-    m_handle = uninterrupted([&] { return ::open(name.c_str(), flags, mode); });
+    m_handle = uninterrupted([&] { return ::open(path.c_str(), WritingFlags | O_CREAT, 0666); });
     return outcome(isOpen());
 }
 
@@ -143,7 +123,7 @@ ResultCode File::status(FileStatus& status) const
     struct stat info = {};
     if (::fstat(m_handle, &info) != 0)
         return err::system(errno);
-    status = fromStat(info);
+    status = toFileStatus(info);
     return {};
 }
 
@@ -158,6 +138,8 @@ ResultCode File::write(const void* buffer, std::size_t count, std::size_t& count
 {
     const ssize_t put = uninterrupted([&] { return ::write(m_handle, buffer, count); });
     countWritten = put > 0 ? static_cast<std::size_t>(put) : 0;
+    if (put == 0 && count > 0) // no reason given, and asking again would go on for ever
+        return err::system(EIO);
     return outcome(put >= 0);
 }
 
@@ -174,6 +156,12 @@ void File::startWriteback(std::int64_t offset, std::int64_t count) const
 ResultCode File::sync() const
 {
     return outcome(uninterrupted([&] { return ::fsync(m_handle); }) == 0);
+}
+
+ResultCode File::tryLock(Lock lock) const
+{
+    const int kind = lock == Lock::Shared ? LOCK_SH : LOCK_EX;
+    return outcome(uninterrupted([&] { return ::flock(m_handle, kind | LOCK_NB); }) == 0);
 }
 
 ResultCode File::close()

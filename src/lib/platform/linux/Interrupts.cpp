@@ -24,19 +24,20 @@ void onSignal(int)
     ::sem_post(&wakeUp);
 }
 
-void handle(int signal, void (*handler)(int))
+struct sigaction actionOf(void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler; // without SA_RESTART, so that a blocked read ends
-    ::sigaction(signal, &action, nullptr);
+    return action;
 }
 
 } // namespace
 
 void ignoreWriteSignals()
 {
-    handle(SIGPIPE, SIG_IGN);
-    handle(SIGXFSZ, SIG_IGN);
+    const struct sigaction ignored = actionOf(SIG_IGN);
+    for (const int signal : {SIGPIPE, SIGXFSZ})
+        ::sigaction(signal, &ignored, nullptr);
 }
 
 struct Interrupts::Watcher
@@ -44,6 +45,7 @@ struct Interrupts::Watcher
     std::function<void()> onInterrupt;
     std::atomic<bool> ending = false;
     std::thread thread;
+    std::array<struct sigaction, CaughtSignals.size()> before{};
 
     void run()
     {
@@ -65,16 +67,25 @@ Interrupts::Interrupts(std::function<void()> onInterrupt) : m_watcher(std::make_
     for (const int signal : CaughtSignals)
         ::sigaddset(&caught, signal);
     ::pthread_sigmask(SIG_BLOCK, &caught, &before);
-    m_watcher->thread = std::thread([this] { m_watcher->run(); });
+    try {
+        m_watcher->thread = std::thread([this] { m_watcher->run(); });
+    } catch (...) {
+        ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+        throw;
+    }
     ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    for (const int signal : CaughtSignals)
-        handle(signal, onSignal);
+    const struct sigaction noticed = actionOf(onSignal);
+    for (std::size_t i = 0; i < CaughtSignals.size(); ++i) {
+        ::sigaction(CaughtSignals[i], nullptr, &m_watcher->before[i]);
+        if (m_watcher->before[i].sa_handler != SIG_IGN)
+            ::sigaction(CaughtSignals[i], &noticed, nullptr);
+    }
 }
 
 Interrupts::~Interrupts()
 {
-    for (const int signal : CaughtSignals)
-        handle(signal, SIG_DFL);
+    for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
+        ::sigaction(CaughtSignals[i], &m_watcher->before[i], nullptr);
     m_watcher->ending = true;
     ::sem_post(&wakeUp);
     m_watcher->thread.join();

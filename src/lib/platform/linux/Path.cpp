@@ -89,6 +89,16 @@ std::string nativePath(std::wstring_view wide)
     return native;
 }
 
+std::filesystem::path pathFromWide(std::wstring_view wide)
+{
+    return nativePath(wide);
+}
+
+std::wstring wideText(const std::filesystem::path& path)
+{
+    return widePath(path.native());
+}
+
 wchar_t lowerCase(wchar_t c)
 {
     static const locale_t unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);

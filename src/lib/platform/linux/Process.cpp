@@ -16,6 +16,11 @@ std::uint32_t threadId()
     return static_cast<std::uint32_t>(::gettid());
 }
 
+void endProcess(int exitCode)
+{
+    ::_exit(exitCode);
+}
+
 bool disableCoreDumps()
 {
     // The limit alone doesn't reach a handler that the kernel pipes dumps to.

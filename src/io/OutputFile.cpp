@@ -1,0 +1,215 @@
+#include "io/OutputFile.h"
+
+#include "lib/err/ErrorCodes.h"
+#include "lib/sync/Locker.h"
+#include "lib/sync/SafeData.h"
+
+#include <cstdlib>
+#include <random>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace tessaly::io {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Begins every hidden name of ours, and nobody else's.
+constexpr const char* HiddenPrefix = ".quillet-partial-";
+/// Names are tried until one is free; in practice the first is.
+constexpr int NameAttempts = 8;
+
+fs::path randomHiddenName()
+{
+    std::random_device random;
+    std::string name = HiddenPrefix;
+    for (int word = 0; word < 4; ++word)
+        name += std::to_string(random());
+    return name;
+}
+
+using HiddenPaths = sync::internal::SafeData<sync::Locker, std::set<fs::path>>;
+
+/// Where outputs stand under a hidden name at this moment. Never destroyed: a worker may outlive main.
+HiddenPaths& hiddenPaths()
+{
+    static auto* paths = [] {
+        std::atexit(OutputFile::removeHiddenNames);
+        return new HiddenPaths;
+    }();
+    return *paths;
+}
+
+/// A process that was killed may have left hidden files. Whoever still writes one holds its lock.
+void removeForsaken(const platform::Folder& folder)
+{
+    for (const fs::path& name : folder.ownFiles(HiddenPrefix)) {
+        platform::File file;
+        if (folder.openForReading(name, file).ok() && file.tryLock(platform::Lock::Shared).ok())
+            static_cast<void>(folder.remove(name));
+    }
+}
+
+} // namespace
+
+OutputFile::~OutputFile()
+{
+    static_cast<void>(discard());
+}
+
+ResultCode OutputFile::open(std::shared_ptr<const FilePlace> place, const platform::Access& access)
+{
+    m_place = std::move(place);
+    if (m_kind == Kind::Hidden)
+        return createHidden(access);
+    platform::File file;
+    ResultCode created = m_place->folder().createNameless(access, file);
+    if (platform::isUnsupported(created))
+        return createHidden(access);
+    if (created.ok())
+        created = file.status(m_status);
+    return created.ok() ? m_stream.open(std::move(file)) : created;
+}
+
+ResultCode OutputFile::createHidden(const platform::Access& access)
+{
+    removeForsaken(m_place->folder());
+    for (int attempt = 0; attempt < NameAttempts; ++attempt) {
+        platform::File file;
+        setHiddenName(randomHiddenName());
+        ResultCode result = m_place->folder().createNew(m_hiddenName, access, file);
+        if (result.ok())
+            result = file.status(m_status);
+        if (!result.ok()) {
+            static_cast<void>(discard());
+            return result;
+        }
+        // Before the lock somebody may have taken the file for a forsaken one.
+        const bool locked = !platform::isLocked(file.tryLock(platform::Lock::Exclusive));
+        if (locked && m_place->folder().status(m_hiddenName).sameFile(m_status))
+            return m_stream.open(std::move(file));
+    }
+    return err::library(err::OpenFileFailed);
+}
+
+void OutputFile::setHiddenName(fs::path name)
+{
+    fs::path path = name.empty() ? fs::path() : fs::absolute(m_place->path()).parent_path() / name;
+    hiddenPaths().with([&](std::set<fs::path>& paths) {
+        paths.erase(m_hiddenPath);
+        if (!path.empty())
+            paths.insert(path);
+    });
+    m_hiddenName = std::move(name);
+    m_hiddenPath = std::move(path);
+}
+
+std::int64_t OutputFile::write(const void* buffer, std::int64_t count)
+{
+    m_begun = true;
+    return m_stream.write(buffer, count);
+}
+
+ResultCode OutputFile::commit(Existing existing, const std::function<bool()>& isWanted)
+{
+    m_begun = true;
+    ResultCode result = m_stream.flush();
+    if (result.ok() && !isWanted())
+        result = err::library(err::OperationStopped);
+    if (result.ok())
+        result = m_stream.file().status(m_status);
+    // Looked at before as well: a file that takes the place of another cannot be withdrawn.
+    if (result.ok() && !m_place->folder().isParentOf(m_place->path()))
+        result = err::library(err::OutputNotFound);
+    if (result.ok())
+        result = publish(existing);
+    if (result.ok())
+        result = verify();
+    if (!result.ok()) {
+        static_cast<void>(discard());
+        return result;
+    }
+    m_visible = m_replaced = false; // from now on it is the user's
+    return m_stream.close();
+}
+
+ResultCode OutputFile::verify() const
+{
+    if (const ResultCode synced = m_place->folder().sync(); !synced.ok())
+        return synced;
+    return m_place->names(m_status) ? ResultCode{} : err::library(err::OutputNotFound);
+}
+
+ResultCode OutputFile::publish(Existing existing)
+{
+    ResultCode result = publishNew();
+    if (platform::isOccupied(result) && existing == Existing::Replace) {
+        const platform::FileStatus former = m_place->status();
+        if (former.isLink || former.kind != platform::FileKind::Regular)
+            return result;
+        if (const ResultCode named = nameHidden(); !named.ok())
+            return named;
+        result = m_place->folder().renameOver(m_hiddenName, m_place->name());
+        m_replaced = result.ok();
+    }
+    if (result.ok()) {
+        setHiddenName({});
+        m_visible = true;
+    }
+    return result;
+}
+
+ResultCode OutputFile::publishNew()
+{
+    const platform::Folder& folder = m_place->folder();
+    return m_hiddenName.empty() ? folder.link(m_stream.file(), m_place->name())
+                                : folder.renameToNew(m_hiddenName, m_place->name());
+}
+
+/// Only a name can be renamed over another.
+ResultCode OutputFile::nameHidden()
+{
+    if (!m_hiddenName.empty())
+        return {};
+    const platform::Folder& folder = m_place->folder();
+    removeForsaken(folder);
+    static_cast<void>(m_stream.file().tryLock(platform::Lock::Exclusive));
+    setHiddenName(randomHiddenName());
+    return folder.link(m_stream.file(), m_hiddenName);
+}
+
+bool OutputFile::discard()
+{
+    const bool hidden = !m_hiddenName.empty();
+    bool gone = !m_replaced && withdraw();
+    if (hidden) {
+        const bool removed = m_place->folder().remove(m_hiddenName).ok();
+        gone = gone && (removed || !m_place->folder().status(m_hiddenName).sameFile(m_status));
+        setHiddenName({});
+    }
+    static_cast<void>(m_stream.close());
+    return gone;
+}
+
+/// Takes the name back from a file that must not stand at the path; another's there is left alone.
+bool OutputFile::withdraw()
+{
+    if (!m_visible)
+        return true;
+    m_visible = false;
+    if (m_place->status().sameFile(m_status))
+        static_cast<void>(m_place->remove());
+    return !m_place->status().sameFile(m_status);
+}
+
+void OutputFile::removeHiddenNames()
+{
+    const std::set<fs::path> paths =
+        hiddenPaths().with([](std::set<fs::path>& inUse) { return std::exchange(inUse, {}); });
+    for (const fs::path& path : paths)
+        static_cast<void>(platform::removeFile(path));
+}
+
+} // namespace tessaly::io

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "io/FilePlace.h"
+#include "io/OStreamFile.h"
+#include "lib/platform/File.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+namespace tessaly::io {
+
+/// A new file, from its first byte to its name. It is written without a name in the folder where it is
+/// to stand; where the file system has no such files, under a hidden name that is removed on every way
+/// out. Only commit makes it appear, whole and on the disk; without it nothing ever stands at the path.
+/// One thread, but for lastError.
+class OutputFile final : public OStreamBytes
+{
+public:
+    enum class Existing {
+        Keep,    ///< what has come to stand at the path stays, and commit fails
+        Replace, ///< it gives way in one step, and is whole until then
+    };
+
+    enum class Kind {
+        Nameless, ///< where the file system allows it, else hidden
+        Hidden,
+    };
+
+    explicit OutputFile(Kind kind = Kind::Nameless) : m_kind(kind) {}
+    /// Discards what was not committed.
+    ~OutputFile() override;
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    /// The place is an open one. Errors are the system's.
+    ResultCode open(std::shared_ptr<const FilePlace> place, const platform::Access& access);
+
+    [[nodiscard]] std::int64_t write(const void* buffer, std::int64_t count) override;
+    ResultCode lastError() const override { return m_stream.lastError(); }
+    /// Somebody has tried to write to it.
+    bool isBegun() const { return m_begun; }
+
+    /// Flushes the file, names it and flushes the folder. `isWanted` is asked between the first two, as
+    /// the flush may take long: (5, 1004) when the file is not wanted any more. (5, 203) when, at the
+    /// end, the path does not name the file: its folder has been moved. After any failure nothing of the
+    /// file is left, unless it has already taken the place of an existing one.
+    ResultCode commit(
+        Existing existing, const std::function<bool()>& isWanted = [] { return true; });
+    /// True when nothing of the file is left, which only a failing disk prevents.
+    bool discard();
+
+    /// The file itself, as it was created or, later, committed.
+    const platform::FileStatus& status() const { return m_status; }
+
+    /// Removes the hidden names that are in use, for an end of the process in the middle of a job.
+    static void removeHiddenNames();
+
+private:
+    ResultCode createHidden(const platform::Access& access);
+    ResultCode publish(Existing existing);
+    ResultCode publishNew();
+    ResultCode nameHidden();
+    ResultCode verify() const;
+    bool withdraw();
+    void setHiddenName(std::filesystem::path name);
+
+    const Kind m_kind;
+    std::shared_ptr<const FilePlace> m_place;
+    OStreamFile<wchar_t> m_stream;
+    platform::FileStatus m_status;
+    std::filesystem::path m_hiddenName; ///< empty while the file has none
+    std::filesystem::path m_hiddenPath;
+    bool m_begun = false;
+    bool m_visible = false;  ///< it stands at the path
+    bool m_replaced = false; ///< in the place of a former file, so that it must stay
+};
+
+} // namespace tessaly::io
