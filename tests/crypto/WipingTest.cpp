@@ -60,6 +60,42 @@ TEST(Wiping, TheSearchFindsWhatIsNotWiped)
     EXPECT_EQ(leaksOf({bytes}, [&] { const SecretBytes careful = secret(bytes); }), 0);
 }
 
+/// Neither in memory that is given back nor in what is kept for the next bytes.
+TEST(Wiping, NoWayOfEmptyingASecretLeavesItsBytes)
+{
+    struct Way
+    {
+        const char* name;
+        std::function<void(SecretBytes&)> empty;
+    };
+    const Way ways[] = {
+        {"nothing assigned", [](auto& bytes) { bytes = {}; }},
+        {"a list assigned",
+         [](auto& bytes) {
+             bytes = {1, 2};
+         }},
+        {"a copy assigned", [other = SecretBytes(3)](auto& bytes) { bytes = other; }},
+        {"a shorter one moved there", [](auto& bytes) { bytes = SecretBytes(3); }},
+        {"moved away", [](auto& bytes) { const SecretBytes gone = std::move(bytes); }},
+        {"cleared", [](auto& bytes) { bytes.clear(); }},
+        {"shortened", [](auto& bytes) { bytes.resize(9); }},
+        {"grown, then shortened", [](auto& bytes) { bytes.resize(500), bytes.resize(3); }},
+        {"popped", [](auto& bytes) { std::ranges::for_each(noise(60), [&](auto) { bytes.pop_back(); }); }},
+    };
+    const Bytes all = noise(64);
+    const Bytes rest(all.begin() + 9, all.end());
+    for (const Way& way : ways) {
+        SecretBytes bytes = secret(all);
+        const std::uint8_t* memory = bytes.data();
+        EXPECT_EQ(leaksOf({rest}, [&] { way.empty(bytes); }), 0) << way.name;
+        const bool kept = bytes.data() == memory;
+        EXPECT_TRUE(!kept || std::all_of(memory + 9, memory + 64, [](auto byte) { return byte == 0; }))
+            << way.name;
+    }
+    tessaly::SecretText text("a password of some length");
+    EXPECT_EQ(leaksOf({{'p', 'a', 's', 's'}}, [&] { text = tessaly::SecretText("short"); }), 0);
+}
+
 /// Password, key and plain data stay in no freed block, whether all goes well or not.
 TEST(Wiping, NoSecretStaysBehind)
 {

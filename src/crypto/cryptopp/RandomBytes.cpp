@@ -8,7 +8,7 @@ namespace tessaly::crypto {
 
 CryptoResult randomBytes(std::size_t count, SecretBytes& bytes)
 {
-    bytes.assign(count, 0);
+    bytes = SecretBytes(count);
     const CryptoResult result = cryptopp::guarded(
         {}, [&bytes] { CryptoPP::OS_GenerateRandomBlock(false, bytes.data(), bytes.size()); });
     if (!result.ok())

@@ -2,10 +2,8 @@
 
 #include "crypto/key/Hash.h"
 
-#include <algorithm>
-#include <array>
-#include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace tessaly::crypto {
 
@@ -26,12 +24,12 @@ CryptoResult appendRound(SecretBytes& key, std::uint32_t round, std::uint32_t ha
     buffer.reserve(RoundBufferSize);
     const std::string_view prefix = roundPrefix(round);
     const std::string_view start = password.substr(0, RoundBufferSize - prefix.size());
-    buffer.insert(buffer.end(), prefix.begin(), prefix.end());
-    buffer.insert(buffer.end(), start.begin(), start.end());
+    buffer.append(prefix.begin(), prefix.end());
+    buffer.append(start.begin(), start.end());
 
     SecretBytes digest;
     const CryptoResult result = hash(hashId, buffer.data(), buffer.size(), digest);
-    key.insert(key.end(), digest.begin(), digest.end());
+    key.append(digest.begin(), digest.end());
     return result;
 }
 
@@ -56,7 +54,7 @@ CryptoResult deriveKey(SecretBytes& key, std::uint32_t keyLength, std::uint32_t 
     const CryptoResult result = extendKey(material, keyLength, hashId, password);
     if (result.ok()) {
         material.resize(keyLength);
-        key.swap(material);
+        key = std::move(material);
     }
     return result;
 }

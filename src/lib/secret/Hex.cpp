@@ -48,15 +48,15 @@ std::optional<SecretBytes> decodeHex(std::string_view text)
 SecretText encodeHex(std::span<const std::uint8_t> bytes)
 {
     constexpr std::string_view Digits = "0123456789ABCDEF";
-    std::vector<char, WipingAllocator<char>> text;
+    SecretBytes text;
     text.reserve(bytes.size() * 2 + bytes.size() / 4);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         if (i > 0 && i % 4 == 0)
             text.push_back(' ');
-        text.push_back(Digits[bytes[i] >> 4U]);
-        text.push_back(Digits[bytes[i] & 0xFU]);
+        text.push_back(static_cast<std::uint8_t>(Digits[bytes[i] >> 4U]));
+        text.push_back(static_cast<std::uint8_t>(Digits[bytes[i] & 0xFU]));
     }
-    return SecretText({text.data(), text.size()});
+    return SecretText({reinterpret_cast<const char*>(text.data()), text.size()});
 }
 
 } // namespace tessaly

@@ -20,7 +20,7 @@ SecretText keyAndIvText(const QString& algorithmName, const SecretBytes& key, co
           std::string_view(name.constData(), static_cast<std::size_t>(name.size())),
           std::string_view("\nInitialization vector (IV): "), ivText.view(), std::string_view("\nKey: "),
           keyText.view(), std::string_view("\n")})
-        text.insert(text.end(), part.begin(), part.end());
+        text.append(part.begin(), part.end());
     return SecretText({reinterpret_cast<const char*>(text.data()), text.size()});
 }
 

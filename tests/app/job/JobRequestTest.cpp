@@ -107,11 +107,17 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     host.password = [](PasswordEntry&) { return true; }; // accepted, but empty
     expectRefusal(Area::Result, "Password not defined");
     host.password = [](PasswordEntry& entry) { return entry.switchToAdvanced = true; };
-    host.key = [](KeyEntry& entry) { return entry.key.assign(31, 1), entry.iv.assign(15, 2), true; };
+    host.key = [](KeyEntry& entry) {
+        return entry.key = SecretBytes(31, 1), entry.iv = SecretBytes(15, 2), true;
+    };
     expectRefusal(Area::Result, "Invalid IV size. Entered 15 bytes");
-    host.key = [](KeyEntry& entry) { return entry.key.assign(31, 1), entry.iv.assign(16, 2), true; };
+    host.key = [](KeyEntry& entry) {
+        return entry.key = SecretBytes(31, 1), entry.iv = SecretBytes(16, 2), true;
+    };
     expectRefusal(Area::Result, "Invalid key size. Entered 16 bytes"); // the size of the IV
-    host.key = [](KeyEntry& entry) { return entry.key.assign(32, 1), entry.iv.assign(16, 2), true; };
+    host.key = [](KeyEntry& entry) {
+        return entry.key = SecretBytes(32, 1), entry.iv = SecretBytes(16, 2), true;
+    };
     expectRefusal(Area::Result,
                   pick("Failed to prepare encryption engine.", "Failed to prepare decryption engine."));
     host.engine = true;
