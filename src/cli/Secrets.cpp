@@ -1,12 +1,15 @@
 #include "cli/Secrets.h"
 
+#include "common/secret/PasswordRules.h"
 #include "crypto/catalogue/Catalogue.h"
+#include "lib/platform/Interrupts.h"
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <string_view>
 
 namespace cli {
 
@@ -41,22 +44,23 @@ bool readSecretFile(const std::string& path, bool firstLineOnly, SecretBytes& by
             return false;
         bytes.push_back(static_cast<std::uint8_t>(c));
     }
-    if (firstLineOnly && !bytes.empty() && bytes.back() == '\r')
-        bytes.pop_back();
+    if (firstLineOnly && bytes.size() > 0 && bytes.data()[bytes.size() - 1] == '\r')
+        bytes.resize(bytes.size() - 1);
     return std::ferror(file.get()) == 0;
 }
 
 bool acceptPassword(const SecretBytes& bytes, SecretText& password, std::string& problem)
 {
-    if (bytes.empty()) {
+    if (bytes.size() == 0) {
         problem = "the password is empty";
         return false;
     }
-    if (std::ranges::find(bytes, 0) != bytes.end()) {
-        problem = "the password holds a zero byte";
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (const char* found = thisapp::passwordProblem(text)) {
+        problem = found;
         return false;
     }
-    password = SecretText({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    password = SecretText(text);
     return true;
 }
 
@@ -82,23 +86,17 @@ bool readHexFile(const std::string& path, const char* what, std::uint32_t length
     return true;
 }
 
-bool ask(const char* prompt, SecretBytes& line)
-{
-    std::fputs(prompt, stderr);
-    const bool read = tessaly::platform::readHiddenLine(line);
-    std::fputc('\n', stderr);
-    return read;
-}
-
 SecretOutcome askForPassword(bool twice, SecretText& password, std::string& problem)
 {
+    using tessaly::platform::readHiddenLine;
     if (!tessaly::platform::isInputTerminal())
         return SecretOutcome::NotAsked;
     SecretBytes first;
     SecretBytes second;
-    if (!ask("Password: ", first) || (twice && !ask("Confirm password: ", second)))
-        return SecretOutcome::Interrupted;
-    if (twice && first != second) {
+    if (!readHiddenLine("Password: ", first) || (twice && !readHiddenLine("Confirm password: ", second)))
+        return tessaly::platform::Interrupts::happened() ? SecretOutcome::Interrupted
+                                                         : SecretOutcome::NotAsked;
+    if (twice && !std::ranges::equal(first, second)) {
         problem = "the passwords do not match";
         return SecretOutcome::Unusable;
     }

@@ -10,8 +10,10 @@ bool isErrorTerminal();
 /// Columns of the terminal behind standard error; 80 when it does not tell.
 unsigned errorTerminalWidth();
 
-/// Reads one line from the terminal without showing it; the line end is not part of it. False at
-/// the end of the input or when a signal interrupts. The terminal is as before afterwards.
-[[nodiscard]] bool readHiddenLine(SecretBytes& line);
+/// Shows the prompt and reads one line from the terminal without showing it; the line end is not part
+/// of it. Stopped and continued, it asks again, hidden as before. False at the end of the input or
+/// when Interrupts noticed a signal. The terminal is as before afterwards, and also while a signal
+/// stops the process or after one has ended it.
+[[nodiscard]] bool readHiddenLine(const char* prompt, SecretBytes& line);
 
 } // namespace tessaly::platform

@@ -4,7 +4,8 @@
 
 namespace tessaly::sync {
 
-/// A manual-reset event: once set it stays set, and every waiter passes, until reset.
+/// A manual-reset event: once set it stays set, and everybody passes, until reset. Who waits at the
+/// moment of the set passes even if the reset follows at once.
 class ISignalable
 {
 public:

@@ -4,42 +4,56 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <new>
 
 namespace tessaly::sync {
 
-/// Mutex, condition and flag. libstdc++ waits on the monotonic clock here, so a change of the
-/// wall clock neither shortens nor prolongs a wait.
+/// libstdc++ waits on the monotonic clock here, so a change of the wall clock neither shortens nor
+/// prolongs a wait.
 class Signal::Event
 {
+    /// Whoever waits now also passes a set that is taken back before it could run.
+    auto passes() const
+    {
+        return [this, before = m_timesSet] { return m_on || m_timesSet != before; };
+    }
+
 public:
-    void put(bool on)
+    void set()
     {
         // Notifying under the lock: a waiter that passes may destroy the event as soon as it has the lock.
         std::lock_guard guard(m_mutex);
-        m_on = on;
-        if (on)
-            m_condition.notify_all();
+        m_on = true;
+        ++m_timesSet;
+        m_condition.notify_all();
+    }
+
+    void reset()
+    {
+        std::lock_guard guard(m_mutex);
+        m_on = false;
     }
 
     bool waitFor(unsigned milliseconds)
     {
         std::unique_lock guard(m_mutex);
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-        return m_condition.wait_until(guard, deadline, [this] { return m_on; });
+        return m_condition.wait_until(guard, deadline, passes());
     }
 
     void waitForever()
     {
         std::unique_lock guard(m_mutex);
-        m_condition.wait(guard, [this] { return m_on; });
+        m_condition.wait(guard, passes());
     }
 
 private:
     std::mutex m_mutex;
     std::condition_variable m_condition;
     bool m_on = false;
+    std::uint64_t m_timesSet = 0;
 };
 
 Signal::Signal() : m_event(new (std::nothrow) Event)
@@ -57,7 +71,7 @@ ResultCode Signal::set()
 {
     if (!m_event)
         return err::library(err::NoObject);
-    m_event->put(true);
+    m_event->set();
     return {};
 }
 
@@ -65,7 +79,7 @@ ResultCode Signal::reset()
 {
     if (!m_event)
         return err::library(err::NoObject);
-    m_event->put(false);
+    m_event->reset();
     return {};
 }
 

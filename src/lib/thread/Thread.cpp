@@ -21,6 +21,12 @@ ResultCode call(IRunnable& runnable, std::uint32_t value, std::uintptr_t param)
 
 } // namespace
 
+/// Not left to the handle's release, which waits only in some libraries and only for the last one.
+Thread::~Thread()
+{
+    Thread::wait();
+}
+
 void Thread::setRunnable(IRunnable* runnable)
 {
     m_runnable = runnable;
@@ -36,12 +42,9 @@ ResultCode Thread::start(std::uintptr_t param)
     if (!m_running.compare_exchange_strong(idle, true))
         return err::library(err::Busy);
 
-    std::shared_future<void> previous; // released outside the lock: it may have to wait
-    std::lock_guard guard(m_lock);
-    m_result = {};
+    clearResult();
     try {
-        previous =
-            std::exchange(m_job, std::async(std::launch::async, [this, param] { runJob(param); }).share());
+        launch(param);
     } catch (...) {
         m_running = false;
         return err::library(err::LaunchFailed);
@@ -49,9 +52,32 @@ ResultCode Thread::start(std::uintptr_t param)
     return {};
 }
 
+/// Creates the thread outside the lock. The job begins once its handle is stored: it could else end,
+/// and a next job be launched, before that.
+void Thread::launch(std::uintptr_t param)
+{
+    std::promise<void> stored;
+    auto body = [this, param, mayBegin = stored.get_future()] {
+        mayBegin.wait();
+        runJob(param);
+    };
+    std::shared_future<void> job = std::async(std::launch::async, std::move(body)).share();
+    {
+        std::lock_guard guard(m_lock);
+        std::swap(m_job, job);
+    }
+    stored.set_value();
+}
+
 ResultCode Thread::start()
 {
     return start(0);
+}
+
+void Thread::clearResult()
+{
+    std::lock_guard guard(m_lock);
+    m_result = {};
 }
 
 void Thread::runJob(std::uintptr_t param)

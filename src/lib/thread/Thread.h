@@ -15,7 +15,7 @@ class Thread final : public IThread
 {
 public:
     Thread() = default;
-    ~Thread() override = default;
+    ~Thread() override;
     Thread(const Thread&) = delete;
     Thread& operator=(const Thread&) = delete;
 
@@ -35,6 +35,8 @@ public:
     void setValue(std::uint32_t value);
 
 private:
+    void launch(std::uintptr_t param);
+    void clearResult();
     void runJob(std::uintptr_t param);
     std::shared_future<void> job() const;
 
@@ -44,8 +46,7 @@ private:
     ResultCode m_result;
     std::atomic<std::int32_t> m_stopFlag{0};
     std::atomic<bool> m_running{false};
-    /// Last, so that its destruction, which waits for the job, comes before that of the rest.
-    std::shared_future<void> m_job;
+    std::shared_future<void> m_job; ///< of the last job launched
 };
 
 } // namespace tessaly::thread

@@ -1,12 +1,14 @@
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 #include "lib/sync/Signal.h"
+#include "support/Eventually.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <chrono>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -23,8 +25,12 @@ TEST(Locker, IsRecursiveAndExclusive)
     locker.unlock();
 
     bool taken = true;
-    std::thread([&] { taken = locker.tryLock(); }).join();
+    std::thread([&] {
+        taken = locker.tryLock();
+        EXPECT_THROW(locker.unlock(), std::system_error) << "another thread's lock";
+    }).join();
     EXPECT_FALSE(taken);
+    EXPECT_THROW(Locker().unlock(), std::system_error);
 }
 
 TEST(SafeData, CountsEveryIncrementOfTwoThreads)
@@ -57,17 +63,41 @@ TEST(Signal, StaysSetUntilReset)
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(30));
 }
 
-TEST(Signal, WakesEveryWaiter)
+/// Whether 40 waiters pass at once when the event is set.
+bool allPass(bool resetAtOnce)
 {
+    constexpr int Count = 40;
     Signal signal;
+    std::atomic<int> arrived = 0;
     std::atomic<int> passed = 0;
     std::vector<std::thread> waiters;
-    for (int i = 0; i < 4; ++i)
-        waiters.emplace_back([&] { passed += signal.wait(60000) ? 1 : 0; });
-    ASSERT_TRUE(signal.set().ok());
+    for (int i = 0; i < Count; ++i)
+        waiters.emplace_back([&, forever = i % 2 == 0] {
+            ++arrived;
+            passed += (forever ? signal.wait() : signal.wait(10000)) ? 1 : 0;
+        });
+    EXPECT_TRUE(test::eventually([&] { return arrived == Count; }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(100)); // from the count into the wait
+
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(signal.set().ok());
+    EXPECT_TRUE(!resetAtOnce || signal.reset().ok());
+    while (passed < Count && std::chrono::steady_clock::now() - start < std::chrono::seconds(2))
+        std::this_thread::yield();
+    const bool all = passed == Count;
+    EXPECT_EQ(signal.wait(0), !resetAtOnce);
+    for (; passed < Count; std::this_thread::yield()) // so that a failure ends, too
+        EXPECT_TRUE(signal.set().ok());
     for (auto& waiter : waiters)
         waiter.join();
-    EXPECT_EQ(passed, 4);
+    return all;
+}
+
+TEST(Signal, ReleasesAllWhoWait)
+{
+    EXPECT_TRUE(allPass(false));
+    for (int round = 0; round < 5; ++round) // now and then a waiter runs before the reset anyway
+        ASSERT_TRUE(allPass(true));
 }
 
 } // namespace

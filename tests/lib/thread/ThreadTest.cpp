@@ -1,10 +1,13 @@
 #include "lib/thread/Thread.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/sync/Signal.h"
+#include "support/NewThreads.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <optional>
 #include <thread>
 
 namespace {
@@ -103,6 +106,60 @@ TEST(Thread, ConcurrentStartsLaunchOneJob)
         ASSERT_NE(results[0].ok(), results[1].ok());
         ASSERT_EQ(results[results[0].ok() ? 1 : 0], err::library(err::Busy));
     } // the destructor waits
+}
+
+TEST(Thread, WithoutAThreadToRunOn)
+{
+    Job job;
+    Thread thread;
+    thread.setRunnable(&job);
+    ASSERT_TRUE(job.go.set().ok());
+    {
+        const test::NewThreads none([] { return false; });
+        EXPECT_EQ(thread.start(), err::library(err::LaunchFailed));
+    }
+    EXPECT_FALSE(thread.isRunning());
+    EXPECT_TRUE(thread.start().ok());
+}
+
+TEST(Thread, IsNotLockedWhileItsThreadIsCreated)
+{
+    Job job;
+    Thread thread;
+    thread.setRunnable(&job);
+    tessaly::sync::Signal creating;
+    tessaly::sync::Signal answered;
+    std::thread asker([&] {
+        ASSERT_TRUE(creating.wait());
+        EXPECT_TRUE(thread.result().ok());
+        ASSERT_TRUE(answered.set().ok());
+    });
+    {
+        const test::NewThreads slow([&] { return creating.set().ok() && answered.wait(2000); });
+        EXPECT_TRUE(thread.start().ok());
+    }
+    asker.join();
+    ASSERT_TRUE(job.go.set().ok());
+}
+
+TEST(Thread, EndsWithItsJobThoughAnotherThreadWaitsForItToo)
+{
+    Job job;
+    std::optional<Thread> thread(std::in_place);
+    thread->setRunnable(&job);
+    ASSERT_TRUE(thread->start().ok());
+    std::thread other([&] { thread->wait(); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(20)); // until the other one has its handle
+    std::atomic<bool> told = false;
+    std::thread teller([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        told = true;
+        ASSERT_TRUE(job.go.set().ok());
+    });
+    thread.reset();
+    EXPECT_TRUE(told);
+    teller.join();
+    other.join();
 }
 
 } // namespace

@@ -1,5 +1,14 @@
 #include "lib/platform/Terminal.h"
 
+#include "lib/platform/Interrupts.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <optional>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
@@ -8,30 +17,59 @@ namespace tessaly::platform {
 
 namespace {
 
-/// Switches the echo of standard input off for its lifetime.
-class EchoOff
+/// What would stop or end the process with the echo off; and the end of a stop, since the shell sets
+/// the terminal as it likes in between. Interrupts has the others.
+constexpr std::array CaughtSignals{SIGTSTP, SIGQUIT, SIGCONT};
+
+std::atomic<int> caughtSignal = 0;
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler writes it");
+
+void setTerminal(const termios& settings)
+{
+    while (::tcsetattr(STDIN_FILENO, TCSAFLUSH, &settings) != 0 && errno == EINTR)
+        ;
+}
+
+/// Shows the prompt, with the echo off and those signals caught for its lifetime.
+class HiddenPrompt
 {
 public:
-    EchoOff()
+    explicit HiddenPrompt(const char* prompt)
     {
-        m_known = ::tcgetattr(STDIN_FILENO, &m_before) == 0;
-        termios silent = m_before;
+        struct sigaction action = {};
+        action.sa_handler = [](int signal) { caughtSignal = signal; };
+        for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
+            ::sigaction(CaughtSignals[i], &action, &m_handling[i]);
+        m_known = ::tcgetattr(STDIN_FILENO, &m_settings) == 0;
+        termios silent = m_settings;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
         if (m_known)
-            ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
+            setTerminal(silent);
+        std::fputs(prompt, stderr);
     }
-    ~EchoOff()
+    ~HiddenPrompt()
     {
+        std::fputc('\n', stderr);
         if (m_known)
-            ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before);
+            setTerminal(m_settings);
+        for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
+            ::sigaction(CaughtSignals[i], &m_handling[i], nullptr);
     }
-    EchoOff(const EchoOff&) = delete;
-    EchoOff& operator=(const EchoOff&) = delete;
+    HiddenPrompt(const HiddenPrompt&) = delete;
+    HiddenPrompt& operator=(const HiddenPrompt&) = delete;
 
 private:
-    termios m_before = {};
+    std::array<struct sigaction, CaughtSignals.size()> m_handling = {};
+    termios m_settings = {};
     bool m_known = false;
 };
+
+/// Waits a moment for input. A signal that comes just before the wait is seen after it.
+bool hasInput()
+{
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    return ::poll(&input, 1, 100) > 0;
+}
 
 } // namespace
 
@@ -51,15 +89,28 @@ unsigned errorTerminalWidth()
     return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
 }
 
-bool readHiddenLine(SecretBytes& line)
+bool readHiddenLine(const char* prompt, SecretBytes& line)
 {
     line.clear();
-    const EchoOff echoOff;
-    std::uint8_t byte = 0;
-    while (::read(STDIN_FILENO, &byte, 1) == 1) {
-        if (byte == '\n')
+    std::optional<HiddenPrompt> shown(std::in_place, prompt);
+    while (!Interrupts::happened()) {
+        if (const int signal = caughtSignal.exchange(0)) {
+            line.clear();
+            shown.reset();
+            if (signal != SIGCONT)
+                ::raise(signal);
+            shown.emplace(prompt);
+        }
+        if (!hasInput())
+            continue;
+        std::uint8_t byte = 0;
+        const ssize_t count = ::read(STDIN_FILENO, &byte, 1);
+        if (count == 1 && byte == '\n')
             return true;
-        line.push_back(byte);
+        if (count == 1)
+            line.push_back(byte);
+        else if (count == 0 || errno != EINTR)
+            return false;
     }
     return false;
 }

@@ -1,0 +1,101 @@
+#!/usr/bin/env python3
+"""The console's password prompt on a terminal, with signals in between. Argument: the program."""
+
+import os
+import pty
+import select
+import signal
+import sys
+import tempfile
+import termios
+import time
+import unittest
+
+CLI = os.path.abspath(sys.argv.pop(1))
+PROMPT = b"Password: "
+SECRET = b"hunter2"
+
+
+def run_as_job(program):
+    """What a shell does with a command: a process group of its own in front; tells how it fares."""
+    job = os.fork()
+    if job == 0:
+        os.setpgid(0, 0)
+        signal.signal(signal.SIGTTOU, signal.SIG_IGN)
+        os.tcsetpgrp(0, os.getpid())
+        signal.signal(signal.SIGTTOU, signal.SIG_DFL)
+        os.execv(program[0], program)
+    os.write(1, b"job %d.\n" % job)
+    while os.WIFSTOPPED(status := os.waitpid(job, os.WUNTRACED)[1]):
+        os.write(1, b"stopped.\n")
+    os.write(1, b"ended with %d.\n" % os.waitstatus_to_exitcode(status))
+
+
+class Prompt(unittest.TestCase):
+    def start(self):
+        child, self.terminal = pty.fork()
+        if child == 0:
+            run_as_job([CLI, "decrypt", sys.argv[0]])
+            os._exit(0)
+        self.addCleanup(os.waitpid, child, 0)
+        self.addCleanup(os.close, self.terminal)
+        self.unread = self.shown = b""
+        self.wait_for(b"job ")
+        self.job = int(self.wait_for(b"."))
+        self.wait_for(PROMPT)
+        self.assert_echo(False)
+
+    def wait_for(self, text):
+        """Reads until the text comes; gives what came before it."""
+        while text not in self.unread:
+            self.assertTrue(select.select([self.terminal], [], [], 20)[0], self.unread)
+            self.unread += os.read(self.terminal, 1024)
+        before, _, self.unread = self.unread.partition(text)
+        self.shown += before + text
+        return before
+
+    def assert_echo(self, on):
+        wait_until = time.monotonic() + 5
+        while bool(termios.tcgetattr(self.terminal)[3] & termios.ECHO) != on:
+            self.assertLess(time.monotonic(), wait_until, "the echo is " + ("off" if on else "on"))
+            time.sleep(0.01)
+
+    def continue_with_echo(self):
+        """As shells do, which have settings of their own."""
+        settings = termios.tcgetattr(self.terminal)
+        settings[3] |= termios.ECHO
+        termios.tcsetattr(self.terminal, termios.TCSANOW, settings)
+        os.kill(self.job, signal.SIGCONT)
+
+    def test_is_hidden_again_after_a_stop(self):
+        self.start()
+        for stop, gives_echo_back in ((lambda: os.write(self.terminal, SECRET + b"\x1a"), True),
+                                      (lambda: os.kill(self.job, signal.SIGSTOP), False)):
+            stop()
+            self.wait_for(b"stopped.")
+            self.assert_echo(gives_echo_back)
+            self.continue_with_echo()
+            self.wait_for(PROMPT)
+            self.assert_echo(False)
+        os.write(self.terminal, SECRET + b"\n")
+        self.wait_for(b"ended with 3.")
+        self.assert_echo(True)
+        self.assertNotIn(SECRET, self.shown)
+
+    def test_ends_with_the_echo_back(self):
+        for end, code in ((b"\x03", 130), (b"\x1c", -signal.SIGQUIT), (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
+            with self.subTest(end):
+                self.start()
+                os.write(self.terminal, end) if isinstance(end, bytes) else os.kill(self.job, end)
+                self.wait_for(b"ended with %d." % code)
+                self.assert_echo(True)
+
+    def test_takes_every_character_for_what_it_is(self):
+        self.start()
+        os.write(self.terminal, b"a\0b\n")
+        self.wait_for(b"control character")
+        self.wait_for(b"ended with 1.")
+
+
+if __name__ == "__main__":
+    unittest.main()
