@@ -4,7 +4,6 @@
 #include "ui/algorithms/CSelectAlgFrame.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
@@ -254,20 +253,9 @@ TEST_F(MainWindowTest, NotifiesWhoLooksElsewhere)
     }
 }
 
-class UrlRecorder : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> urls;
-public slots:
-    void open(const QUrl& url) { urls += url; }
-};
-
 TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
 {
-    UrlRecorder opened;
-    QDesktopServices::setUrlHandler("file", &opened, "open");
+    test::UrlRecorder opened;
     const auto press = [this](Qt::Key key) { QTest::keyClick(w.window.get(), key, Qt::ControlModifier); };
     press(Qt::Key_F9);
     w.input().setText(w.path("no folder/in"));
@@ -277,7 +265,6 @@ TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
     w.output().setText("/out");
     press(Qt::Key_F9);
     press(Qt::Key_F10);
-    QDesktopServices::unsetUrlHandler("file");
     const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///")};
     EXPECT_EQ(opened.urls, expected);
 }
@@ -368,5 +355,3 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
 }
 
 } // namespace
-
-#include "MainWindowTest.moc"
