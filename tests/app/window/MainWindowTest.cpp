@@ -126,11 +126,15 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_TRUE(fs::exists(folder() / "out"));
 
     QTest::keyClick(w.window.get(), Qt::Key_F5);
-    EXPECT_EQ(w.progress().message(), "Encryption/Decryption already running.");
-    const float percent = w.progress().percent();
+    float percent = w.progress().percent();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return w.progress().percent() > percent; }, WindowHarness::JobTimeoutMs));
+    EXPECT_EQ(w.progress().notice(), "Encryption/Decryption already running.") << "after a report, too";
+    percent = w.progress().percent();
     QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
     EXPECT_EQ(w.input().text() + w.output().text(), "");
     EXPECT_EQ(w.progress().percent(), percent);
+    EXPECT_NE(w.progress().message(), "");
 
     QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
     EXPECT_FALSE(w.button("buttonStop").isEnabled()) << "nothing more to stop";
@@ -140,6 +144,7 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_FALSE(fs::exists(folder() / "out"));
     EXPECT_TRUE(fs::exists(folder() / "in"));
     EXPECT_EQ(w.window->windowTitle(), "Quillet");
+    EXPECT_EQ(w.progress().notice(), "");
 }
 
 TEST_F(MainWindowTest, ClosingEndsTheJobWithoutAPartialOutput)
