@@ -1,12 +1,13 @@
 #include "cli/Secrets.h"
 
+#include "common/secret/PasswordRules.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <string_view>
 
 namespace cli {
 
@@ -52,11 +53,12 @@ bool acceptPassword(const SecretBytes& bytes, SecretText& password, std::string&
         problem = "the password is empty";
         return false;
     }
-    if (std::ranges::find(bytes, 0) != bytes.end()) {
-        problem = "the password holds a zero byte";
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (const char* found = thisapp::passwordProblem(text)) {
+        problem = found;
         return false;
     }
-    password = SecretText({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    password = SecretText(text);
     return true;
 }
 

@@ -138,9 +138,9 @@ class Behaviour(unittest.TestCase):
             with self.subTest(arguments):
                 self.run_cli(*arguments, code=2)
         self.assertIn("has 15 bytes", self.run_cli("encrypt", "--key-file", "key", "--iv-file", "iv", "plain", code=1))
-        for password in ("", "zero\0byte"):
+        for password, word in (("", "empty"), ("zero\0byte", "control character"), ("a\rb", "line break"), ("\t", "tab")):
             self.write("pw", password)
-            self.encrypt("plain", code=1)
+            self.assertIn(word, self.encrypt("plain", code=1))
         self.assert_files("key", "iv")
 
     def test_closed_output_is_an_error(self):
