@@ -136,11 +136,15 @@ void saveAlgorithmDialogs(Gallery& gallery)
     gallery.save(QStringLiteral("algorithm_info"), info);
 }
 
+const thisapp::Shortcuts SomeShortcuts{{Qt::Key_F5, "Start encryption"},
+                                       {thisapp::ctrl(Qt::Key_F8), "Clear entered data"}};
+
 void saveOptionsDialog(Gallery& gallery)
 {
     COptionsDialog dialog;
     dialog.setAlgProvider(Provider);
     dialog.setLanguages({{1031, "Deutsch"}, {1033, "English"}, {1049, "Русский"}});
+    dialog.setShortcuts(SomeShortcuts);
     dialog.setLogFilePath(QStringLiteral("/home/user/.local/state/Tessaly/Quillet/quillet.log"));
     thisapp::SAppOptions options;
     options.encFileNameAddDate = true;
@@ -161,6 +165,7 @@ void saveOptionsDialog(Gallery& gallery)
 void saveInfoDialogs(Gallery& gallery)
 {
     CkeyboardShortcutInfoDialog shortcuts;
+    shortcuts.setShortcuts(SomeShortcuts);
     gallery.save(QStringLiteral("keyboard_shortcuts"), shortcuts);
     CAboutDialog about;
     gallery.save(QStringLiteral("about"), about);

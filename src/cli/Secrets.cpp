@@ -6,7 +6,6 @@
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <string_view>

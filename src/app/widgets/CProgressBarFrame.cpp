@@ -13,12 +13,13 @@ constexpr int StepsPerPercent = 100;
 } // namespace
 
 CProgressBarFrame::CProgressBarFrame(QWidget* parent)
-    : QFrame(parent), m_bar(new QProgressBar), m_message(new CMessageLine)
+    : QFrame(parent), m_bar(new QProgressBar), m_message(new CMessageLine), m_notice(new CMessageLine)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_bar);
     layout->addWidget(m_message);
+    layout->addWidget(m_notice);
 
     m_bar->setRange(0, 100 * StepsPerPercent);
     m_bar->setTextVisible(false);
@@ -29,22 +30,30 @@ void CProgressBarFrame::setProgress(float percent, thisapp::Message message)
 {
     m_percent = percent;
     m_bar->setValue(static_cast<int>(percent * StepsPerPercent));
-    setMessage(std::move(message));
+    m_message->setMessage(std::move(message));
+    show();
 }
 
-void CProgressBarFrame::setMessage(thisapp::Message message)
+void CProgressBarFrame::setNotice(thisapp::Message notice)
 {
-    m_message->setMessage(std::move(message));
+    m_notice->setVisible(!notice.isEmpty());
+    m_notice->setMessage(std::move(notice));
     show();
 }
 
 void CProgressBarFrame::reset()
 {
     setProgress(0, {});
+    setNotice({});
     hide();
 }
 
 QString CProgressBarFrame::message() const
 {
     return m_message->text();
+}
+
+QString CProgressBarFrame::notice() const
+{
+    return m_notice->text();
 }

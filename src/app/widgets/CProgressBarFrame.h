@@ -20,16 +20,19 @@ public:
 
     /// `percent` from 0 to 100; the frame shows itself.
     void setProgress(float percent, thisapp::Message message);
-    /// Leaves the bar as it is; the frame shows itself.
-    void setMessage(thisapp::Message message);
-    /// Value 0 and an empty message.
+    /// Stands below the progress, whatever that does, until the next notice or a reset; the frame shows
+    /// itself.
+    void setNotice(thisapp::Message notice);
+    /// Value 0 and no texts.
     void reset();
 
     float percent() const { return m_percent; }
     QString message() const;
+    QString notice() const;
 
 private:
     QProgressBar* m_bar;
     CMessageLine* m_message;
+    CMessageLine* m_notice;
     float m_percent = 0;
 };

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QAction>
+#include "app/window/Commands.h"
 
 #include <array>
-#include <cstddef>
+#include <functional>
+#include <vector>
 
 class QMainWindow;
 class QMenu;
@@ -11,41 +12,23 @@ class QToolBar;
 
 namespace thisapp {
 
-/// Every command of the main window, in the order of its menus.
-enum class ActionId : std::size_t {
-    AddFile,
-    OpenInputFolder,
-    OpenOutputFolder,
-    Quit,
-    Encrypt,
-    Decrypt,
-    Stop,
-    Clear,
-    Options,
-    DefaultAlgorithm,
-    AlgorithmInfo,
-    Shortcuts,
-    About,
-    Count,
-};
-
-/// The main window's menus and tool bar, made from one table. The actions show the shortcuts of
-/// ui/shortcuts, but don't react to keys themselves: the window's key handler does.
+/// The main window's menus and tool bar, made from the table of commands. The actions show the
+/// shortcuts, but don't react to keys themselves: the window's key handler does.
 class Actions
 {
 public:
-    /// Fills the window's menu bar and adds a tool bar; both belong to the window.
-    explicit Actions(QMainWindow& window);
+    /// Fills the window's menu bar and adds a tool bar; both belong to the window. `run` is called with
+    /// the command that the user has chosen.
+    Actions(QMainWindow& window, const std::function<void(const Command&)>& run);
 
-    QAction& operator[](ActionId id) const { return *m_actions[static_cast<std::size_t>(id)]; }
+    /// Enables what is offered in this state.
+    void setState(const CommandState& state);
     /// Sets all texts in the current language.
     void retranslate();
 
 private:
-    static constexpr std::size_t MenuCount = 4;
-
-    std::array<QAction*, static_cast<std::size_t>(ActionId::Count)> m_actions;
-    std::array<QMenu*, MenuCount> m_menus;
+    std::vector<QAction*> m_actions; ///< in the order of the table
+    std::array<QMenu*, static_cast<std::size_t>(Menu::Count)> m_menus;
     QToolBar* m_toolBar;
 };
 

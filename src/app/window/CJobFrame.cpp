@@ -180,7 +180,7 @@ void CJobFrame::showMessage(Area area, Message message)
 {
     switch (area) {
     case Area::Progress:
-        m_progress->setMessage(std::move(message));
+        m_progress->setNotice(std::move(message));
         break;
     case Area::Input:
         m_inputMessage->setMessage(std::move(message));

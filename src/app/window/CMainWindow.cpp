@@ -6,6 +6,7 @@
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/window/CJobFrame.h"
 #include "app/window/CRequestHost.h"
+#include "app/window/Commands.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/InputRemovalOffer.h"
 #include "common/errors/ErrorText.h"
@@ -15,14 +16,8 @@
 #include "crypto/catalogue/Catalogue.h"
 #include "io/PathCheck.h"
 #include "lib/logger/Log.h"
-#include "ui/algorithms/CAlgInfoDialog.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
-#include "ui/algorithms/DefaultAlgCommand.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
-#include "ui/info/CAboutDialog.h"
-#include "ui/info/CkeyboardShortcutInfoDialog.h"
-#include "ui/options/COptionsDialog.h"
-#include "ui/shortcuts/Shortcuts.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -71,7 +66,8 @@ void openFolderOf(const QString& path)
 CMainWindow::CMainWindow(const WindowServices& services)
     : m_services(services),
       m_form(new CJobFrame),
-      m_actions(*this),
+      m_dialogs(*this, services.algorithms, services.options, m_form->algFrame(), *this),
+      m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier),
       m_job(services.encryptors, services.decryptors, m_dispatcher)
 {
@@ -79,7 +75,7 @@ CMainWindow::CMainWindow(const WindowServices& services)
     m_form->setDropReceiver(this);
     m_form->algFrame().setProvider(m_services.algorithms);
     m_form->algFrame().setSelection(m_services.options.defaultAlgorithm().value_or(DefaultAlgSelection));
-    connectActions();
+    QCoreApplication::instance()->installEventFilter(this);
     connectForm();
     connectJob();
     // Room for the progress and for messages of more than one line.
@@ -88,26 +84,6 @@ CMainWindow::CMainWindow(const WindowServices& services)
 }
 
 CMainWindow::~CMainWindow() = default;
-
-void CMainWindow::connectActions()
-{
-    const auto connectAction = [this](ActionId id, auto slot) {
-        connect(&m_actions[id], &QAction::triggered, this, slot);
-    };
-    connectAction(ActionId::AddFile, &CMainWindow::onUiAddFileItem);
-    connectAction(ActionId::OpenInputFolder, &CMainWindow::onUiOpenInputFolderItem);
-    connectAction(ActionId::OpenOutputFolder, &CMainWindow::onUiOpenOutputFolderItem);
-    connectAction(ActionId::Quit, &QWidget::close);
-    connectAction(ActionId::Encrypt, &CMainWindow::onUiEncryptItem);
-    connectAction(ActionId::Decrypt, &CMainWindow::onUiDecryptItem);
-    connectAction(ActionId::Stop, &CMainWindow::onUiStopItem);
-    connectAction(ActionId::Clear, &CMainWindow::onUiClearItem);
-    connectAction(ActionId::Options, &CMainWindow::onUiOptionsItem);
-    connectAction(ActionId::DefaultAlgorithm, &CMainWindow::onUiDefaultAlgorithmItem);
-    connectAction(ActionId::AlgorithmInfo, &CMainWindow::onUiAlgorithmInfoItem);
-    connectAction(ActionId::Shortcuts, &CMainWindow::onUiShortcutsItem);
-    connectAction(ActionId::About, &CMainWindow::onUiAboutItem);
-}
 
 void CMainWindow::connectForm()
 {
@@ -300,45 +276,17 @@ void CMainWindow::onUiOpenOutputFolderItem()
     openFolderOf(m_form->outputText());
 }
 
-void CMainWindow::onUiOptionsItem()
+void CMainWindow::onUiQuitItem()
 {
-    COptionsDialog dialog(this);
-    dialog.setLanguages(m_services.options.languages());
-    dialog.setAlgProvider(m_services.algorithms);
-    dialog.setLogFilePath(m_services.options.logFilePath());
-    dialog.setReceiver(this);
-    dialog.setOptions(m_services.options.read());
-    if (dialog.exec() == QDialog::Accepted)
-        appOptionsChanged(dialog.options());
+    close();
 }
 
-void CMainWindow::onUiDefaultAlgorithmItem()
+void CMainWindow::run(const Command& command)
 {
-    const auto outcome =
-        askDefaultAlgorithm(this, m_services.algorithms, m_services.options.defaultAlgorithm());
-    if (!outcome)
-        return;
-    m_form->algFrame().setSelection(outcome->current);
-    if (outcome->storeAsDefault)
-        m_services.options.storeDefaultAlgorithm(outcome->current);
-}
-
-void CMainWindow::onUiAlgorithmInfoItem()
-{
-    CAlgInfoDialog dialog(this);
-    dialog.setProvider(m_services.algorithms);
-    dialog.setSelection(m_form->algFrame().selection());
-    dialog.exec();
-}
-
-void CMainWindow::onUiShortcutsItem()
-{
-    CkeyboardShortcutInfoDialog(this).exec();
-}
-
-void CMainWindow::onUiAboutItem()
-{
-    CAboutDialog(this).exec();
+    if (const auto* slot = std::get_if<void (CMainWindow::*)()>(&command.slot))
+        (this->**slot)();
+    else if (const auto* dialogSlot = std::get_if<void (DialogCommands::*)()>(&command.slot))
+        (m_dialogs.**dialogSlot)();
 }
 
 bool CMainWindow::isInputAccepted() const
@@ -372,12 +320,8 @@ void CMainWindow::refresh()
     const bool running = m_job.isRunning();
     const bool stoppable = m_job.isStoppable();
     m_form->setRunning(running, stoppable);
-    m_actions[ActionId::Encrypt].setEnabled(!running);
-    m_actions[ActionId::Decrypt].setEnabled(!running);
-    m_actions[ActionId::DefaultAlgorithm].setEnabled(!running);
-    m_actions[ActionId::Stop].setEnabled(stoppable);
-    m_actions[ActionId::OpenInputFolder].setEnabled(!m_form->inputText().isEmpty());
-    m_actions[ActionId::OpenOutputFolder].setEnabled(!m_form->outputText().isEmpty());
+    m_actions.setState(
+        {!running, stoppable, !m_form->inputText().isEmpty(), !m_form->outputText().isEmpty()});
     const QString input = m_form->inputText().trimmed();
     if (isInputAccepted())
         m_form->showFile(input, platform::fileStatus(textPath(input)).size);
@@ -396,28 +340,24 @@ void CMainWindow::setTitle()
         title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))); // Qt's mark for "modified"
 }
 
+/// The commands' keys work wherever the focus is: a combo box, for one, would take them as a search.
+bool CMainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::KeyPress || widget == nullptr || widget == this || widget->window() != this)
+        return false;
+    auto& keyEvent = static_cast<QKeyEvent&>(*event);
+    if (commandFor(keyEvent.key(), keyEvent.modifiers()) == nullptr)
+        return false;
+    keyPressEvent(&keyEvent);
+    return true;
+}
+
 /// Alt and the keys that the table doesn't name end here on purpose.
 void CMainWindow::keyPressEvent(QKeyEvent* event)
 {
-    const auto command = commandFor(event->key(), event->modifiers());
-    if (!command)
-        return;
-    switch (*command) {
-    case Command::Encrypt:
-        return onUiEncryptItem();
-    case Command::Decrypt:
-        return onUiDecryptItem();
-    case Command::Stop:
-        return onUiStopItem();
-    case Command::Clear:
-        return onUiClearItem();
-    case Command::OpenInputFolder:
-        return onUiOpenInputFolderItem();
-    case Command::OpenOutputFolder:
-        return onUiOpenOutputFolderItem();
-    case Command::AddFile:
-        return onUiAddFileItem();
-    }
+    if (const Command* command = commandFor(event->key(), event->modifiers()))
+        run(*command);
 }
 
 /// A running job doesn't hold the window up: whoever destroys it waits for the job.

@@ -4,6 +4,7 @@
 #include "app/job/CMsgDispatcher.h"
 #include "app/widgets/IFilesDragDropEvent.h"
 #include "app/window/Actions.h"
+#include "app/window/DialogCommands.h"
 #include "app/window/JobDisplay.h"
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
@@ -62,11 +63,7 @@ public slots:
     void onUiClearItem();
     void onUiOpenInputFolderItem();
     void onUiOpenOutputFolderItem();
-    void onUiOptionsItem();
-    void onUiDefaultAlgorithmItem();
-    void onUiAlgorithmInfoItem();
-    void onUiShortcutsItem();
-    void onUiAboutItem();
+    void onUiQuitItem();
 
 private slots:
     void onUiEncryptStarted();
@@ -79,12 +76,13 @@ private slots:
     void refresh();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void connectActions();
+    void run(const thisapp::Command& command);
     void connectForm();
     void connectJob();
     void requestJob(thisapp::Operation operation);
@@ -100,6 +98,7 @@ private:
     const thisapp::WindowServices m_services;
     CMsgDispatcher m_dispatcher;
     CJobFrame* m_form;
+    thisapp::DialogCommands m_dialogs;
     thisapp::Actions m_actions;
     thisapp::JobDisplay m_display;
     /// Last: its end, which waits for the worker, comes before that of the rest.

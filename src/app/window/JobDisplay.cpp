@@ -45,13 +45,12 @@ void JobDisplay::showEnd(const SEncryptData& ended, bool userIsHere)
     m_taskbar.hide();
     m_taskbar.setValue(0);
     reportOutcome(ended, m_form);
+    m_form.progressFrame().reset();
     if (ended.outcome.done())
         m_form.progressFrame().setProgress(
             100, {MessageKind::Plain, [size = ended.outcome.input.status.size, time = m_clock.elapsed()] {
                       return summaryText(size, time);
                   }});
-    else
-        m_form.progressFrame().reset();
     m_progress.reset();
     if (!userIsHere)
         m_notifier.notify(m_form.resultText(), m_fileName);

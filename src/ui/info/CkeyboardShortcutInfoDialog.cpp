@@ -1,6 +1,5 @@
 #include "ui/info/CkeyboardShortcutInfoDialog.h"
 
-#include "ui/shortcuts/Shortcuts.h"
 #include "ui/style/TextSize.h"
 #include "ui_CkeyboardShortcutInfoDialog.h"
 
@@ -22,8 +21,8 @@ void CkeyboardShortcutInfoDialog::showEvent(QShowEvent* event)
     html += tr("This is a list of keyboard shortcuts in %1.")
                 .arg(QCoreApplication::applicationName().toHtmlEscaped());
     html += "<br/><br/>";
-    for (const thisapp::Shortcut& shortcut : thisapp::shortcuts()) {
-        html += QLatin1String("<b>") + shortcut.keyText + "</b> - ";
+    for (const thisapp::Shortcut& shortcut : m_shortcuts) {
+        html += "<b>" + shortcut.keyText() + "</b> - ";
         html += shortcut.translatedDescription().toHtmlEscaped() + "<br/>";
     }
     html += "</body></html>";

@@ -2,7 +2,6 @@
 
 #include "common/settings/SAppOptions.h"
 #include "ui/algorithms/AlgListFiller.h"
-#include "ui/shortcuts/Shortcuts.h"
 #include "ui_CGeneralOptionsFrame.h"
 
 #include <QDir>
@@ -137,16 +136,21 @@ void CGeneralOptionsFrame::indentDependents()
         dependents->setContentsMargins(indent, 0, 0, 0);
 }
 
+void CGeneralOptionsFrame::setShortcuts(const thisapp::Shortcuts& shortcuts)
+{
+    m_shortcuts = shortcuts;
+    fillShortcuts();
+}
+
 void CGeneralOptionsFrame::fillShortcuts()
 {
     QTableWidget& table = *m_ui->tableShortcuts;
     table.setHorizontalHeaderLabels({tr("Shortcut key"), tr("Description")});
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
-    const auto shortcuts = thisapp::shortcuts();
-    table.setRowCount(static_cast<int>(shortcuts.size()));
+    table.setRowCount(static_cast<int>(m_shortcuts.size()));
     int row = 0;
-    for (const thisapp::Shortcut& shortcut : shortcuts) {
-        table.setItem(row, 0, new QTableWidgetItem(shortcut.keyText));
+    for (const thisapp::Shortcut& shortcut : m_shortcuts) {
+        table.setItem(row, 0, new QTableWidgetItem(shortcut.keyText()));
         table.setItem(row, 1, new QTableWidgetItem(shortcut.translatedDescription()));
         ++row;
     }

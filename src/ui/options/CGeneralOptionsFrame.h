@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lib/i18n/locale/Language.h"
+#include "ui/shortcuts/Shortcut.h"
 
 #include <QFrame>
 
@@ -30,6 +31,9 @@ public:
     /// Refills the algorithms; what the provider doesn't accept can't be chosen.
     void setAlgProvider(const thisapp::ICryptoAlgProvider& provider);
 
+    /// What the tab lists for reading.
+    void setShortcuts(const thisapp::Shortcuts& shortcuts);
+
     void setOptions(const thisapp::SAppOptions& options);
     /// Sets the values of this tab, and nothing else. A language that isn't offered stays as it was.
     /// The algorithm is none while there is to be no default one, so that the stored one stays.
@@ -56,4 +60,5 @@ private:
     void fillShortcuts();
 
     std::unique_ptr<Ui::CGeneralOptionsFrame> m_ui;
+    thisapp::Shortcuts m_shortcuts;
 };

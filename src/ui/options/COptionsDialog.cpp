@@ -87,6 +87,11 @@ void COptionsDialog::setAlgProvider(const thisapp::ICryptoAlgProvider& provider)
     m_ui->frameGeneral->setAlgProvider(provider);
 }
 
+void COptionsDialog::setShortcuts(const thisapp::Shortcuts& shortcuts)
+{
+    m_ui->frameGeneral->setShortcuts(shortcuts);
+}
+
 void COptionsDialog::setLogFilePath(const QString& path)
 {
     m_ui->frameAdvanced->setLogFilePath(QDir::toNativeSeparators(path));

@@ -2,6 +2,7 @@
 
 #include "common/settings/SAppOptions.h"
 #include "lib/i18n/locale/Language.h"
+#include "ui/shortcuts/Shortcut.h"
 
 #include <QDialog>
 
@@ -31,6 +32,8 @@ public:
     void setLanguages(const std::vector<tessaly::i18n::Language>& languages);
     /// Offers the provider's algorithms as the default one; it is read at once and not kept.
     void setAlgProvider(const thisapp::ICryptoAlgProvider& provider);
+    /// What the dialog lists for reading.
+    void setShortcuts(const thisapp::Shortcuts& shortcuts);
     void setLogFilePath(const QString& path);
     /// Gets what "Apply" takes over; may be null. It must outlive the dialog.
     void setReceiver(thisapp::IAppOptionsChanged* receiver) { m_receiver = receiver; }

@@ -1,5 +1,6 @@
 #include "ui/password/CSetPasswordDialog.h"
 
+#include "common/secret/PasswordRules.h"
 #include "lib/platform/CapsLock.h"
 #include "ui/password/CapsLockWatcher.h"
 #include "ui/password/PasswordStrength.h"
@@ -7,6 +8,7 @@
 #include "ui/style/TextSize.h"
 #include "ui_CSetPasswordDialog.h"
 
+#include <QCoreApplication>
 #include <QShowEvent>
 
 CSetPasswordDialog::CSetPasswordDialog(QWidget* parent)
@@ -111,9 +113,16 @@ void CSetPasswordDialog::onUiCapsLockChanged(bool on)
     m_ui->labelCapsLock->showMessage(on ? tr("Caps Lock is on.") : QString(), thisapp::MessageKind::Warning);
 }
 
-/// True unless a confirmation is asked for and differs; shows the difference.
+/// True unless the password can't be taken, or a confirmation is asked for and differs; shows what is
+/// wrong.
 bool CSetPasswordDialog::checkPasswords()
 {
+    // First, as nobody can see such a character: the field prints it as a blank.
+    if (const char* problem = thisapp::passwordProblem(secretPassword().view())) {
+        m_ui->lineEditMsg->showMessage(QCoreApplication::translate("PasswordRules", problem),
+                                       thisapp::MessageKind::Warning);
+        return false;
+    }
     const QString password = m_ui->lineEditPassword->text();
     const QString confirmation = m_ui->lineEditConfirmPassword->text();
     if (!confirms() || password == confirmation) {
@@ -126,6 +135,11 @@ bool CSetPasswordDialog::checkPasswords()
     m_ui->lineEditMsg->showMessage(tr("The passwords do not match.") + QLatin1Char(' ') + lengths,
                                    thisapp::MessageKind::Warning);
     return false;
+}
+
+tessaly::SecretText CSetPasswordDialog::secretPassword() const
+{
+    return thisapp::secretText(m_ui->lineEditPassword->text());
 }
 
 void CSetPasswordDialog::showStrength(const QString& password)
@@ -150,7 +164,7 @@ void CSetPasswordDialog::onUiOk()
         m_ui->lineEditConfirmPassword->setFocus();
         return;
     }
-    m_password = thisapp::secretText(m_ui->lineEditPassword->text());
+    m_password = secretPassword();
     accept();
 }
 

@@ -53,6 +53,7 @@ private:
     void prepare();
     bool confirms() const { return m_encrypt && m_useConfirmPassword; }
     bool checkPasswords();
+    tessaly::SecretText secretPassword() const;
     void showStrength(const QString& password);
     void storeOptions();
     void clearFields();

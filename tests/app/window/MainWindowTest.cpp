@@ -4,7 +4,6 @@
 #include "ui/algorithms/CSelectAlgFrame.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
@@ -127,11 +126,15 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_FALSE(fs::exists(folder() / "out")) << "not before it is whole";
 
     QTest::keyClick(w.window.get(), Qt::Key_F5);
-    EXPECT_EQ(w.progress().message(), "Encryption/Decryption already running.");
-    const float percent = w.progress().percent();
+    float percent = w.progress().percent();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return w.progress().percent() > percent; }, WindowHarness::JobTimeoutMs));
+    EXPECT_EQ(w.progress().notice(), "Encryption/Decryption already running.") << "after a report, too";
+    percent = w.progress().percent();
     QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
     EXPECT_EQ(w.input().text() + w.output().text(), "");
     EXPECT_EQ(w.progress().percent(), percent);
+    EXPECT_NE(w.progress().message(), "");
 
     QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
     EXPECT_FALSE(w.button("buttonStop").isEnabled()) << "nothing more to stop";
@@ -141,6 +144,7 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_FALSE(fs::exists(folder() / "out"));
     EXPECT_TRUE(fs::exists(folder() / "in"));
     EXPECT_EQ(w.window->windowTitle(), "Quillet");
+    EXPECT_EQ(w.progress().notice(), "");
 }
 
 TEST_F(MainWindowTest, ClosingEndsTheJobWithoutAPartialOutput)
@@ -254,20 +258,9 @@ TEST_F(MainWindowTest, NotifiesWhoLooksElsewhere)
     }
 }
 
-class UrlRecorder : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> urls;
-public slots:
-    void open(const QUrl& url) { urls += url; }
-};
-
 TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
 {
-    UrlRecorder opened;
-    QDesktopServices::setUrlHandler("file", &opened, "open");
+    test::UrlRecorder opened;
     const auto press = [this](Qt::Key key) { QTest::keyClick(w.window.get(), key, Qt::ControlModifier); };
     press(Qt::Key_F9);
     w.input().setText(w.path("no folder/in"));
@@ -277,7 +270,6 @@ TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
     w.output().setText("/out");
     press(Qt::Key_F9);
     press(Qt::Key_F10);
-    QDesktopServices::unsetUrlHandler("file");
     const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///")};
     EXPECT_EQ(opened.urls, expected);
 }
@@ -368,5 +360,3 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
 }
 
 } // namespace
-
-#include "MainWindowTest.moc"

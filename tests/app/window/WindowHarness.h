@@ -16,6 +16,7 @@
 #include "ui/password/CSetPasswordDialog.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -30,6 +31,21 @@
 #include <vector>
 
 namespace test {
+
+/// Gets the folders that the desktop is asked to open, for as long as it lives.
+class UrlRecorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    UrlRecorder() { QDesktopServices::setUrlHandler("file", this, "open"); }
+    ~UrlRecorder() override { QDesktopServices::unsetUrlHandler("file"); }
+
+    QList<QUrl> urls;
+
+public slots:
+    void open(const QUrl& url) { urls += url; }
+};
 
 /// The main window with all that it works with, as start-up puts it together; the desktop is recorded.
 class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisapp::desktop::INotifier

@@ -1,6 +1,7 @@
 #include "ui/Widgets.h"
 #include "ui/password/CSetPasswordDialog.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextEdit>
@@ -46,6 +47,31 @@ TEST_F(PasswordDialog, ShowsAMismatchWhileTypingAndStaysOpen)
         EXPECT_EQ(dialog.password().view(), closes ? test.password : "");
         dialog.reject();
     }
+}
+
+TEST_F(PasswordDialog, RefusesCharactersThatNobodySees)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"abc\n", "The password contains a line break."},
+        {"abc\r\n", "The password contains a line break."},
+        {"a\xe2\x80\xa8z", "The password contains a line break."},
+        {"a\tz", "The password contains a tab."},
+        {"a\x01z", "The password contains a control character."},
+    };
+    for (const bool encrypting : {true, false})
+        for (const auto& [text, problem] : cases) {
+            dialog.setEncryptMode(encrypting);
+            open(dialog);
+            QApplication::clipboard()->setText(QString::fromUtf8(text));
+            password.paste();
+            EXPECT_EQ(message(), problem);
+            confirmation.paste();
+            press(Qt::Key_Return);
+            EXPECT_EQ(message(), problem);
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_TRUE(dialog.password().empty());
+            dialog.reject();
+        }
 }
 
 TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
