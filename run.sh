@@ -46,7 +46,18 @@ if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
   exec "$programs/quillet" "$@"
 fi
 files=()
-for argument; do
-  [ ! -f "$argument" ] || files+=("$argument")
+while [ $# -gt 0 ]; do
+  case ${1,,} in
+    [-/]encrypt | [-/]decrypt | [-/]start | [-/]ifile) ;;
+    [-/]ofile | [-/]algorithm | [-/]library) [ $# = 1 ] || shift ;;
+    *)
+      if [ ! -f "$1" ]; then
+        echo "run.sh: no such file: $1" >&2
+        exit 1
+      fi
+      files+=("$1")
+      ;;
+  esac
+  shift
 done
 console_run ${files[@]+"${files[@]}"}

@@ -131,8 +131,10 @@ ResultCode OutputFile::commit(Existing existing, const std::function<bool()>& is
         static_cast<void>(discard());
         return result;
     }
-    m_visible = m_replaced = false; // from now on it is the user's
-    return m_stream.close();
+    m_state = State::Settled;
+    removeHidden();
+    static_cast<void>(m_stream.close()); // the flush has told all that it could
+    return {};
 }
 
 ResultCode OutputFile::verify() const
@@ -144,28 +146,43 @@ ResultCode OutputFile::verify() const
 
 ResultCode OutputFile::publish(Existing existing)
 {
-    ResultCode result = publishNew();
-    if (platform::isOccupied(result) && existing == Existing::Replace) {
-        const platform::FileStatus former = m_place->status();
-        if (former.isLink || former.kind != platform::FileKind::Regular)
-            return result;
-        if (const ResultCode named = nameHidden(); !named.ok())
-            return named;
-        result = m_place->folder().renameOver(m_hiddenName, m_place->name());
-        m_replaced = result.ok();
-    }
-    if (result.ok()) {
-        setHiddenName({});
-        m_visible = true;
-    }
-    return result;
+    const ResultCode result = publishNew();
+    return platform::isOccupied(result) && existing == Existing::Replace ? takePlaceOfFormer(result) : result;
 }
 
 ResultCode OutputFile::publishNew()
 {
     const platform::Folder& folder = m_place->folder();
-    return m_hiddenName.empty() ? folder.link(m_stream.file(), m_place->name())
-                                : folder.renameToNew(m_hiddenName, m_place->name());
+    const bool hidden = !m_hiddenName.empty();
+    const ResultCode result = hidden ? folder.renameToNew(m_hiddenName, m_place->name())
+                                     : folder.link(m_stream.file(), m_place->name());
+    if (result.ok()) {
+        setHiddenName({});
+        m_state = State::Published;
+    }
+    return result;
+}
+
+/// The former file is kept until the new one is safe.
+ResultCode OutputFile::takePlaceOfFormer(const ResultCode& occupied)
+{
+    const platform::Folder& folder = m_place->folder();
+    const platform::FileStatus former = m_place->status();
+    if (former.isLink || former.kind != platform::FileKind::Regular)
+        return occupied; // not what the user agreed to give up
+    if (const ResultCode named = nameHidden(); !named.ok())
+        return named;
+    ResultCode result = folder.exchange(m_hiddenName, m_place->name());
+    if (result.ok()) {
+        m_state = State::Exchanged;
+    } else if (platform::isUnsupported(result)) {
+        result = folder.renameOver(m_hiddenName, m_place->name());
+        if (result.ok()) {
+            setHiddenName({});
+            m_state = State::Settled;
+        }
+    }
+    return result;
 }
 
 /// Only a name can be renamed over another.
@@ -182,13 +199,9 @@ ResultCode OutputFile::nameHidden()
 
 bool OutputFile::discard()
 {
-    const bool hidden = !m_hiddenName.empty();
-    bool gone = !m_replaced && withdraw();
-    if (hidden) {
-        const bool removed = m_place->folder().remove(m_hiddenName).ok();
-        gone = gone && (removed || !m_place->folder().status(m_hiddenName).sameFile(m_status));
-        setHiddenName({});
-    }
+    const bool gone = withdraw();
+    if (gone)
+        removeHidden();
     static_cast<void>(m_stream.close());
     return gone;
 }
@@ -196,12 +209,31 @@ bool OutputFile::discard()
 /// Takes the name back from a file that must not stand at the path; another's there is left alone.
 bool OutputFile::withdraw()
 {
-    if (!m_visible)
+    const platform::Folder& folder = m_place->folder();
+    switch (m_state) {
+    case State::Unnamed:
         return true;
-    m_visible = false;
-    if (m_place->status().sameFile(m_status))
-        static_cast<void>(m_place->remove());
-    return !m_place->status().sameFile(m_status);
+    case State::Settled:
+        return false;
+    case State::Exchanged:
+        if (!folder.exchange(m_hiddenName, m_place->name()).ok())
+            return false;
+        break;
+    case State::Published:
+        if (m_place->status().sameFile(m_status) && !m_place->remove().ok())
+            return false;
+        break;
+    }
+    m_state = State::Unnamed;
+    return true;
+}
+
+void OutputFile::removeHidden()
+{
+    if (m_hiddenName.empty())
+        return;
+    static_cast<void>(m_place->folder().remove(m_hiddenName));
+    setHiddenName({});
 }
 
 void OutputFile::removeHiddenNames()

@@ -43,8 +43,9 @@ public:
 
     /// Flushes the file, names it and flushes the folder. `isWanted` is asked between the first two, as
     /// the flush may take long: (5, 1004) when the file is not wanted any more. (5, 203) when, at the
-    /// end, the path does not name the file: its folder has been moved. After any failure nothing of the
-    /// file is left, unless it has already taken the place of an existing one.
+    /// end, the path does not name the file: its folder has been moved. After any failure all is as it
+    /// was before: nothing of the file is left, and what it was to replace stands. (Where the file system
+    /// cannot exchange two files, a failure to flush the folder leaves the new one in its place.)
     ResultCode commit(
         Existing existing, const std::function<bool()>& isWanted = [] { return true; });
     /// True when nothing of the file is left, which only a failing disk prevents.
@@ -60,10 +61,20 @@ private:
     ResultCode createHidden(const platform::Access& access);
     ResultCode publish(Existing existing);
     ResultCode publishNew();
+    ResultCode takePlaceOfFormer(const ResultCode& occupied);
     ResultCode nameHidden();
     ResultCode verify() const;
     bool withdraw();
+    void removeHidden();
     void setHiddenName(std::filesystem::path name);
+
+    /// Where the file is to be found.
+    enum class State {
+        Unnamed,   ///< without a name, or under the hidden one
+        Published, ///< at the path, from which it can be withdrawn
+        Exchanged, ///< at the path, and the former file under the hidden name
+        Settled,   ///< at the path for good
+    };
 
     const Kind m_kind;
     std::shared_ptr<const FilePlace> m_place;
@@ -72,8 +83,7 @@ private:
     std::filesystem::path m_hiddenName; ///< empty while the file has none
     std::filesystem::path m_hiddenPath;
     bool m_begun = false;
-    bool m_visible = false;  ///< it stands at the path
-    bool m_replaced = false; ///< in the place of a former file, so that it must stay
+    State m_state = State::Unnamed;
 };
 
 } // namespace tessaly::io

@@ -45,6 +45,8 @@ public:
     ResultCode renameToNew(const std::filesystem::path& from, const std::filesystem::path& to) const;
     /// Renames in one step, in the place of what stands there.
     ResultCode renameOver(const std::filesystem::path& from, const std::filesystem::path& to) const;
+    /// Lets two entries change places in one step; not every file system can.
+    ResultCode exchange(const std::filesystem::path& first, const std::filesystem::path& second) const;
     ResultCode remove(const std::filesystem::path& name) const;
 
     /// Returns when created, renamed and removed entries have reached the disk.

@@ -188,6 +188,13 @@ ResultCode Folder::renameOver(const fs::path& from, const fs::path& to) const
                    0);
 }
 
+ResultCode Folder::exchange(const fs::path& first, const fs::path& second) const
+{
+    return outcome(uninterrupted([&] {
+                       return ::renameat2(m_handle, first.c_str(), m_handle, second.c_str(), RENAME_EXCHANGE);
+                   }) == 0);
+}
+
 ResultCode Folder::remove(const fs::path& name) const
 {
     if (!isUsable(name))
