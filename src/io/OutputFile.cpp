@@ -156,10 +156,10 @@ ResultCode OutputFile::publishNew()
     const bool hidden = !m_hiddenName.empty();
     const ResultCode result = hidden ? folder.renameToNew(m_hiddenName, m_place->name())
                                      : folder.link(m_stream.file(), m_place->name());
-    if (result.ok()) {
-        setHiddenName({});
+    if (result.ok())
         m_state = State::Published;
-    }
+    if (result.ok() && hidden)
+        setHiddenName({});
     return result;
 }
 
@@ -178,8 +178,8 @@ ResultCode OutputFile::takePlaceOfFormer(const ResultCode& occupied)
     } else if (platform::isUnsupported(result)) {
         result = folder.renameOver(m_hiddenName, m_place->name());
         if (result.ok()) {
-            setHiddenName({});
             m_state = State::Settled;
+            setHiddenName({});
         }
     }
     return result;
