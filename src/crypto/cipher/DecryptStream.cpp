@@ -19,8 +19,8 @@ CryptoResult decryptChunk(CipherRun& run, std::uint64_t count)
 /// Deciphers the first `count` bytes and checks the header against the size of the input.
 CryptoResult openHeader(CipherRun& run, std::uint64_t size, std::uint64_t count, std::uint64_t& length)
 {
-    if (count < CheckedHeaderSize)
-        return err::InputTooShort;
+    if (count < CheckedHeaderSize) // of blocks above 16 bytes; what cannot be verified is refused
+        return err::CheckValueDiffers;
     if (const CryptoResult result = decryptChunk(run, count); !result.ok())
         return result;
     const std::span<const std::uint8_t, CheckedHeaderSize> header(run.plain(), CheckedHeaderSize);
