@@ -19,20 +19,22 @@ std::string padded(std::string text, std::size_t width)
 
 std::string tableRow(const CatalogueEntry& entry)
 {
-    const auto& [key, iv, mode, block, littleEndian, stream] = entry.record;
+    const tessaly::crypto::AlgRecord& record = entry.record;
     std::string name(entry.name);
     name.resize(15, ' ');
-    return padded(std::to_string(entry.id), 4) + "  " + name + padded(std::to_string(key), 5) +
-           padded(std::to_string(block), 7) + padded(std::to_string(iv), 5) + "  " +
-           std::string(modeName(mode)) + "\n";
+    return padded(std::to_string(entry.id), 4) + "  " + name + padded(std::to_string(record.keyLength), 5) +
+           padded(std::to_string(record.blockLength), 7) + padded(std::to_string(record.ivLength), 5) + "  " +
+           std::string(modeName(record.mode)) + "\n";
 }
 
 std::string jsonObject(const CatalogueEntry& entry)
 {
-    const auto& [key, iv, mode, block, littleEndian, stream] = entry.record;
+    const tessaly::crypto::AlgRecord& record = entry.record;
     return "  {\"id\": " + std::to_string(entry.id) + ", \"name\": \"" + std::string(entry.name) +
-           "\", \"keyBytes\": " + std::to_string(key) + ", \"blockBytes\": " + std::to_string(block) +
-           ", \"ivBytes\": " + std::to_string(iv) + ", \"mode\": \"" + std::string(modeName(mode)) + "\"}";
+           "\", \"keyBytes\": " + std::to_string(record.keyLength) +
+           ", \"blockBytes\": " + std::to_string(record.blockLength) +
+           ", \"ivBytes\": " + std::to_string(record.ivLength) + ", \"mode\": \"" +
+           std::string(modeName(record.mode)) + "\"}";
 }
 
 } // namespace

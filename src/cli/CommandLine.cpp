@@ -54,7 +54,9 @@ std::string oneLine(std::string text)
 ParseOutcome parseCommandLine(int argc, char** argv)
 {
     Parsed parsed;
-    CLI::App app("Encrypts and decrypts single files with any of 68 symmetric algorithms.", "quillet-cli");
+    CLI::App app("Encrypts and decrypts single files with any of " +
+                     std::to_string(tessaly::crypto::catalogue().size()) + " symmetric algorithms.",
+                 "quillet-cli");
     app.set_version_flag("--version", "quillet-cli " QUILLET_VERSION);
     app.require_subcommand(1);
     app.footer(Footer);

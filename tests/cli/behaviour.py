@@ -55,7 +55,6 @@ class Behaviour(unittest.TestCase):
 
     def test_every_algorithm_by_password_and_by_key(self):
         algorithms = json.loads(self.run_cli("algorithms", "--json"))
-        self.assertEqual(len(algorithms), 68)
         for row in algorithms:
             with self.subTest(row["name"]):
                 self.write("key", os.urandom(row["keyBytes"]).hex(" "))
