@@ -1,6 +1,5 @@
 #include "crypto/catalogue/Catalogue.h"
-#include "crypto/cryptopp/CDecryptorFactory.h"
-#include "crypto/cryptopp/CEncryptorFactory.h"
+#include "crypto/cryptopp/CCipherFactory.h"
 
 #include <benchmark/benchmark.h>
 
@@ -76,10 +75,10 @@ void measureAlgorithm(benchmark::State& state, const crypto::CatalogueEntry& alg
     }
     const SecretBytes key(algorithm.record.keyLength, 0x5A);
     const auto encryption = [&](Source& in, Sink& out) {
-        return encryptor->encrypt(&in, &out, key, false, nullptr, nullptr);
+        return encryptor->run(&in, &out, key, false, nullptr, nullptr);
     };
     const auto decryption = [&](Source& in, Sink& out) {
-        return decryptor->decrypt(&in, &out, key, nullptr, nullptr);
+        return decryptor->run(&in, &out, key, nullptr, nullptr);
     };
     const Bytes plain(1 << 20, 0xA5);
     if (encrypt) {

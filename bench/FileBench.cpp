@@ -1,6 +1,5 @@
 #include "crypto/catalogue/Catalogue.h"
-#include "crypto/cryptopp/CDecryptorFactory.h"
-#include "crypto/cryptopp/CEncryptorFactory.h"
+#include "crypto/cryptopp/CCipherFactory.h"
 #include "crypto/job/FileJob.h"
 
 #include <benchmark/benchmark.h>

@@ -3,8 +3,7 @@
 #include "crypto/MemoryStreams.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "crypto/cipher/CipherRun.h"
-#include "crypto/cryptopp/CDecryptorFactory.h"
-#include "crypto/cryptopp/CEncryptorFactory.h"
+#include "crypto/cryptopp/CCipherFactory.h"
 #include "crypto/format/FileHeader.h"
 #include "lib/secret/Hex.h"
 
@@ -87,13 +86,13 @@ struct Job
     {
         MemoryOutput out(outputFaults);
         const auto result =
-            encryptor->encrypt(&in, &out, key, iv, chunkSize, intervalMs, salt, callback, nullptr);
+            encryptor->run(&in, &out, key, iv, chunkSize, intervalMs, salt, callback, nullptr);
         return {result, out.bytes, out.calls};
     }
     Outcome decrypt(MemoryInput in, const Faults& outputFaults = {}) const
     {
         MemoryOutput out(outputFaults);
-        const auto result = decryptor->decrypt(&in, &out, key, iv, chunkSize, intervalMs, callback, nullptr);
+        const auto result = decryptor->run(&in, &out, key, iv, chunkSize, intervalMs, callback, nullptr);
         return {result, out.bytes, out.calls};
     }
 

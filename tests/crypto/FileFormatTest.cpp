@@ -18,13 +18,13 @@ Outcome converted(const Row& row, bool encrypt, MemoryInput in)
     MemoryOutput out;
     CryptoResult result;
     if (key.empty() && encrypt)
-        result = job.encryptor->encryptWithPassword(&in, &out, password.c_str(), false, nullptr, nullptr);
+        result = job.encryptor->runWithPassword(&in, &out, password.c_str(), false, nullptr, nullptr);
     else if (key.empty())
-        result = job.decryptor->decryptWithPassword(&in, &out, password.c_str(), nullptr, nullptr);
+        result = job.decryptor->runWithPassword(&in, &out, password.c_str(), nullptr, nullptr);
     else if (encrypt)
-        result = job.encryptor->encrypt(&in, &out, key, iv, false, nullptr, nullptr);
+        result = job.encryptor->run(&in, &out, key, iv, false, nullptr, nullptr);
     else
-        result = job.decryptor->decrypt(&in, &out, key, iv, nullptr, nullptr);
+        result = job.decryptor->run(&in, &out, key, iv, nullptr, nullptr);
     return {result, out.bytes, out.calls};
 }
 

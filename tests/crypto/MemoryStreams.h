@@ -26,6 +26,7 @@ struct Faults
     std::int64_t mostAtOnce = std::numeric_limits<std::int64_t>::max();
     std::int64_t endsAt =
         std::numeric_limits<std::int64_t>::max(); ///< success without bytes, as of a file that shrank
+    std::int64_t miscount = 0;                    ///< added to the count that a call gives
     std::function<void(int)> onCall = [](int) {};
 };
 
@@ -50,6 +51,7 @@ public:
         countRead = std::max<std::int64_t>(0, std::min({count, left, m_faults.mostAtOnce}));
         std::copy_n(m_bytes.begin() + m_position, countRead, static_cast<std::uint8_t*>(buffer));
         m_position += countRead;
+        countRead += m_faults.miscount;
         return true;
     }
 
@@ -78,7 +80,7 @@ public:
         const std::int64_t taken = m_error.ok() ? std::min(count, m_faults.mostAtOnce) : 0;
         const auto* begin = static_cast<const std::uint8_t*>(buffer);
         bytes.insert(bytes.end(), begin, begin + taken);
-        return taken;
+        return taken + m_faults.miscount;
     }
 
 private:

@@ -112,6 +112,10 @@ TEST(Operation, EveryReadAndWriteMayFail)
         for (std::int64_t size = 0; size < std::ssize(way.input); size += 13)
             EXPECT_EQ(way.run({.endsAt = size}).result, CryptoResult(err::ReadStreamFailed)) << size;
         EXPECT_EQ(way.run({}, {.mostAtOnce = 3}).result, CryptoResult(err::WriteStreamFailed));
+        for (const std::int64_t miscount : {-1000, -1, 1}) {
+            EXPECT_EQ(way.run({.miscount = miscount}).result, CryptoResult(err::ReadStreamFailed));
+            EXPECT_EQ(way.run({}, {.miscount = miscount}).result, CryptoResult(err::WriteStreamFailed));
+        }
     });
 }
 
@@ -168,16 +172,16 @@ TEST(Operation, ArgumentsAreCheckedInOrderWithoutACallback)
         const std::uint32_t chunk = correct > 2 ? 8 : 7;
         const SecretBytes key = correct > 3 ? right.key : SecretBytes(right.key.size() + 1);
         const SecretBytes iv(right.iv.size() - 1);
-        EXPECT_EQ(right.encryptor->encrypt(in, out, key, iv, chunk, 0, false, &recorder, nullptr),
+        EXPECT_EQ(right.encryptor->run(in, out, key, iv, chunk, 0, false, &recorder, nullptr),
                   CryptoResult(codes[correct]));
-        EXPECT_EQ(right.decryptor->decrypt(in, out, key, iv, chunk, 0, &recorder, nullptr),
+        EXPECT_EQ(right.decryptor->run(in, out, key, iv, chunk, 0, &recorder, nullptr),
                   CryptoResult(codes[correct]));
     }
     const auto derivation = err::library(err::KeyDerivationFailed);
     EXPECT_EQ(
-        right.encryptor->encryptWithPassword(&memoryInput, &memoryOutput, "x", 99, false, &recorder, nullptr),
+        right.encryptor->runWithPassword(&memoryInput, &memoryOutput, "x", 99, false, &recorder, nullptr),
         CryptoResult(err::UnknownHash, derivation));
-    EXPECT_EQ(right.decryptor->decryptWithPassword(&memoryInput, &memoryOutput, nullptr, &recorder, nullptr),
+    EXPECT_EQ(right.decryptor->runWithPassword(&memoryInput, &memoryOutput, nullptr, &recorder, nullptr),
               CryptoResult(err::NullArgument, derivation));
     EXPECT_EQ(recorder.calls, "");
     EXPECT_TRUE(memoryInput.isAtStart() && memoryOutput.calls == 0);

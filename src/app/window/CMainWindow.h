@@ -8,16 +8,12 @@
 #include "app/window/JobDisplay.h"
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
+#include "crypto/cipher/ICipherFactory.h"
 
 #include <QMainWindow>
 #include <QStringList>
 
 class CJobFrame;
-
-namespace tessaly::crypto {
-class IEncryptorFactory;
-class IDecryptorFactory;
-} // namespace tessaly::crypto
 
 namespace thisapp {
 

@@ -1,6 +1,9 @@
 #include "crypto/cipher/CipherRun.h"
 
+#include "crypto/Guard.h"
+#include "crypto/catalogue/AlgInfo.h"
 #include "crypto/format/FileHeader.h"
+#include "crypto/key/KeyMaterial.h"
 
 #include <exception>
 
@@ -9,10 +12,23 @@ namespace tessaly::crypto {
 namespace {
 
 constexpr std::uint32_t SmallestChunk = 8;
-/// Crypto++'s error type for anything that is not an exception of its own.
-constexpr std::uint32_t OtherError = 6;
+/// The key and IV that the task names, or makes of its password.
+CryptoResult gatherSecret(const CipherSecret& given, const ICipherEngine& engine, KeyAndIv& secret)
+{
+    secret.iv = given.iv ? *given.iv : SecretBytes(engine.ivLength());
+    if (given.key) {
+        secret.key = *given.key;
+        return {};
+    }
+    const std::uint32_t hashId =
+        given.hashId.value_or(keyDerivationHash(engine.keyLength(), engine.ivLength()));
+    const CryptoResult derived = deriveKey(secret.key, engine.keyLength(), hashId, given.password);
+    if (!derived.ok())
+        return {derived.first(), err::library(err::KeyDerivationFailed)};
+    return {};
+}
 
-CryptoResult checkArguments(const CipherTask& task, const ICipherEngine& engine)
+CryptoResult checkArguments(const CipherTask& task, const KeyAndIv& secret, const ICipherEngine& engine)
 {
     if (task.in == nullptr)
         return err::NoInputStream;
@@ -20,9 +36,9 @@ CryptoResult checkArguments(const CipherTask& task, const ICipherEngine& engine)
         return err::NoOutputStream;
     if (task.chunkSize < SmallestChunk)
         return err::ChunkTooSmall;
-    if (task.key.size() != engine.keyLength())
+    if (secret.key.size() != engine.keyLength())
         return err::KeyLengthDiffers;
-    if (task.iv.size() != engine.ivLength())
+    if (secret.iv.size() != engine.ivLength())
         return err::IvLengthDiffers;
     return {};
 }
@@ -37,15 +53,21 @@ bool allocate(SecretBytes& buffer, std::uint64_t size)
     return true;
 }
 
-/// Calls something of the caller's or of a library; what it throws becomes a result.
-template <class Call>
-CryptoResult guarded(Call call) noexcept
+/// From the start of the operation to its end; the state is not busy afterwards, whatever happens.
+CryptoResult runStarted(CipherRun& run, OperationState& state, CryptoResult (*work)(CipherRun&))
 {
-    try {
-        return call();
-    } catch (...) {
-        return {ResultCode{err::CategoryCryptoPP, OtherError}, err::library(err::ProcessingFailed)};
-    }
+    constexpr ResultCode Stage = err::library(err::ProcessingFailed);
+    const CipherTask& task = run.task();
+    state.setResult(guarded(Stage, [&] {
+        if (task.callback)
+            task.callback->started(task.userData);
+        return work(run);
+    }));
+    state.setResult(guarded(Stage, [&] {
+        if (task.callback)
+            task.callback->finished(state.isStopRequested(), state.lastResult(), task.userData);
+    }));
+    return state.end();
 }
 
 } // namespace
@@ -53,29 +75,23 @@ CryptoResult guarded(Call call) noexcept
 CryptoResult runOperation(const CipherTask& task, ICipherEngine& engine, OperationState& state,
                           CryptoResult (*work)(CipherRun&))
 {
-    if (const CryptoResult refused = checkArguments(task, engine); !refused.ok())
-        return refused;
-    if (!state.begin())
-        return err::Busy;
-    CryptoResult result = guarded([&] {
-        if (task.callback)
-            task.callback->started(task.userData);
-        CipherRun run(task, engine, state);
-        return work(run);
+    return guarded(err::library(err::ProcessingFailed), [&]() -> CryptoResult {
+        KeyAndIv secret;
+        if (const CryptoResult gathered = gatherSecret(task.secret, engine, secret); !gathered.ok())
+            return gathered;
+        if (const CryptoResult refused = checkArguments(task, secret, engine); !refused.ok())
+            return refused;
+        CipherRun run(task, secret, engine, state);
+        if (!state.begin())
+            return err::Busy;
+        return runStarted(run, state, work);
     });
-    const CryptoResult reported = guarded([&] {
-        if (task.callback)
-            task.callback->finished(state.isStopRequested(), result, task.userData);
-        return CryptoResult();
-    });
-    if (result.ok())
-        result = reported;
-    state.end(result);
-    return result;
 }
 
-CipherRun::CipherRun(const CipherTask& task, ICipherEngine& engine, const OperationState& state)
+CipherRun::CipherRun(const CipherTask& task, const KeyAndIv& secret, ICipherEngine& engine,
+                     const OperationState& state)
     : m_task(task),
+      m_secret(secret),
       m_engine(engine),
       m_state(state),
       m_chunkSize(effectiveChunkSize(task.chunkSize, engine.blockLength()))
@@ -84,7 +100,7 @@ CipherRun::CipherRun(const CipherTask& task, ICipherEngine& engine, const Operat
 
 CryptoResult CipherRun::prepare()
 {
-    if (const CryptoResult keyed = m_engine.setKey(m_task.key, m_task.iv); !keyed.ok())
+    if (const CryptoResult keyed = m_engine.setKey(m_secret.key, m_secret.iv); !keyed.ok())
         return keyed;
     const std::uint64_t size = m_chunkSize + m_engine.extraRoom();
     if (!allocate(m_plain, size))
@@ -97,8 +113,9 @@ CryptoResult CipherRun::prepare()
 CryptoResult CipherRun::read(std::uint8_t* buffer, std::uint64_t count)
 {
     while (count > 0) {
+        const auto asked = static_cast<std::int64_t>(count);
         std::int64_t got = 0;
-        if (!m_task.in->read(buffer, static_cast<std::int64_t>(count), got) || got < 1)
+        if (!m_task.in->read(buffer, asked, got) || got < 1 || got > asked)
             return {err::ReadStreamFailed, m_task.in->lastError()};
         buffer += got;
         count -= static_cast<std::uint64_t>(got);
@@ -109,7 +126,7 @@ CryptoResult CipherRun::read(std::uint8_t* buffer, std::uint64_t count)
 CryptoResult CipherRun::write(const std::uint8_t* buffer, std::uint64_t count)
 {
     const auto asked = static_cast<std::int64_t>(count);
-    if (m_task.out->write(buffer, asked) < asked)
+    if (m_task.out->write(buffer, asked) != asked)
         return {err::WriteStreamFailed, m_task.out->lastError()};
     return {};
 }

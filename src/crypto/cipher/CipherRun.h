@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 
 namespace tessaly::crypto {
 
@@ -17,25 +18,41 @@ namespace tessaly::crypto {
 inline constexpr std::uint32_t DefaultChunkSize = 32768;
 inline constexpr std::uint32_t DefaultProgressInterval = 400;
 
+/// The secret of an operation: a key, or a password and the hash that makes a key of it.
+struct CipherSecret
+{
+    const SecretBytes* key = nullptr;         ///< null: the password is used
+    const char* password = nullptr;           ///< zero-terminated
+    std::optional<std::uint32_t> hashId = {}; ///< else the one for the key length
+    const SecretBytes* iv = nullptr;          ///< null: zero bytes
+};
+
 /// What one encryption or decryption is asked to do.
 struct CipherTask
 {
     io::IStreamBytes* in;
     io::OStreamBytes* out;
-    const SecretBytes& key;
-    const SecretBytes& iv;
-    std::uint32_t chunkSize;  ///< bytes, at least 8
-    std::uint32_t intervalMs; ///< between two progress reports
+    CipherSecret secret;
     bool salt;
     ICipherCallback* callback; ///< may be null
     void* userData;
+    std::uint32_t chunkSize = DefaultChunkSize;         ///< bytes, at least 8
+    std::uint32_t intervalMs = DefaultProgressInterval; ///< between two progress reports
+};
+
+/// A cipher's key and IV while an operation runs.
+struct KeyAndIv
+{
+    SecretBytes key;
+    SecretBytes iv;
 };
 
 /// One operation while it runs: its buffers and the steps that both directions are made of.
 class CipherRun
 {
 public:
-    CipherRun(const CipherTask& task, ICipherEngine& engine, const OperationState& state);
+    CipherRun(const CipherTask& task, const KeyAndIv& secret, ICipherEngine& engine,
+              const OperationState& state);
 
     const CipherTask& task() const { return m_task; }
     ICipherEngine& engine() { return m_engine; }
@@ -48,9 +65,9 @@ public:
     std::uint8_t* plain() { return m_plain.data(); }
     std::uint8_t* cipher() { return m_cipher.data(); }
 
-    /// All of `count` bytes, or (5, 60).
+    /// All of `count` bytes, or (5, 60); also for a stream that claims to have given more.
     CryptoResult read(std::uint8_t* buffer, std::uint64_t count);
-    /// All of `count` bytes, or (5, 61).
+    /// Exactly `count` bytes, or (5, 61).
     CryptoResult write(const std::uint8_t* buffer, std::uint64_t count);
     /// Calls the progress callback when its time has come.
     void report(std::uint64_t processed, std::uint64_t total);
@@ -59,6 +76,7 @@ private:
     using Clock = std::chrono::steady_clock;
 
     const CipherTask& m_task;
+    const KeyAndIv& m_secret;
     ICipherEngine& m_engine;
     const OperationState& m_state;
     std::uint64_t m_chunkSize;
@@ -71,8 +89,8 @@ private:
 CryptoResult encryptStream(CipherRun& run);
 CryptoResult decryptStream(CipherRun& run);
 
-/// Checks the arguments, then does `work` as the one operation of the object that owns `state`,
-/// between the started and finished callbacks. No exception leaves it.
+/// The whole of a public form: makes the key, checks the arguments, then does `work` as the one operation
+/// of the object that owns `state`, between the started and finished callbacks. No exception leaves it.
 CryptoResult runOperation(const CipherTask& task, ICipherEngine& engine, OperationState& state,
                           CryptoResult (*work)(CipherRun&));
 

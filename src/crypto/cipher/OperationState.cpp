@@ -15,11 +15,18 @@ bool OperationState::begin()
     return true;
 }
 
-void OperationState::end(const CryptoResult& result)
+void OperationState::setResult(const CryptoResult& result)
 {
     std::lock_guard guard(m_lock);
-    m_lastResult = result;
+    if (m_lastResult.ok())
+        m_lastResult = result;
+}
+
+CryptoResult OperationState::end()
+{
+    std::lock_guard guard(m_lock);
     m_busy = false;
+    return m_lastResult;
 }
 
 void OperationState::requestStop()

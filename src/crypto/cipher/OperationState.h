@@ -5,14 +5,17 @@
 
 namespace tessaly::crypto {
 
-/// Whether an encryptor or decryptor is at work, and whether it was asked to stop. Any thread;
-/// its lock guards every member.
+/// Whether an encryptor or decryptor is at work, whether it was asked to stop, and how its last
+/// operation went. Any thread; its lock guards every member.
 class OperationState
 {
 public:
-    /// False when an operation is already running.
+    /// False when an operation is already running; else its flags and result are clear.
     [[nodiscard]] bool begin();
-    void end(const CryptoResult& result);
+    /// Keeps the first failure.
+    void setResult(const CryptoResult& result);
+    /// No longer busy; gives the result.
+    CryptoResult end();
     void requestStop();
     bool isStopRequested() const;
     bool isBusy() const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "crypto/Guard.h"
 #include "crypto/key/IHash.h"
 
 namespace tessaly::cryptopp {
@@ -11,11 +12,13 @@ class CHash final : public crypto::IHash
 public:
     crypto::CryptoResult hash(const void* bytes, std::size_t count, SecretBytes& digest) override
     {
-        digest.clear();
-        if (const crypto::CryptoResult result = m_engine.update(bytes, count); !result.ok())
-            return result;
-        digest.resize(m_engine.digestLength());
-        return m_engine.finish(digest.data());
+        return crypto::guarded({}, [&]() -> crypto::CryptoResult {
+            digest.clear();
+            if (const crypto::CryptoResult result = m_engine.update(bytes, count); !result.ok())
+                return result;
+            digest.resize(m_engine.digestLength());
+            return m_engine.finish(digest.data());
+        });
     }
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "crypto/cryptopp/Guard.h"
+#include "crypto/Guard.h"
 #include "crypto/key/IHashEngine.h"
 
 #include <cryptopp/cryptlib.h>
@@ -12,17 +12,17 @@ template <class Algorithm, std::uint32_t Id>
 class CHashEngine final : public crypto::IHashEngine
 {
 public:
-    std::uint32_t hashId() const override { return Id; }
     std::uint32_t digestLength() const override { return Algorithm::DIGESTSIZE; }
 
     crypto::CryptoResult update(const void* bytes, std::size_t count) override
     {
-        return guarded({}, [&] { m_algorithm.Update(static_cast<const CryptoPP::byte*>(bytes), count); });
+        return crypto::guarded({},
+                               [&] { m_algorithm.Update(static_cast<const CryptoPP::byte*>(bytes), count); });
     }
 
     crypto::CryptoResult finish(std::uint8_t* digest) override
     {
-        return guarded({}, [&] { m_algorithm.Final(digest); });
+        return crypto::guarded({}, [&] { m_algorithm.Final(digest); });
     }
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "crypto/Guard.h"
 #include "crypto/cipher/ICipherEngine.h"
-#include "crypto/cryptopp/Guard.h"
 
 namespace tessaly::cryptopp {
 
@@ -20,7 +20,7 @@ public:
 
     crypto::CryptoResult setKey(const SecretBytes& key, const SecretBytes& iv) override
     {
-        return guarded(err::library(err::KeyingFailed), [&] {
+        return crypto::guarded(err::library(err::KeyingFailed), [&] {
             if (iv.empty())
                 m_cipher.SetKey(key.data(), key.size());
             else
@@ -30,7 +30,8 @@ public:
 
     crypto::CryptoResult process(std::uint8_t* out, const std::uint8_t* in, std::size_t count) override
     {
-        return guarded(err::library(err::ProcessingFailed), [&] { m_cipher.ProcessData(out, in, count); });
+        return crypto::guarded(err::library(err::ProcessingFailed),
+                               [&] { m_cipher.ProcessData(out, in, count); });
     }
 
 private:

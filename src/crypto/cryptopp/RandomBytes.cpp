@@ -1,6 +1,6 @@
 #include "crypto/key/RandomBytes.h"
 
-#include "crypto/cryptopp/Guard.h"
+#include "crypto/Guard.h"
 
 #include <cryptopp/osrng.h>
 
@@ -8,9 +8,10 @@ namespace tessaly::crypto {
 
 CryptoResult randomBytes(std::size_t count, SecretBytes& bytes)
 {
-    bytes = SecretBytes(count);
-    const CryptoResult result = cryptopp::guarded(
-        {}, [&bytes] { CryptoPP::OS_GenerateRandomBlock(false, bytes.data(), bytes.size()); });
+    const CryptoResult result = guarded({}, [&] {
+        bytes = SecretBytes(count);
+        CryptoPP::OS_GenerateRandomBlock(false, bytes.data(), bytes.size());
+    });
     if (!result.ok())
         bytes.clear();
     return result;

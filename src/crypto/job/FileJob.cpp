@@ -1,5 +1,6 @@
 #include "crypto/job/FileJob.h"
 
+#include "crypto/Guard.h"
 #include "io/IStreamFile.h"
 #include "io/OutputFile.h"
 #include "lib/err/ErrorCodes.h"
@@ -46,21 +47,14 @@ private:
     bool m_stopped = false;
 };
 
-CryptoResult process(ISymmetricEncryptor& encryptor, const FileJobRequest& request, io::IStreamBytes& in,
-                     io::OStreamBytes& out, ICipherCallback& callback)
+template <class... SaltFlag>
+CryptoResult process(ISymmetricCipher<SaltFlag...>& cipher, const FileJobRequest& request,
+                     io::IStreamBytes& in, io::OStreamBytes& out, ICipherCallback& callback)
 {
-    return request.passwordMode
-               ? encryptor.encryptWithPassword(&in, &out, request.password.c_str(), request.useSalt,
-                                               &callback, nullptr)
-               : encryptor.encrypt(&in, &out, request.key, request.iv, request.useSalt, &callback, nullptr);
-}
-
-CryptoResult process(ISymmetricDecryptor& decryptor, const FileJobRequest& request, io::IStreamBytes& in,
-                     io::OStreamBytes& out, ICipherCallback& callback)
-{
-    return request.passwordMode
-               ? decryptor.decryptWithPassword(&in, &out, request.password.c_str(), &callback, nullptr)
-               : decryptor.decrypt(&in, &out, request.key, request.iv, &callback, nullptr);
+    return request.passwordMode ? cipher.runWithPassword(&in, &out, request.password.c_str(),
+                                                         SaltFlag(request.useSalt)..., &callback, nullptr)
+                                : cipher.run(&in, &out, request.key, request.iv, SaltFlag(request.useSalt)...,
+                                             &callback, nullptr);
 }
 
 /// An encrypted file is for everybody who may read the plain one, a decrypted one for its owner.
@@ -86,12 +80,7 @@ public:
 
     FileJobOutcome run()
     {
-        try {
-            m_outcome.result = work();
-        } catch (...) {
-            m_outcome.result = {ResultCode{err::CategoryCryptoPP, OtherError},
-                                err::library(err::ProcessingFailed)};
-        }
+        m_outcome.result = guarded(err::library(err::ProcessingFailed), [this] { return work(); });
         const bool wasThere = m_removedFormer || m_out.isBegun();
         if (!m_outcome.done())
             m_outcome.outputDeleted = m_out.discard() && wasThere;
@@ -99,9 +88,6 @@ public:
     }
 
 private:
-    /// Crypto++'s error type for anything that is not an exception of its own.
-    static constexpr std::uint32_t OtherError = 6;
-
     CryptoResult work()
     {
         CryptoResult result = makeRoomFirst();

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "crypto/CryptoResult.h"
-#include "crypto/cipher/ISymmetricDecryptor.h"
-#include "crypto/cipher/ISymmetricEncryptor.h"
+#include "crypto/cipher/ISymmetricCipher.h"
 #include "io/FilePlace.h"
 #include "lib/platform/File.h"
 #include "lib/secret/Secret.h"

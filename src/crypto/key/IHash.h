@@ -7,7 +7,7 @@
 
 namespace tessaly::crypto {
 
-/// A hash function in one call.
+/// A hash function in one call. No exception leaves it.
 class IHash
 {
 public:

@@ -12,7 +12,6 @@ class IHashEngine
 {
 public:
     virtual ~IHashEngine() = default;
-    virtual std::uint32_t hashId() const = 0;
     virtual std::uint32_t digestLength() const = 0;
     virtual CryptoResult update(const void* bytes, std::size_t count) = 0;
     /// Writes digestLength bytes and starts anew.

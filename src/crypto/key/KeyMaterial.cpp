@@ -1,5 +1,6 @@
 #include "crypto/key/KeyMaterial.h"
 
+#include "crypto/Guard.h"
 #include "crypto/key/Hash.h"
 
 #include <string_view>
@@ -49,14 +50,16 @@ CryptoResult deriveKey(SecretBytes& key, std::uint32_t keyLength, std::uint32_t 
     key.clear();
     if (password == nullptr)
         return err::NullArgument;
-    SecretBytes material;
-    material.reserve(keyLength + digestLength(hashId));
-    const CryptoResult result = extendKey(material, keyLength, hashId, password);
-    if (result.ok()) {
-        material.resize(keyLength);
-        key = std::move(material);
-    }
-    return result;
+    return guarded({}, [&] {
+        SecretBytes material;
+        material.reserve(keyLength + digestLength(hashId));
+        const CryptoResult result = extendKey(material, keyLength, hashId, password);
+        if (result.ok()) {
+            material.resize(keyLength);
+            key = std::move(material);
+        }
+        return result;
+    });
 }
 
 } // namespace tessaly::crypto

@@ -17,6 +17,8 @@ using namespace test;
 /// What must not be in memory that is given back; null: nobody looks.
 std::atomic<const std::vector<Bytes>*> searched = nullptr;
 std::atomic<int> found = 0;
+/// Allocations until one fails; 0: none does.
+std::atomic<int> allocationsLeft = 0;
 
 int leaksOf(const std::vector<Bytes>& secrets, const std::function<void()>& work)
 {
@@ -46,14 +48,14 @@ void operator delete(void* memory, std::size_t) noexcept
 }
 void* operator new(std::size_t size)
 {
-    if (void* memory = std::malloc(std::max<std::size_t>(size, 1)))
-        return memory;
-    throw std::bad_alloc();
+    void* memory =
+        allocationsLeft > 0 && --allocationsLeft == 0 ? nullptr : std::malloc(std::max<std::size_t>(size, 1));
+    return memory ? memory : throw std::bad_alloc();
 }
 
 namespace {
 
-TEST(Wiping, TheSearchFindsWhatIsNotWiped)
+TEST(Memory, TheSearchFindsWhatIsNotWiped)
 {
     const Bytes bytes = noise(16);
     EXPECT_EQ(leaksOf({bytes}, [&] { const Bytes careless = bytes; }), 1);
@@ -61,7 +63,7 @@ TEST(Wiping, TheSearchFindsWhatIsNotWiped)
 }
 
 /// Neither in memory that is given back nor in what is kept for the next bytes.
-TEST(Wiping, NoWayOfEmptyingASecretLeavesItsBytes)
+TEST(Memory, NoWayOfEmptyingASecretLeavesItsBytes)
 {
     struct Way
     {
@@ -97,7 +99,7 @@ TEST(Wiping, NoWayOfEmptyingASecretLeavesItsBytes)
 }
 
 /// Password, key and plain data stay in no freed block, whether all goes well or not.
-TEST(Wiping, NoSecretStaysBehind)
+TEST(Memory, NoSecretStaysBehind)
 {
     const char* const password = "a password of some length";
     const Bytes plain = noise(50000);
@@ -118,13 +120,55 @@ TEST(Wiping, NoSecretStaysBehind)
             MemoryOutput decrypted({.failAtCall = failingWrite});
             decrypted.bytes.reserve(plain.size()); // growing would leave copies of its own
             const auto thereAndBack = [&] {
-                (void)job.encryptor->encryptWithPassword(&in, &out, password, false, nullptr, nullptr);
+                (void)job.encryptor->runWithPassword(&in, &out, password, false, nullptr, nullptr);
                 MemoryInput encrypted(out.bytes);
-                (void)job.decryptor->decryptWithPassword(&encrypted, &decrypted, password, nullptr, nullptr);
+                (void)job.decryptor->runWithPassword(&encrypted, &decrypted, password, nullptr, nullptr);
             };
             EXPECT_EQ(leaksOf(secrets, thereAndBack), 0);
             EXPECT_EQ(decrypted.bytes == plain, failingWrite == 0);
         }
+}
+
+class Counter final : public tessaly::crypto::ICipherCallback
+{
+public:
+    int starts = 0;
+    int ends = 0;
+    void started(void*) override { ++starts; }
+    void progress(std::int64_t, float, void*) override {}
+    void finished(bool, const CryptoResult&, void*) override { ++ends; }
+};
+
+/// With an allocation failing, every form ends with a result of that stage, and the object can be used again.
+TEST(Memory, NoFormLetsAFailedAllocationOut)
+{
+    const tessaly::ResultCode caught{err::CategoryCryptoPP, 6};
+    std::vector<CryptoResult> expected = {err::FirstBufferAllocation, err::SecondBufferAllocation};
+    for (const auto stage :
+         {err::KeyDerivationFailed, err::KeyingFailed, err::CheckValueHashFailed, err::ProcessingFailed})
+        expected.emplace_back(caught, err::library(stage));
+    const Job job("Threefish-1024");
+    std::vector<CryptoResult> seen;
+    for (const bool decrypting : {false, true})
+        for (int failing = 1, failures = 1; failures > 0; ++failing) {
+            Counter counter;
+            MemoryInput in(decrypting ? Bytes(300) : noise(300));
+            MemoryOutput out;
+            allocationsLeft = failing;
+            const CryptoResult result =
+                decrypting ? job.decryptor->runWithPassword(&in, &out, "password", &counter, nullptr)
+                           : job.encryptor->runWithPassword(&in, &out, "password", false, &counter, nullptr);
+            failures = allocationsLeft == 0;
+            allocationsLeft = 0;
+            if (failures > 0) {
+                EXPECT_EQ(std::ranges::count(expected, result), 1) << testing::PrintToString(result);
+                seen.push_back(result);
+            }
+            EXPECT_EQ(counter.starts, counter.ends);
+            EXPECT_FALSE(job.encryptor->isBusy() || job.decryptor->isBusy());
+        }
+    for (const CryptoResult& result : expected)
+        EXPECT_NE(std::ranges::find(seen, result), seen.end());
 }
 
 } // namespace
