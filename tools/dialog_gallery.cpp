@@ -156,10 +156,24 @@ void saveOptionsDialog(Gallery& gallery)
     dialog.findChild<QCheckBox*>(QStringLiteral("checkUseOutputDir"))->setChecked(true);
     gallery.save(QStringLiteral("options_small"), dialog, [&dialog] { dialog.resize(400, 300); });
     dialog.resize(dialog.sizeHint());
+    auto* folder = dialog.findChild<QLineEdit*>(QStringLiteral("editOutputDir"));
+    gallery.save(QStringLiteral("options_folder"), dialog, [&dialog, folder] {
+        folder->setText(QStringLiteral("sftp://host/folder"));
+        dialog.onUiApply();
+    });
 
     auto* tabs = dialog.findChild<QTabWidget*>();
     gallery.save(QStringLiteral("options_names"), dialog, [tabs] { tabs->setCurrentIndex(1); });
     gallery.save(QStringLiteral("options_advanced"), dialog, [tabs] { tabs->setCurrentIndex(2); });
+}
+
+void saveOptionsProblem(Gallery& gallery)
+{
+    COptionsDialog dialog;
+    dialog.setLanguages({{1031, "Deutsch"}, {1033, "English"}});
+    dialog.setProblem(QStringLiteral(
+        "The translation can't be loaded: /usr/share/quillet/translations/quillet_de.ts:3: (error: 5/47)"));
+    gallery.save(QStringLiteral("options_problem"), dialog);
 }
 
 void saveInfoDialogs(Gallery& gallery)
@@ -201,6 +215,7 @@ int main(int argc, char** argv)
     saveKeyDialogs(gallery);
     saveAlgorithmDialogs(gallery);
     saveOptionsDialog(gallery);
+    saveOptionsProblem(gallery);
     saveInfoDialogs(gallery);
     return 0;
 }

@@ -2,17 +2,16 @@
 
 #include "common/errors/ErrorTexts.h"
 #include "lib/err/CErrMsgBuilder.h"
+#include "lib/logger/LogText.h"
 
-#include <algorithm>
 #include <cstdio>
 
 namespace cli {
 
 void complain(const std::string& message)
 {
-    std::string line = "quillet-cli: " + message;
-    std::ranges::replace_if(
-        line, [](char c) { return (c >= 0 && c < ' ') || c == '\x7f'; }, '?');
+    std::string line = "quillet-cli: ";
+    tessaly::logger::appendOneLine(line, message);
     std::fprintf(stderr, "%s\n", line.c_str());
 }
 

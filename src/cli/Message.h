@@ -6,8 +6,8 @@
 
 namespace cli {
 
-/// One line on standard error: "quillet-cli: ...". Control characters, which a file name may hold,
-/// are shown as "?".
+/// One line on standard error: "quillet-cli: ...". What a file name may hold and a terminal obey is
+/// shown as in the log (see lib/logger/LogText.h).
 void complain(const std::string& message);
 
 /// The sentence of a failure with its code, for example "Corrupted data (error: 5/4003)".

@@ -142,6 +142,11 @@ class Behaviour(unittest.TestCase):
             self.assertIn(word, self.encrypt("plain", code=1))
         self.assert_files("key", "iv")
 
+    def test_messages_show_names_as_they_are(self):
+        for name, shown in ((b"a\nb", r"a\nb"), (b"\x1b[2J\xff", r"\x1B[2J\xFF"), ("\x9b\u202egnp.exe".encode(),
+                             r"\xC2\x9B\xE2\x80\xAEgnp.exe"), ("ä ☂".encode(), "ä ☂")):
+            self.assertIn(shown + "\n", self.encrypt(os.fsdecode(name), code=1))
+
     def test_closed_output_is_an_error(self):
         with open("/dev/full", "wb") as full:
             self.assertEqual(subprocess.run([CLI, "algorithms"], stdout=full, stderr=subprocess.DEVNULL).returncode, 1)

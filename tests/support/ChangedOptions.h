@@ -15,12 +15,13 @@ inline thisapp::SAppOptions changedOptions()
         if constexpr (std::is_same_v<T, bool>)
             value = !value;
         else if constexpr (std::is_same_v<T, QString>)
-            value += "ü, \"x\"; \\ %1";
+            value += "ü, \"x\"; %1";
         else
             value = 5;
     };
 #define SETTING(Type, Key, member, fallback) change(options.member);
 #include "common/settings/SettingsKeys.def"
+    options.outputDirPath = "/ü, \"x\"; \\ %1";
     options.localeId = 1031;
     options.setDefaultAlgorithm({1, 3});
     options.useDefaultAlgorithmAtStarting = true;

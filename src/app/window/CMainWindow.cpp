@@ -148,11 +148,14 @@ void CMainWindow::filesDropped(int widgetId, const QList<QUrl>& urls)
                                           }});
 }
 
-void CMainWindow::appOptionsChanged(const SAppOptions& options)
+SAppliedOptions CMainWindow::appOptionsChanged(const SAppOptions& options)
 {
-    m_services.options.apply(
+    SAppliedOptions applied = m_services.options.apply(
         options, [this](const AlgSelection& selection) { m_form->algFrame().setSelection(selection); });
     refresh();
+    if (!applied.problem.isEmpty())
+        m_form->showMessage(Area::Result, {MessageKind::Warning, [text = applied.problem] { return text; }});
+    return applied;
 }
 
 void CMainWindow::onUiEncryptItem()

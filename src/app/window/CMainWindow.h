@@ -49,7 +49,7 @@ public:
     [[nodiscard]] bool endJob(unsigned milliseconds) { return m_job.end(milliseconds); }
 
     void filesDropped(int widgetId, const QList<QUrl>& urls) override;
-    void appOptionsChanged(const thisapp::SAppOptions& options) override;
+    thisapp::SAppliedOptions appOptionsChanged(const thisapp::SAppOptions& options) override;
 
 public slots:
     void onUiEncryptItem();

@@ -31,6 +31,7 @@ void DialogCommands::onUiOptionsItem()
     dialog.setLogFilePath(m_options.logFilePath());
     dialog.setReceiver(&m_receiver);
     dialog.setOptions(m_options.read());
+    dialog.setProblem(m_options.problem());
     if (dialog.exec() == QDialog::Accepted)
         m_receiver.appOptionsChanged(dialog.options());
 }

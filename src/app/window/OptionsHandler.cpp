@@ -1,12 +1,15 @@
 #include "app/window/OptionsHandler.h"
 
 #include "app/i18n/MyTranslator.h"
+#include "common/errors/ErrorText.h"
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "common/settings/OptionsStore.h"
 #include "crypto/catalogue/Catalogue.h"
+#include "lib/err/ErrorCodes.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/logger/FileLogging.h"
+#include "lib/logger/Log.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
 #include <QCoreApplication>
@@ -24,6 +27,20 @@ bool isKnownAlgorithm(std::uint32_t id)
     return crypto::findAlgorithm(id) != nullptr;
 }
 
+constexpr const char* Source = "mainwindow";
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("OptionsHandler", text);
+}
+
+/// "/folder/quillet_de.ts:12: (error: 5/47)".
+QString fault(const i18n::LoadResult& result)
+{
+    const QString line = result.line > 0 ? QStringLiteral(":%1").arg(result.line) : QString();
+    return pathText(result.file) + line + QStringLiteral(": ") + errorText(result.code);
+}
+
 } // namespace
 
 OptionsHandler::OptionsHandler(OptionsTargets targets) : m_targets(std::move(targets))
@@ -32,7 +49,11 @@ OptionsHandler::OptionsHandler(OptionsTargets targets) : m_targets(std::move(tar
 
 SAppOptions OptionsHandler::read() const
 {
-    return readOptions(CAppSettings(), isKnownAlgorithm);
+    SAppOptions options = readOptions(CAppSettings(), isKnownAlgorithm);
+    if (!m_targets.algorithms.isValid(options.defaultAlgorithm()))
+        options.setDefaultAlgorithm(DefaultAlgSelection);
+    options.localeId = m_targets.translations.locale().lcid;
+    return options;
 }
 
 std::vector<i18n::Language> OptionsHandler::languages() const
@@ -45,9 +66,23 @@ QString OptionsHandler::logFilePath() const
     return pathText(m_targets.logging.path());
 }
 
+QString OptionsHandler::problem() const
+{
+    if (!m_unsavedIn.isEmpty())
+        return tr("The options can't be saved in %1.").arg(m_unsavedIn);
+    if (m_language.code == err::library(err::NoTranslation))
+        return tr("There is no translation for the chosen language.");
+    if (!m_language.ok())
+        return tr("The translation can't be loaded: %1").arg(fault(m_language));
+    if (const std::string& problem = m_targets.logging.problem(); !problem.empty())
+        return tr("Nothing is written to the log file: %1").arg(QString::fromStdString(problem));
+    return {};
+}
+
 std::optional<AlgSelection> OptionsHandler::defaultAlgorithm() const
 {
-    return readDefaultAlgorithm(CAppSettings(), isKnownAlgorithm);
+    const auto stored = readDefaultAlgorithm(CAppSettings(), isKnownAlgorithm);
+    return stored && m_targets.algorithms.isValid(*stored) ? stored : std::nullopt;
 }
 
 void OptionsHandler::storeDefaultAlgorithm(const AlgSelection& selection) const
@@ -56,7 +91,8 @@ void OptionsHandler::storeDefaultAlgorithm(const AlgSelection& selection) const
     writeDefaultAlgorithm(settings, selection);
 }
 
-void OptionsHandler::apply(const SAppOptions& options, const std::function<void(const AlgSelection&)>& select)
+SAppliedOptions OptionsHandler::apply(const SAppOptions& options,
+                                      const std::function<void(const AlgSelection&)>& select)
 {
     CAppSettings settings;
     const bool shellChanged = writeOptions(settings, options);
@@ -66,23 +102,24 @@ void OptionsHandler::apply(const SAppOptions& options, const std::function<void(
         select(algorithm);
     }
     applyLogging(options);
-    if (readLocaleId(settings) != options.localeId) {
-        if (m_targets.translations.use(options.localeId).ok()) {
-            writeLocaleId(settings, options.localeId);
-            applyLanguage();
-        }
+    if (readLocaleId(settings) != options.localeId && useLanguage(options.localeId)) {
+        writeLocaleId(settings, options.localeId);
+        installTranslator();
     }
+    m_unsavedIn = settings.save() ? QString() : settings.fileName();
     if (shellChanged)
         m_targets.updateShell(options.integrateToShellContextMenu, options.addToSendMenu);
+    return {problem(), m_targets.translations.locale().lcid};
 }
 
 void OptionsHandler::applyAtStart()
 {
-    const SAppOptions options = read();
-    applyLogging(options);
-    (void)m_targets.translations.load();
-    (void)m_targets.translations.use(options.localeId);
-    applyLanguage();
+    const CAppSettings settings;
+    applyLogging(readOptions(settings, isKnownAlgorithm));
+    m_list = m_targets.translations.load();
+    useLanguage(readLocaleId(settings));
+    installTranslator();
+    logUnused(settings.removedLines());
 }
 
 void OptionsHandler::applyLogging(const SAppOptions& options)
@@ -91,11 +128,36 @@ void OptionsHandler::applyLogging(const SAppOptions& options)
     m_targets.logging.setLogFileUsed(options.useLogFile);
 }
 
+/// Without a list, that is what is told.
+bool OptionsHandler::useLanguage(std::uint32_t localeId)
+{
+    m_language = m_targets.translations.use(localeId);
+    if (m_language.ok())
+        return true;
+    if (!m_list.ok())
+        m_language = m_list;
+    logger::log(logger::Warning, Source) << "The translation for locale " << localeId
+                                         << " can't be loaded: " << fault(m_language).toStdString();
+    return false;
+}
+
 /// Installing the translator again sends every window a LanguageChange event.
-void OptionsHandler::applyLanguage()
+void OptionsHandler::installTranslator()
 {
     QCoreApplication::removeTranslator(&m_targets.translator);
     QCoreApplication::installTranslator(&m_targets.translator);
+}
+
+void OptionsHandler::logUnused(int removedLines) const
+{
+    const auto warn = [] { return logger::log(logger::Warning, Source); };
+    if (removedLines > 0)
+        warn() << "Lines taken out of the settings file that could not be read: " << removedLines;
+    if (removedLines < 0)
+        warn() << "The settings file cannot be read; all settings have their defaults.";
+    for (const auto& [name, stored, used] : unusedValues(CAppSettings(), read()))
+        warn() << "Setting " << name.data() << " is stored as \"" << stored.toStdString()
+               << "\"; in use is \"" << used.toStdString() << "\".";
 }
 
 } // namespace thisapp

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "common/settings/AlgSelection.h"
+#include "common/settings/IAppOptionsChanged.h"
 #include "common/settings/SAppOptions.h"
 #include "lib/i18n/locale/Language.h"
+#include "lib/i18n/resource/TranslationFile.h"
 
 #include <QString>
 
@@ -39,24 +41,32 @@ class OptionsHandler
 public:
     explicit OptionsHandler(OptionsTargets targets);
 
+    /// As stored; where that cannot be used, what is in use in its place: the language, too.
     SAppOptions read() const;
     std::vector<tessaly::i18n::Language> languages() const;
     QString logFilePath() const;
+    /// A sentence on what of the options is not in effect; empty when all is.
+    QString problem() const;
     std::optional<AlgSelection> defaultAlgorithm() const;
     void storeDefaultAlgorithm(const AlgSelection& selection) const;
 
     /// Stores the options and makes them take effect at once; a change of the language reaches every
     /// window as a LanguageChange event. `select` gets the default algorithm when it is usable.
-    void apply(const SAppOptions& options, const std::function<void(const AlgSelection&)>& select);
+    SAppliedOptions apply(const SAppOptions& options, const std::function<void(const AlgSelection&)>& select);
 
     /// What start-up does with the stored options.
     void applyAtStart();
 
 private:
     void applyLogging(const SAppOptions& options);
-    void applyLanguage();
+    bool useLanguage(std::uint32_t localeId);
+    void installTranslator();
+    void logUnused(int removedLines) const;
 
     OptionsTargets m_targets;
+    QString m_unsavedIn; ///< the settings file that could not be written; else empty
+    tessaly::i18n::LoadResult m_list;
+    tessaly::i18n::LoadResult m_language;
 };
 
 } // namespace thisapp

@@ -1,5 +1,8 @@
 #include "common/naming/OutputNaming.h"
 
+#include "common/path/PathText.h"
+#include "lib/platform/Folders.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -71,7 +74,7 @@ QString outputFolder(const QFileInfo& input, const NamingSettings& settings, con
 
 bool makeFolder(const QString& path)
 {
-    return QDir().mkpath(path);
+    return tessaly::platform::createFolders(nativePath(path)).ok();
 }
 
 NamingDirection namingDirection(const QString& fileName, const NamingSettings& settings)

@@ -13,7 +13,7 @@ namespace thisapp {
 /// Makes a folder with all its missing parents; true when it exists afterwards.
 using FolderMaker = std::function<bool(const QString& path)>;
 
-/// The maker that works on the real file system.
+/// The maker that works on the real file system; what it makes survives a power cut.
 bool makeFolder(const QString& path);
 
 /// Decryption for a name that carries the encryption extension, in any letter case.

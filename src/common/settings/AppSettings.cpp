@@ -1,6 +1,7 @@
 #include "common/settings/AppSettings.h"
 
 #include "common/settings/Product.h"
+#include "common/settings/SettingsFile.h"
 #include "lib/platform/SettingsLocation.h"
 
 #include <QFile>
@@ -23,8 +24,22 @@ QString storagePath(std::uint32_t productId)
 } // namespace
 
 AppSettings::AppSettings(std::uint32_t productId)
-    : QSettings(storagePath(productId), QSettings::NativeFormat), m_productId(productId)
+    : AppSettings(productId, storagePath(productId), removeSerialisedValues(storagePath(productId)))
 {
+}
+
+/// A file that can be neither read safely nor mended is left alone: all settings have their defaults.
+AppSettings::AppSettings(std::uint32_t productId, const QString& path, int removedLines)
+    : QSettings(removedLines < 0 ? path + QStringLiteral(".unreadable/") : path, QSettings::NativeFormat),
+      m_removedLines(removedLines),
+      m_productId(productId)
+{
+}
+
+bool AppSettings::save()
+{
+    sync();
+    return status() != AccessError;
 }
 
 } // namespace tessaly

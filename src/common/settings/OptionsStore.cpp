@@ -1,6 +1,7 @@
 #include "common/settings/OptionsStore.h"
 
 #include "common/settings/SettingsKeys.h"
+#include "common/settings/TextRules.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/logger/Level.h"
 
@@ -35,6 +36,17 @@ void store(QSettings& settings, const SettingsKey<std::uint32_t>& key, std::uint
     settings.setValue(QLatin1String(key.name), storedForm(value));
 }
 
+void keepUsableTexts(SAppOptions& options)
+{
+    const SAppOptions defaults;
+    for (QString SAppOptions::*part :
+         {&SAppOptions::encFileNameExt, &SAppOptions::encFileNameSuffix, &SAppOptions::encFileNamePrefix,
+          &SAppOptions::decFileNameExt, &SAppOptions::decFileNameSuffix, &SAppOptions::decFileNamePrefix})
+        if (!isNamePart(options.*part))
+            options.*part = defaults.*part;
+    options.outputDirPath = folderPath(options.outputDirPath).value_or(defaults.outputDirPath);
+}
+
 } // namespace
 
 SAppOptions readStoredOptions(const QSettings& settings)
@@ -42,7 +54,28 @@ SAppOptions readStoredOptions(const QSettings& settings)
     SAppOptions options;
 #define SETTING(Type, Key, member, fallback) options.member = readSetting(settings, keys::Key);
 #include "common/settings/SettingsKeys.def"
+    keepUsableTexts(options);
     return options;
+}
+
+std::vector<UnusedValue> unusedValues(const QSettings& settings, const SAppOptions& used)
+{
+    std::vector<UnusedValue> unused;
+    const auto compare = [&](const auto& key, const auto& value) {
+        const QLatin1String name(key.name);
+        const auto stored = storedSetting(settings, key);
+        if (settings.contains(name) && (!stored || *stored != value))
+            unused.push_back({name, settings.value(name).toString(), storedForm(value).toString()});
+    };
+#define SETTING(Type, Key, member, fallback) compare(keys::Key, used.member);
+#define SEPARATE_SETTING(Type, Key, member, fallback)
+#include "common/settings/SettingsKeys.def"
+    compare(keys::LocaleId, used.localeId);
+    if (used.useDefaultAlgorithmAtStarting) {
+        compare(keys::DefaultCryptoLibrary, used.defaultCryptoLibrary);
+        compare(keys::DefaultCryptoAlgorithm, used.defaultCryptoAlgorithm);
+    }
+    return unused;
 }
 
 SAppOptions readOptions(const QSettings& settings, const KnownAlgorithm& isKnownAlgorithm)

@@ -20,7 +20,8 @@ namespace thisapp {
 /// Tells whether an algorithm id is in the catalogue.
 using KnownAlgorithm = std::function<bool(std::uint32_t)>;
 
-/// Everything as stored. Values of another type read as their defaults; the ids are not looked at.
+/// Everything as stored. Values of another type, and texts that cannot be used (see TextRules.h), read as
+/// their defaults, and the folder is spelt out; the ids are not looked at.
 SAppOptions readStoredOptions(const QSettings& settings);
 
 /// Everything for the options dialog: an unknown locale reads as the default one, a log level out of
@@ -34,6 +35,16 @@ std::uint32_t readLocaleId(const QSettings& settings);
 /// then use DefaultAlgSelection.
 std::optional<AlgSelection> readDefaultAlgorithm(const QSettings& settings,
                                                  const KnownAlgorithm& isKnownAlgorithm);
+
+/// A stored value in whose place another one is in use.
+struct UnusedValue
+{
+    QLatin1String name;
+    QString stored;
+    QString used;
+};
+
+std::vector<UnusedValue> unusedValues(const QSettings& settings, const SAppOptions& used);
 
 /// What writeOptions stores, in its order.
 std::vector<std::pair<QLatin1String, QVariant>> writtenValues(const SAppOptions& options);

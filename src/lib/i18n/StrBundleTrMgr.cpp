@@ -37,11 +37,11 @@ StrBundleText StrBundleTrMgr::lookup(std::string_view context, std::string_view 
     return {text->second, std::move(contexts)};
 }
 
-ResultCode StrBundleTrMgr::load(const ILocaleResLoader& loader, const std::wstring& path,
+LoadResult StrBundleTrMgr::load(const ILocaleResLoader& loader, const std::wstring& path,
                                 const file::IVariablesSetter* variables)
 {
     Loading loading(variables);
-    const ResultCode result = loader.load(path, loading);
+    LoadResult result = loader.load(path, loading);
     if (result.ok())
         m_contexts.set(loading.take());
     return result;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "lib/err/ResultCode.h"
 #include "lib/file/IVariablesSetter.h"
 #include "lib/i18n/IStrBundle.h"
 #include "lib/i18n/ItemNameCmp.h"
@@ -22,7 +21,7 @@ public:
     StrBundleText lookup(std::string_view context, std::string_view source) const override;
 
     /// Replaces the texts by those of the resource; a failure leaves them as they were.
-    ResultCode load(const ILocaleResLoader& loader, const std::wstring& path,
+    LoadResult load(const ILocaleResLoader& loader, const std::wstring& path,
                     const file::IVariablesSetter* variables = nullptr);
     /// Leaves no text at all.
     void clear();

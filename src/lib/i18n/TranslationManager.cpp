@@ -1,13 +1,14 @@
 #include "lib/i18n/TranslationManager.h"
 
 #include "lib/err/ErrorCodes.h"
-#include "lib/i18n/AsciiCase.h"
 #include "lib/i18n/list/TranslationListLoaderFactory.h"
+#include "lib/i18n/list/WordTest.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/i18n/resource/LocaleResLoaderFactory.h"
 #include "lib/platform/Path.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 namespace tessaly::i18n {
@@ -17,28 +18,34 @@ namespace {
 using internal::Locale;
 using internal::Translation;
 
+/// A link in the folder may lead elsewhere; the list's text may not.
+bool staysInFolder(const std::filesystem::path& file)
+{
+    return !file.empty() && !file.is_absolute() && std::ranges::find(file, "..") == file.end();
+}
+
 } // namespace
 
 TranslationManager::TranslationManager(std::wstring folder, std::string_view baseName)
     : m_folder(std::move(folder)),
-      m_listFile(platform::widePath(asciiLower(baseName)) + L".langs.xml"),
+      m_listPath(m_folder + L'/' + platform::widePath(asciiLower(baseName)) + L".langs.xml"),
       m_list(internal::TranslationListLoaderFactory().create()),
       m_locale(*findLocale(EnglishLcid))
 {
 }
 
-ResultCode TranslationManager::load()
+LoadResult TranslationManager::load()
 {
-    return m_list->load(m_folder + L'/' + m_listFile);
+    return m_list->load(m_listPath);
 }
 
-ResultCode TranslationManager::use(std::uint32_t lcid)
+LoadResult TranslationManager::use(std::uint32_t lcid)
 {
     const Locale* locale = findLocale(lcid);
     if (locale == nullptr)
-        return err::library(err::UnknownLocale);
+        return {err::library(err::UnknownLocale), m_listPath};
 
-    const ResultCode result = loadTexts(*locale);
+    LoadResult result = loadTexts(*locale);
     if (!result.ok() && lcid != EnglishLcid)
         return result;
     if (!result.ok())
@@ -83,16 +90,18 @@ std::optional<Translation> TranslationManager::find(const Locale& locale) const
     return std::nullopt;
 }
 
-ResultCode TranslationManager::loadTexts(const Locale& locale)
+LoadResult TranslationManager::loadTexts(const Locale& locale)
 {
     const auto translation = find(locale);
     if (!translation)
-        return err::library(err::NoTranslation);
+        return {err::library(err::NoTranslation), m_listPath};
+    if (!staysInFolder(translation->file))
+        return {err::library(err::MalformedText), m_listPath};
 
     std::unique_ptr<ILocaleResLoader> loader;
     const ResultCode created = internal::LocaleResLoaderFactory().create(translation->fileType, &loader);
     if (!created.ok())
-        return created;
+        return {created, m_listPath};
     return m_bundle.load(*loader, m_folder + L'/' + platform::widePath(translation->file), m_variables);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "lib/err/ResultCode.h"
 #include "lib/file/IVariablesSetter.h"
 #include "lib/i18n/StrBundleTrMgr.h"
 #include "lib/i18n/list/ITranslationListLoader.h"
@@ -28,12 +27,13 @@ public:
     TranslationManager(std::wstring folder, std::string_view baseName);
 
     /// Reads the list. A failure means that only English is there.
-    ResultCode load();
+    LoadResult load();
 
     /// Makes the locale the current one. Fails with UnknownLocale, NoTranslation (no enabled entry in
-    /// the list) or as the file does; then everything stays as it was. English always succeeds.
+    /// the list), MalformedText for an entry whose file lies outside the folder, or as the file does;
+    /// then everything stays as it was. English always succeeds.
     /// Afterwards install the translator again, or send LanguageChange, to retranslate the windows.
-    ResultCode use(std::uint32_t lcid);
+    LoadResult use(std::uint32_t lcid);
 
     /// English and every enabled entry of the list, in its order, each locale once.
     std::vector<Language> languages() const;
@@ -47,10 +47,10 @@ public:
 
 private:
     std::optional<internal::Translation> find(const internal::Locale& locale) const;
-    ResultCode loadTexts(const internal::Locale& locale);
+    LoadResult loadTexts(const internal::Locale& locale);
 
     const std::wstring m_folder;
-    const std::wstring m_listFile;
+    const std::wstring m_listPath;
     const file::IVariablesSetter* m_variables = nullptr;
     std::unique_ptr<ITranslationListLoader> m_list;
     internal::StrBundleTrMgr m_bundle;

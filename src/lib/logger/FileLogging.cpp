@@ -19,8 +19,11 @@ std::string plainErrorText(ResultCode result)
     return std::to_string(result.category) + "/" + std::to_string(result.code);
 }
 
+/// Null without a path or memory for it.
 std::shared_ptr<LogAppenderUtf8File> makeAppender(const std::string& path)
 try {
+    if (path.empty())
+        return nullptr;
     return {new LogAppenderUtf8File(FileAppenderId, path), internal::TAppenderDeleter()};
 } catch (const std::exception&) {
     return nullptr;
@@ -35,7 +38,8 @@ internal::LogSender<char>& sender()
 
 std::string FileLogging::defaultPath()
 {
-    return platform::stateFolder() + "/quillet/quillet.log";
+    const std::string folder = platform::stateFolder();
+    return folder.empty() ? folder : folder + "/quillet/quillet.log";
 }
 
 FileLogging::FileLogging(std::string path, ErrorText errorText)
@@ -57,6 +61,7 @@ void FileLogging::setLevel(std::uint32_t level)
 
 void FileLogging::setLogFileUsed(bool used)
 {
+    m_problem.clear();
     if (used && !m_appender)
         start();
     else if (!used)
@@ -66,20 +71,20 @@ void FileLogging::setLogFileUsed(bool used)
 void FileLogging::start()
 {
     const auto appender = makeAppender(m_path);
-    if (!appender) {
-        log(Error, Source) << "Failed to create file logger.";
-        return;
-    }
-    if (const ResultCode result = appender->start(); !result.ok()) {
-        log(Error, Source) << "Failed to start file logger. Error: " << m_errorText(result);
-        return;
-    }
-    if (const ResultCode result = sender().appenders().add(appender->id(), appender); !result.ok()) {
-        log(Error, Source) << "Failed to add file logger. Error: " << m_errorText(result);
-        return;
-    }
+    if (!appender)
+        return fail("Failed to create file logger.");
+    if (const ResultCode result = appender->start(); !result.ok())
+        return fail("Failed to start file logger. Error: " + m_errorText(result));
+    if (const ResultCode result = sender().appenders().add(appender->id(), appender); !result.ok())
+        return fail("Failed to add file logger. Error: " + m_errorText(result));
     m_appender = appender;
     log(Trace, Source) << "File logger was started.";
+}
+
+void FileLogging::fail(std::string problem)
+{
+    m_problem = std::move(problem);
+    log(Error, Source) << m_problem;
 }
 
 void FileLogging::stop()

@@ -18,7 +18,7 @@ class FileLogging
 public:
     using ErrorText = std::function<std::string(ResultCode)>;
 
-    /// quillet.log in the user's state folder.
+    /// quillet.log in the user's state folder; empty for a user without a home, who has none.
     static std::string defaultPath();
 
     /// Starts with the level Off and no log file. `errorText` words the errors that are logged;
@@ -33,14 +33,18 @@ public:
     void setLevel(std::uint32_t level);
     void setLogFileUsed(bool used);
     bool isLogFileUsed() const { return m_appender != nullptr; }
+    /// Why the log file that was switched on is not in use, as it was logged; else empty.
+    const std::string& problem() const { return m_problem; }
 
 private:
     void start();
     void stop();
+    void fail(std::string problem);
 
     const std::string m_path;
     const ErrorText m_errorText;
     std::shared_ptr<LogAppenderUtf8File> m_appender;
+    std::string m_problem;
 };
 
 } // namespace tessaly::logger

@@ -21,7 +21,8 @@ namespace tessaly::logger {
 
 /// Writes log lines to a UTF-8 file from a thread of its own. Loggers never wait for the disk: at
 /// most 10000 lines wait in memory, more are dropped. Trouble with the file costs lines and is
-/// reported to nobody. append: any thread; the rest: the owner's.
+/// reported to nobody. append: any thread; the rest: the owner's. The file is opened, written and closed
+/// under a lock that only the writer takes, and stop once the writer has ended: nobody waits for it.
 class LogAppenderUtf8File final : public internal::LogAppender<char>, public thread::IRunnable
 {
 public:

@@ -46,11 +46,13 @@ std::uint64_t LogSender<Char>::addRef()
 template <class Char>
 std::uint64_t LogSender<Char>::release()
 {
-    std::lock_guard guard(instanceLock());
-    if (m_references > 0 && --m_references > 0)
-        return m_references;
-    s_instance = nullptr;
-    delete this;
+    {
+        std::lock_guard guard(instanceLock());
+        if (m_references > 0 && --m_references > 0)
+            return m_references;
+        s_instance = nullptr;
+    }
+    delete this; // its appenders may wait for their writers
     return 0;
 }
 

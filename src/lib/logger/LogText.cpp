@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace tessaly::logger::internal {
+namespace tessaly::logger {
 
 namespace {
 
@@ -12,8 +12,10 @@ bool staysOnTheLine(wchar_t c)
 {
     const bool control = c < 0x20 || (c >= 0x7F && c <= 0x9F);
     const bool separator = c == 0x2028 || c == 0x2029;
+    const bool direction = c == 0x061C || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) ||
+                           (c >= 0x2066 && c <= 0x2069);
     const bool malformedByte = c >= 0xDC80 && c <= 0xDCFF; // as widePath carries it
-    return !control && !separator && !malformedByte;
+    return !control && !separator && !direction && !malformedByte;
 }
 
 void appendEscaped(std::string& line, std::string_view bytes)
@@ -44,4 +46,4 @@ void appendOneLine(std::string& line, std::string_view text)
     }
 }
 
-} // namespace tessaly::logger::internal
+} // namespace tessaly::logger

@@ -15,4 +15,8 @@ std::string stateFolder();
 /// exists already, whatever its permissions.
 ResultCode createPrivateFolders(const std::string& path);
 
+/// The same for everybody that the umask allows; each folder made survives a power cut once this
+/// returns, as far as its file system can promise that.
+ResultCode createFolders(const std::string& path);
+
 } // namespace tessaly::platform

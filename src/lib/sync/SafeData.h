@@ -31,10 +31,11 @@ public:
         return m_value;
     }
 
+    /// The old value is destroyed outside the lock.
     void set(T value)
     {
         std::lock_guard guard(m_locker);
-        m_value = std::move(value);
+        std::swap(m_value, value);
     }
 
     /// Calls action(value) under the lock and gives its result.

@@ -1,6 +1,7 @@
 #include "ui/options/CGeneralOptionsFrame.h"
 
 #include "common/settings/SAppOptions.h"
+#include "common/settings/TextRules.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui_CGeneralOptionsFrame.h"
 
@@ -80,12 +81,17 @@ void CGeneralOptionsFrame::setAlgProvider(const thisapp::ICryptoAlgProvider& pro
     thisapp::fillAlgList(*m_ui->comboAlgorithm, provider);
 }
 
+void CGeneralOptionsFrame::setLanguage(std::uint32_t localeId)
+{
+    m_ui->comboLanguage->setCurrentIndex(m_ui->comboLanguage->findData(localeId));
+}
+
 void CGeneralOptionsFrame::setOptions(const SAppOptions& options)
 {
     for (const Box& box : boxes())
         box.widget->setChecked(options.*box.option);
     setConfirmDeleteEnabled(options.deleteSourceFileAfterEncryption);
-    m_ui->comboLanguage->setCurrentIndex(m_ui->comboLanguage->findData(options.localeId));
+    setLanguage(options.localeId);
     m_ui->comboAlgorithm->setCurrentIndex(
         thisapp::findAlg(*m_ui->comboAlgorithm, options.defaultAlgorithm()));
     setOutputDir(options.outputDirPath);
@@ -100,7 +106,8 @@ void CGeneralOptionsFrame::store(SAppOptions& options) const
     options.setDefaultAlgorithm(options.useDefaultAlgorithmAtStarting
                                     ? m_ui->comboAlgorithm->currentData().value<thisapp::AlgSelection>()
                                     : thisapp::AlgSelection());
-    options.outputDirPath = QDir::toNativeSeparators(outputDir().trimmed());
+    const QString typed = outputDir().trimmed();
+    options.outputDirPath = QDir::toNativeSeparators(thisapp::folderPath(typed).value_or(typed));
 }
 
 QString CGeneralOptionsFrame::outputDir() const
@@ -111,6 +118,11 @@ QString CGeneralOptionsFrame::outputDir() const
 void CGeneralOptionsFrame::setOutputDir(const QString& path)
 {
     m_ui->editOutputDir->setText(path);
+}
+
+void CGeneralOptionsFrame::focusOutputDir()
+{
+    m_ui->editOutputDir->setFocus();
 }
 
 void CGeneralOptionsFrame::setConfirmDeleteEnabled(bool enabled)

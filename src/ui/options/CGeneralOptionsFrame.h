@@ -34,14 +34,17 @@ public:
     /// What the tab lists for reading.
     void setShortcuts(const thisapp::Shortcuts& shortcuts);
 
+    void setLanguage(std::uint32_t localeId);
     void setOptions(const thisapp::SAppOptions& options);
     /// Sets the values of this tab, and nothing else. A language that isn't offered stays as it was.
+    /// The default output folder is spelt out where its text means one (see common/settings/TextRules.h).
     /// The algorithm is none while there is to be no default one, so that the stored one stays.
     void store(thisapp::SAppOptions& options) const;
 
     /// The default output folder, as typed.
     QString outputDir() const;
     void setOutputDir(const QString& path);
+    void focusOutputDir();
     void setConfirmDeleteEnabled(bool enabled);
 
 signals:

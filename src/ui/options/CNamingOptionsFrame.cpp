@@ -1,6 +1,7 @@
 #include "ui/options/CNamingOptionsFrame.h"
 
 #include "common/naming/NamingSettings.h"
+#include "common/settings/TextRules.h"
 #include "ui/style/ReadOnlyField.h"
 #include "ui_CNamingOptionsFrame.h"
 
@@ -37,9 +38,7 @@ CNamingOptionsFrame::~CNamingOptionsFrame() = default;
 void CNamingOptionsFrame::pair(QCheckBox* box, QLineEdit* edit, StateSignal stateChanged,
                                TextSignal textChanged)
 {
-    // A separator would move the output to another folder.
-    static const QRegularExpression nameCharacters(QStringLiteral("[^/\\\\\\x00-\\x1f]*"));
-    edit->setValidator(new QRegularExpressionValidator(nameCharacters, edit));
+    edit->setValidator(new QRegularExpressionValidator(thisapp::namePartPattern(), edit));
     edit->setEnabled(box->isChecked());
     connect(box, &QCheckBox::toggled, edit, &QLineEdit::setEnabled);
     connect(box, &QCheckBox::stateChanged, this, stateChanged);

@@ -2,6 +2,7 @@
 
 #include "common/naming/OutputNaming.h"
 #include "common/settings/IAppOptionsChanged.h"
+#include "common/settings/TextRules.h"
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/TextTail.h"
 #include "ui/style/TextSize.h"
@@ -99,16 +100,41 @@ void COptionsDialog::setLogFilePath(const QString& path)
 
 void COptionsDialog::onUiOk()
 {
-    m_options = shownOptions();
-    accept();
+    if (takeOver())
+        accept();
 }
 
 void COptionsDialog::onUiApply()
 {
-    m_options = shownOptions();
-    if (m_receiver != nullptr)
-        m_receiver->appOptionsChanged(m_options);
-    m_ui->lineEditMsg->showMessage(tr("The options were applied."), thisapp::MessageKind::Success);
+    using thisapp::MessageKind;
+    if (!takeOver())
+        return;
+    m_problem.clear();
+    if (m_receiver != nullptr) {
+        const thisapp::SAppliedOptions applied = m_receiver->appOptionsChanged(m_options);
+        m_options.localeId = applied.localeId;
+        m_problem = applied.problem;
+    }
+    m_ui->frameGeneral->setOutputDir(m_options.outputDirPath);
+    m_ui->frameGeneral->setLanguage(m_options.localeId);
+    if (m_problem.isEmpty())
+        m_ui->lineEditMsg->showMessage(tr("The options were applied."), MessageKind::Success);
+    else
+        m_ui->lineEditMsg->showMessage(m_problem, MessageKind::Warning);
+}
+
+/// False when the values cannot be taken, and the line says why.
+bool COptionsDialog::takeOver()
+{
+    const thisapp::SAppOptions options = shownOptions();
+    if (options.useDefaultOutputDir && !thisapp::folderPath(options.outputDirPath)) {
+        m_ui->tabs->setCurrentIndex(0);
+        m_ui->frameGeneral->focusOutputDir();
+        m_ui->lineEditMsg->showMessage(namingWarning(NamingSettings(options)), thisapp::MessageKind::Error);
+        return false;
+    }
+    m_options = options;
+    return true;
 }
 
 void COptionsDialog::onUiCancel()
@@ -164,6 +190,8 @@ void COptionsDialog::showEvent(QShowEvent* event)
     m_ui->frameDecryption->setParts(naming.decryption);
     m_ui->frameAdvanced->setOptions(m_options);
     updateSamples();
+    if (!m_problem.isEmpty())
+        m_ui->lineEditMsg->showMessage(m_problem, thisapp::MessageKind::Warning);
 }
 
 void COptionsDialog::closeEvent(QCloseEvent* event)
@@ -218,6 +246,8 @@ QString COptionsDialog::namingWarning(const NamingSettings& naming) const
 {
     if (!naming.autogenerate)
         return {};
+    if (naming.useDefaultOutputDir && !thisapp::folderPath(naming.outputDirPath))
+        return tr("The default output folder must be an absolute path.");
     if (naming.useDefaultOutputDir)
         return naming.outputDirPath.isEmpty()
                    ? tr("No default output folder is given: files go beside their input.")

@@ -40,6 +40,8 @@ public:
 
     /// What the dialog shows when it opens.
     void setOptions(const thisapp::SAppOptions& options) { m_options = options; }
+    /// A sentence that the dialog opens with: what of the options is not in effect. May be empty.
+    void setProblem(const QString& problem) { m_problem = problem; }
     /// What OK or Apply took over last; what was set as long as neither did.
     const thisapp::SAppOptions& options() const { return m_options; }
 
@@ -76,10 +78,12 @@ private:
     void connectNaming();
     void setNamingTexts();
     thisapp::SAppOptions shownOptions() const;
+    bool takeOver();
     void updateSamples();
     QString namingWarning(const thisapp::NamingSettings& naming) const;
 
     std::unique_ptr<Ui::COptionsDialog> m_ui;
     thisapp::IAppOptionsChanged* m_receiver = nullptr;
     thisapp::SAppOptions m_options;
+    QString m_problem;
 };

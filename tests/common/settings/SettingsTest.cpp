@@ -120,6 +120,74 @@ TEST_F(Settings, WrongTypesReadAsTheDefaults)
     expectDefaultsFor<QString>({list, QVariant(), QVariantMap{{"a", 1}}});
 }
 
+/// Such a value, read, asks for more memory than there is.
+TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
+{
+    const QByteArray list = R"(Variant(\0\0\0\xb\x7f\xff\xff\xff))";
+    const std::pair<QByteArray, int> rows[] = {
+        {"UseSalt=@" + list, 1},
+        {"UseSalt=x, \"@" + list + "\"", 1},
+        {"UseSalt=\\x10040" + list, 1},
+        {"UseSalt=\\100Var\\\r\n" + list.mid(3), 1},
+        {"EncFileNameSuffix=@DateTime(\\0\\0\\0\\x10)\nUseSalt=@" + list, 2},
+        {"EncFileNameSuffix=@@x)", 0},
+    };
+    for (const auto& [lines, count] : rows) {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(file()).path()));
+        QFile stored(file());
+        ASSERT_TRUE(stored.open(QIODevice::WriteOnly));
+        stored.write("[General]\nLogLevel=5\n" + lines + "\nRewriteOutputFile=true\n");
+        stored.close();
+        EXPECT_EQ(CAppSettings().removedLines(), count);
+        SAppOptions expected;
+        expected.logLevel = 5;
+        expected.rewriteOutputFile = true;
+        expected.encFileNameSuffix = count == 0 ? "@x)" : "";
+        EXPECT_EQ(read(), expected) << lines.toStdString();
+    }
+}
+
+TEST_F(Settings, TextsThatCannotBeUsedReadAsTheDefaults)
+{
+    const QString home = QDir::homePath();
+    const struct
+    {
+        const char* key;
+        QString stored;
+        QString used;
+    } rows[] = {
+        {"EncFileNamePrefix", "a/b", ""},           {"EncFileNameExt", "\\", "enc"},
+        {"DecFileNameSuffix", "a\nb", ""},          {"DecFileNamePrefix", "\u00E9 ~", "\u00E9 ~"},
+        {"OutputDirPath", "relative", ""},          {"OutputDirPath", "~", home},
+        {"OutputDirPath", "~/x y", home + "/x y"},  {"OutputDirPath", "~other/x", ""},
+        {"OutputDirPath", "file:///a%20b", "/a b"}, {"OutputDirPath", "file://localhost/a", "/a"},
+        {"OutputDirPath", "file://else/a", ""},     {"OutputDirPath", "sftp://h/a", ""},
+        {"OutputDirPath", ":/icons", ""},           {"OutputDirPath", "/a", "/a"},
+    };
+    for (const auto& row : rows) {
+        CAppSettings settings;
+        settings.clear();
+        settings.setValue(row.key, row.stored);
+        QString used;
+        for (const auto& [name, value] : thisapp::writtenValues(read()))
+            if (name == QLatin1String(row.key))
+                used = value.toString();
+        EXPECT_EQ(used, row.used) << row.stored.toStdString();
+        EXPECT_EQ(thisapp::unusedValues(settings, read()).size(), row.used == row.stored ? 0U : 1U);
+    }
+}
+
+TEST_F(Settings, SaveTellsOfFailure)
+{
+    CAppSettings settings;
+    settings.setValue("UseSalt", true);
+    EXPECT_TRUE(settings.save());
+    qputenv("XDG_CONFIG_HOME", (file() + "/below a file").toLocal8Bit());
+    CAppSettings nowhere;
+    nowhere.setValue("UseSalt", true);
+    EXPECT_FALSE(nowhere.save());
+}
+
 TEST_F(Settings, IdsOutOfRange)
 {
     for (const QVariant& id : {QVariant(0), QVariant(1034), QVariant(-1), QVariant("x")}) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <chrono>
 
 namespace {
 
@@ -47,10 +48,10 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
           std::string("<locales><locale></locales>"), std::string("<locales file='\xE4'/>"),
           std::string("<locales file='\xC3"), Entities + "<locales><locale file='&b;'/></locales>",
           Attributes + "<locales/>", "<locales>" + nested + "</locales>"})
-        EXPECT_EQ(loader.load(folder.write("l", text)), malformed) << text;
-    EXPECT_EQ(loader.load(folder.write("l", std::string((256 << 10) + 1, ' '))),
+        EXPECT_EQ(loader.load(folder.write("l", text)).code, malformed) << text;
+    EXPECT_EQ(loader.load(folder.write("l", std::string((256 << 10) + 1, ' '))).code,
               err::library(err::FileTooLarge));
-    EXPECT_EQ(loader.load(folder.wide("missing")), err::system(ENOENT));
+    EXPECT_EQ(loader.load(folder.wide("missing")).code, err::system(ENOENT));
     EXPECT_EQ(loader.translations(), expected);
 }
 
@@ -68,6 +69,25 @@ TEST(LocaleResLoaders, SurviveBrokenFiles)
     EXPECT_FALSE(bundle.load(loader, folder.write("t", "<ts/>")).ok());
     EXPECT_FALSE(bundle.load(loader, folder.write("t", Entities + good)).ok());
     EXPECT_EQ(bundle.lookup("C", "a").text, "b");
+
+    for (const char* type : {"<!DOCTYPE TS []>", "<!DOCTYPE TS SYSTEM \"[a]\" [ <!-- x --> <?y z?> ]>"})
+        EXPECT_TRUE(bundle.load(loader, folder.write("t", type + good)).ok()) << type;
+    for (const char* type :
+         {"<!DOCTYPE TS [<!-- --><!NOTATION n SYSTEM 'n'>]>", "<!DOCTYPE TS [<!ELEMENT TS ANY>]>"})
+        EXPECT_FALSE(bundle.load(loader, folder.write("t", type + good)).ok()) << type;
+}
+
+TEST(LocaleResLoaders, RefuseThousandsOfAttributesAtOnce)
+{
+    const test::TempFolder folder;
+    std::string attributes = " quoted='>'";
+    for (int i = 0; attributes.size() < 1 << 20; ++i)
+        attributes += " a" + std::to_string(i) + "=''";
+    const std::wstring path = folder.write("t", "<TS><context" + attributes + "/></TS>");
+    const auto start = std::chrono::steady_clock::now();
+    StrBundleTrMgr bundle;
+    EXPECT_FALSE(bundle.load(LocaleResLoaderTrFile(), path).ok());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 } // namespace

@@ -49,9 +49,9 @@ TEST(TranslationManager, SwitchesBetweenLanguages)
     EXPECT_EQ(text(manager, "CMainWindow", "a|b"), "barre");
 
     // What cannot be had leaves everything as it was.
-    EXPECT_EQ(manager.use(7), err::library(err::UnknownLocale));
-    EXPECT_EQ(manager.use(2057), err::library(err::NoTranslation));
-    EXPECT_EQ(manager.use(SerbianLatin), err::system(ENOENT));
+    EXPECT_EQ(manager.use(7).code, err::library(err::UnknownLocale));
+    EXPECT_EQ(manager.use(2057).code, err::library(err::NoTranslation));
+    EXPECT_EQ(manager.use(SerbianLatin).code, err::system(ENOENT));
     EXPECT_EQ(manager.locale().lcid, French);
     EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
 
@@ -70,7 +70,7 @@ TEST(TranslationManager, OffersEnglishAndTheEnabledEntries)
                                      {SerbianLatin, "Serbian (Serbia and Montenegro, Former, Latin)"}}));
 
     TranslationManager without(DataFolder, "nothing");
-    EXPECT_EQ(without.load(), err::system(ENOENT));
+    EXPECT_EQ(without.load().code, err::system(ENOENT));
     EXPECT_EQ(without.languages(), (std::vector<Language>{{EnglishLcid, "English"}}));
     EXPECT_TRUE(without.use(EnglishLcid).ok());
 }
@@ -95,6 +95,40 @@ TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
     ASSERT_EQ(std::remove((folder / "en.properties").c_str()), 0);
     EXPECT_TRUE(manager.use(EnglishLcid).ok());
     EXPECT_EQ(text(manager, "C", "a"), "");
+}
+
+TEST(TranslationManager, TellsWhatIsWrongAndWhere)
+{
+    const test::TempFolder folder;
+    folder.write("texts", "C|a=b");
+    const char* const list = "/t.langs.xml";
+    const char* const broken = "/de.ts";
+    const struct
+    {
+        std::string list, file, resource, wrong;
+        std::int64_t line;
+    } rows[] = {
+        {"<locales>\n<locale>\n", "", "", list, 3},
+        {"", "de.ts", "<TS>\n\n<context></TS>", broken, 3},
+        {"", "de.ts", "<TS>\n<!-- " + std::string(5000, '-') + " -->\n<context " + std::string(5000, 'x'),
+         broken, 3},
+        {"", (folder / "texts"), "", list, 0},
+        {"", "../t/de.ts", "", list, 0},
+    };
+    for (const auto& row : rows) {
+        folder.write("de.ts", row.resource);
+        folder.write("t.langs.xml", row.list.empty() ? "<locales><locale language='de' country='DE' file='" +
+                                                           row.file + "'/></locales>"
+                                                     : row.list);
+        TranslationManager manager(folder.wide(), "T");
+        LoadResult result = manager.load();
+        if (result.ok())
+            result = manager.use(German);
+        EXPECT_EQ(result.code, err::library(err::MalformedText)) << row.file;
+        EXPECT_TRUE(platform::nativePath(result.file).ends_with(row.wrong)) << row.wrong;
+        EXPECT_EQ(result.line, row.line) << row.wrong;
+        EXPECT_EQ(manager.locale().lcid, EnglishLcid);
+    }
 }
 
 TEST(TranslationManager, AnswersWhileAnotherLanguageLoads)

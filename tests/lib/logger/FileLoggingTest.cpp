@@ -2,11 +2,14 @@
 #include "lib/logger/Log.h"
 #include "support/Environment.h"
 #include "support/Eventually.h"
+#include "support/NewThreads.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -50,6 +53,40 @@ TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
         EXPECT_EQ(logged(logging.path(), 4), expected);
     }
     EXPECT_EQ(internal::LogSender<char>::instance()->level(), 0U);
+}
+
+TEST(FileLogging, TellsWhyThereIsNoLogFile)
+{
+    const test::TempFolder folder;
+    FileLogging nowhere("");
+    nowhere.setLogFileUsed(true);
+    EXPECT_FALSE(nowhere.isLogFileUsed());
+    EXPECT_EQ(nowhere.problem(), "Failed to create file logger.");
+    nowhere.setLogFileUsed(false);
+    EXPECT_EQ(nowhere.problem(), "");
+
+    FileLogging logging(folder / "log");
+    {
+        const test::NewThreads none([] { return false; });
+        logging.setLogFileUsed(true);
+    }
+    EXPECT_FALSE(logging.isLogFileUsed());
+    EXPECT_EQ(logging.problem(), "Failed to start file logger. Error: 5/303");
+    logging.setLogFileUsed(true);
+    EXPECT_TRUE(logging.isLogFileUsed());
+    EXPECT_EQ(logging.problem(), "");
+}
+
+TEST(FileLogging, HasNoDefaultPathWithoutAHome)
+{
+    constexpr uid_t Nobody = 54321; // without an entry among the users, where the test may change to it
+    const auto pathOfNobody = [] {
+        ::unsetenv("XDG_STATE_HOME");
+        ::unsetenv("HOME");
+        const bool changed = ::setuid(Nobody) == 0;
+        std::_Exit(!changed || FileLogging::defaultPath().empty() ? 0 : 1);
+    };
+    EXPECT_EXIT(pathOfNobody(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace

@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <map>
 #include <string>
+#include <sys/resource.h>
 #include <thread>
 #include <vector>
 
@@ -102,6 +104,27 @@ TEST_F(LogAppenderUtf8FileTest, LivesWithoutAFile)
             write(appender, "found");
         }
     }
+}
+
+TEST_F(LogAppenderUtf8FileTest, BeginsALineOfItsOwnAfterATornOne)
+{
+    using tessaly::platform::LogFile;
+    const std::string log = folder / "log";
+    folder.write("log", "of a run that ended here");
+    const auto file = LogFile::open(log, LogFile::Mode::Append);
+    ASSERT_TRUE(file->write("first\n"));
+
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full{fs::file_size(log) + 3, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
+    EXPECT_FALSE(file->write("torn off\n"));
+    EXPECT_FALSE(file->write("lost\n"));
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_TRUE(file->write("second\n"));
+    EXPECT_TRUE(file->write("third\n"));
+    EXPECT_EQ(test::readFile(log), "of a run that ended here\nfirst\ntor\nsecond\nthird\n");
 }
 
 TEST_F(LogAppenderUtf8FileTest, EveryLineOfFourThreadsAndTwoAppendersIsWhole)

@@ -44,7 +44,10 @@ TEST(LogText, StaysOneLineOfValidUtf8)
         {"plain \\ ~ \u00DF\u65E5\U0001F512", "plain \\ ~ \u00DF\u65E5\U0001F512"},
         {"\0\t\x1B[31m\x7F"s, "\\x00\\x09\\x1B[31m\\x7F"},
         {"\u0085|\u009B|\u00A0", "\\xC2\\x85|\\xC2\\x9B|\u00A0"},
-        {"\u2028\u2029\u202A", "\\xE2\\x80\\xA8\\xE2\\x80\\xA9\u202A"},
+        {"\u2028\u2029\u202A", "\\xE2\\x80\\xA8\\xE2\\x80\\xA9\\xE2\\x80\\xAA"},
+        {"\u061C\u200D\u200E\u200F", "\\xD8\\x9C\u200D\\xE2\\x80\\x8E\\xE2\\x80\\x8F"},
+        {"\u202E\u202F|\u2065\u2066\u2069\u206A",
+         "\\xE2\\x80\\xAE\u202F|\u2065\\xE2\\x81\\xA6\\xE2\\x81\\xA9\u206A"},
         {"\xFF\xC3(\xE2\x82", "\\xFF\\xC3(\\xE2\\x82"},
         {"\xC0\x8A\xE0\x80\x8A", "\\xC0\\x8A\\xE0\\x80\\x8A"}, // line feeds in disguise
         {"\xED\xA0\x80", "\\xED\\xA0\\x80"},                   // a surrogate
@@ -52,7 +55,7 @@ TEST(LogText, StaysOneLineOfValidUtf8)
     };
     for (const auto& c : cases) {
         std::string line;
-        appendOneLine(line, c.text);
+        tessaly::logger::appendOneLine(line, c.text);
         EXPECT_EQ(line, c.line);
     }
 }

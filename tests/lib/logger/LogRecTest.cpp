@@ -6,8 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
+#include <future>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -98,6 +101,35 @@ TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)
     appenders.remove(2);
     log(Fatal, "test") << 3;
     EXPECT_EQ(notes, (Messages{"a:1:1", "b:1:1", "b:1:2", "a:1:3"}));
+}
+
+/// Its end needs the sender, from another thread.
+class LastWords final : public LogAppender<char>
+{
+public:
+    explicit LastWords(bool& unlocked) : m_unlocked(unlocked) {}
+    ~LastWords() override
+    {
+        auto asked = std::async(std::launch::async, [] { return LogSender<char>::instance()->level(); });
+        m_unlocked = asked.wait_for(std::chrono::seconds(2)) == std::future_status::ready;
+        std::thread([late = std::move(asked)]() mutable { late.wait(); }).detach();
+    }
+    void append(std::int64_t, std::uint32_t, std::uint32_t, std::uint32_t, std::string_view, std::string_view,
+                std::uint32_t) override
+    {
+    }
+
+private:
+    bool& m_unlocked;
+};
+
+TEST(LogSender, EndsItsAppendersOutsideItsLock)
+{
+    bool unlocked = false;
+    LogSender<char>& sender = *LogSender<char>::instance();
+    ASSERT_TRUE(sender.appenders().add(1, std::make_shared<LastWords>(unlocked)).ok());
+    EXPECT_EQ(sender.release(), 0U);
+    EXPECT_TRUE(unlocked);
 }
 
 } // namespace

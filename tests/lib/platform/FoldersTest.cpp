@@ -1,11 +1,48 @@
 #include "lib/platform/Folders.h"
+#include "lib/err/ErrorCodes.h"
 #include "support/Environment.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <sys/stat.h>
+#include <vector>
 
 namespace {
 
 using namespace tessaly::platform;
+
+std::vector<std::string> flushed; ///< the paths given to fsync
+
+} // namespace
+
+/// Stands before the library's in the whole test program.
+extern "C" int fsync(int handle)
+{
+    flushed.push_back(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(handle)));
+    return 0;
+}
+
+namespace {
+
+TEST(Folders, MadeOnesAreFlushedInTheirParents)
+{
+    const test::TempFolder folder;
+    const std::string top = folder / "a";
+    flushed.clear();
+    const mode_t before = ::umask(0027);
+    EXPECT_TRUE(createFolders(top + "/b/c/").ok());
+    ::umask(before);
+    EXPECT_EQ(flushed, (std::vector<std::string>{folder.path().string(), top, top + "/b"}));
+    EXPECT_EQ(std::filesystem::status(top + "/b").permissions(), std::filesystem::perms(0750));
+    EXPECT_TRUE(createFolders(top + "/b").ok());
+    EXPECT_EQ(flushed.size(), 3U) << "nothing new";
+    folder.write("file", "");
+    EXPECT_EQ(createFolders(folder / "file/x"), tessaly::err::system(EEXIST));
+}
 
 TEST(Folders, FollowTheEnvironment)
 {

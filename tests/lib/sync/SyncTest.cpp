@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <memory>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -48,6 +49,21 @@ TEST(SafeData, CountsEveryIncrementOfTwoThreads)
     countTo1000();
     other.join();
     EXPECT_EQ(counter.get(), 2000);
+}
+
+TEST(SafeData, DestroysTheOldValueOutsideTheLock)
+{
+    bool unlocked = false;
+    tessaly::sync::internal::SafeData<Locker, std::shared_ptr<int>> data;
+    data.set(std::shared_ptr<int>(new int, [&](const int* value) {
+        std::thread([&] {
+            if ((unlocked = data.tryLock()))
+                data.unlock();
+        }).join();
+        delete value;
+    }));
+    data.set(nullptr);
+    EXPECT_TRUE(unlocked);
 }
 
 TEST(Signal, StaysSetUntilReset)

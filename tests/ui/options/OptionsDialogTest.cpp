@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDate>
+#include <QDir>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
@@ -19,6 +20,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 
+#include <optional>
 #include <set>
 
 namespace {
@@ -36,7 +38,11 @@ protected:
             {{Qt::Key_F5, "Start encryption"}, {thisapp::ctrl(Qt::Key_F8), "Clear entered data"}});
         dialog.setReceiver(this);
     }
-    void appOptionsChanged(const SAppOptions& options) override { applied.push_back(options); }
+    thisapp::SAppliedOptions appOptionsChanged(const SAppOptions& options) override
+    {
+        applied.push_back(options);
+        return {problem, inUse.value_or(options.localeId)};
+    }
 
     void show(const SAppOptions& options = {})
     {
@@ -57,6 +63,8 @@ protected:
     QString decSample() { return child<QLineEdit>(child(dialog, "frameDecryption"), "editSample").text(); }
 
     std::vector<SAppOptions> applied;
+    QString problem;
+    std::optional<std::uint32_t> inUse;
     COptionsDialog dialog;
 };
 
@@ -212,6 +220,46 @@ TEST_F(OptionsDialog, WarnsOfNamesThatCannotWork)
     EXPECT_EQ(text("lineEditMsg"), "");
     dialog.onUiOk();
     EXPECT_EQ(dialog.options().outputDirPath, "/tmp");
+}
+
+TEST_F(OptionsDialog, TellsWhatIsNotInEffect)
+{
+    dialog.setProblem("There is no log file.");
+    show();
+    EXPECT_EQ(text("lineEditMsg"), "There is no log file.");
+    auto& language = child<QComboBox>(dialog, "comboLanguage");
+    QTest::keyClick(&language, Qt::Key_Up);
+    EXPECT_EQ(language.currentText(), "Deutsch");
+    problem = "The translation can't be loaded.";
+    inUse = 1033;
+    dialog.onUiApply();
+    EXPECT_EQ(applied.back().localeId, 1031U);
+    EXPECT_EQ(text("lineEditMsg"), problem);
+    EXPECT_EQ(language.currentText(), "English") << "the one in use";
+    problem.clear();
+    dialog.onUiApply();
+    EXPECT_EQ(text("lineEditMsg"), "The options were applied.");
+}
+
+TEST_F(OptionsDialog, TakesNoOutputFolderThatMeansNone)
+{
+    show();
+    toggle(child(dialog, "checkUseOutputDir"));
+    QWidget& folder = child(dialog, "editOutputDir");
+    for (const char* none : {"some/folder", "~other/x", "sftp://host/x"}) {
+        write(folder, none);
+        dialog.onUiOk();
+        dialog.onUiApply();
+        EXPECT_TRUE(dialog.isVisible() && applied.empty()) << none;
+        EXPECT_EQ(text("lineEditMsg"), "The default output folder must be an absolute path.");
+    }
+    write(folder, " ~/x");
+    dialog.onUiApply();
+    EXPECT_EQ(text("editOutputDir"), QDir::homePath() + "/x");
+    EXPECT_EQ(applied.back().outputDirPath, QDir::homePath() + "/x");
+    write(folder, "file:///a%20b");
+    dialog.onUiOk();
+    EXPECT_EQ(dialog.options().outputDirPath, "/a b");
 }
 
 TEST_F(OptionsDialog, LanguagesAndAlgorithmsThatAreNotOffered)

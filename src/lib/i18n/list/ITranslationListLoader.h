@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lib/err/ResultCode.h"
 #include "lib/i18n/list/ITranslationListProvider.h"
+#include "lib/i18n/resource/TranslationFile.h"
 
 #include <string>
 
@@ -12,7 +12,7 @@ class ITranslationListLoader : public ITranslationListProvider
 {
 public:
     /// Reads the list at path; a failure leaves the entries as they were.
-    virtual ResultCode load(const std::wstring& path) = 0;
+    virtual LoadResult load(const std::wstring& path) = 0;
 };
 
 } // namespace tessaly::i18n

@@ -1,6 +1,5 @@
 #include "lib/i18n/list/TranslationListLoaderXml.h"
 
-#include "lib/i18n/resource/TranslationLimits.h"
 #include "lib/i18n/resource/XmlFile.h"
 
 #include <QXmlStreamAttributes>
@@ -39,12 +38,11 @@ Translation readTranslation(const QXmlStreamAttributes& attributes)
 
 } // namespace
 
-ResultCode TranslationListLoaderXml::load(const std::wstring& path)
+LoadResult TranslationListLoaderXml::load(const std::wstring& path)
 {
     XmlFile xml;
-    const ResultCode opened = xml.open(path, ListOptions);
-    if (!opened.ok())
-        return opened;
+    if (!xml.open(path, ListLimits))
+        return xml.result();
 
     std::vector<Translation> translations;
     while (xml.next()) {
@@ -53,7 +51,7 @@ ResultCode TranslationListLoaderXml::load(const std::wstring& path)
         else if (xml.isStart(2, "locale"))
             translations.push_back(readTranslation(xml.reader().attributes()));
     }
-    const ResultCode result = xml.result();
+    LoadResult result = xml.result();
     if (result.ok())
         m_translations.set(std::move(translations));
     return result;

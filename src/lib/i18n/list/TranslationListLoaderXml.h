@@ -17,7 +17,7 @@ namespace tessaly::i18n::internal {
 class TranslationListLoaderXml final : public ITranslationListLoader
 {
 public:
-    ResultCode load(const std::wstring& path) override;
+    LoadResult load(const std::wstring& path) override;
     std::vector<Translation> translations() const override { return m_translations.get(); }
 
 private:

@@ -1,10 +1,7 @@
 #include "lib/i18n/list/WordTest.h"
 
-#include "lib/i18n/AsciiCase.h"
-
 #include <algorithm>
 #include <iterator>
-#include <string>
 
 namespace tessaly::i18n {
 
@@ -23,6 +20,15 @@ constexpr Word Words[] = {
 };
 
 } // namespace
+
+std::string asciiLower(std::string_view text)
+{
+    std::string lower(text);
+    for (char& c : lower)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    return lower;
+}
 
 std::optional<bool> readYesNo(std::string_view text)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lib/err/ResultCode.h"
 #include "lib/i18n/resource/ILocaleResLoaderCallback.h"
+#include "lib/i18n/resource/TranslationFile.h"
 
 #include <string>
 
@@ -14,7 +14,7 @@ public:
     virtual ~ILocaleResLoader() = default;
 
     /// Hands every text to the callback; after a failure these are the texts before it.
-    virtual ResultCode load(const std::wstring& path, ILocaleResLoaderCallback& callback) const = 0;
+    virtual LoadResult load(const std::wstring& path, ILocaleResLoaderCallback& callback) const = 0;
 };
 
 } // namespace tessaly::i18n

@@ -1,7 +1,6 @@
 #include "lib/i18n/resource/LocaleResLoaderTrFile.h"
 
 #include "lib/file/Variables.h"
-#include "lib/i18n/resource/TranslationLimits.h"
 #include "lib/i18n/resource/XmlFile.h"
 
 #include <QString>
@@ -110,15 +109,13 @@ private:
 
 } // namespace
 
-ResultCode LocaleResLoaderTrFile::load(const std::wstring& path, ILocaleResLoaderCallback& callback) const
+LoadResult LocaleResLoaderTrFile::load(const std::wstring& path, ILocaleResLoaderCallback& callback) const
 {
     XmlFile xml;
-    const ResultCode opened = xml.open(path, ResourceLimits);
-    if (!opened.ok())
-        return opened;
     MessageReader messages(callback);
-    while (xml.next())
-        messages.onToken(xml);
+    if (xml.open(path, ResourceLimits))
+        while (xml.next())
+            messages.onToken(xml);
     return xml.result();
 }
 

@@ -9,7 +9,7 @@ namespace tessaly::i18n::internal {
 class LocaleResLoaderTrFile final : public ILocaleResLoader
 {
 public:
-    ResultCode load(const std::wstring& path, ILocaleResLoaderCallback& callback) const override;
+    LoadResult load(const std::wstring& path, ILocaleResLoaderCallback& callback) const override;
 };
 
 } // namespace tessaly::i18n::internal

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "lib/err/ResultCode.h"
-#include "lib/file/IStreamUtf8File.h"
+#include "lib/i18n/resource/TranslationFile.h"
 
 #include <QXmlStreamReader>
 
@@ -9,17 +8,17 @@
 
 namespace tessaly::i18n::internal {
 
-/// A UTF-8 XML file read token by token within bounds: its size, the depth of its elements, and no
-/// declarations of its own (entities, attributes) in its document type. Use: open, then while (next()) look
-/// at reader(), then result.
+/// A UTF-8 XML file read token by token within bounds: its size, that of a single tag, the depth of its
+/// elements, and no declarations of its own (entities, attributes) in its document type. Use: open, then
+/// while (next()) look at reader(), then result.
 class XmlFile final
 {
 public:
-    ResultCode open(const std::wstring& path, io::SFileOptions options);
+    [[nodiscard]] bool open(const std::wstring& path, io::SFileOptions options);
     /// Steps to the next token; false at the end of the document and when it is malformed.
     bool next();
-    /// MalformedText unless the whole document was well-formed.
-    ResultCode result() const;
+    /// Of the opening when that failed; else MalformedText unless the whole document was well-formed.
+    LoadResult result() const;
 
     const QXmlStreamReader& reader() const { return m_reader; }
     /// How many elements are open, the current start element or end element included.
@@ -30,6 +29,7 @@ public:
     void reject();
 
 private:
+    LoadResult m_opened;
     QXmlStreamReader m_reader;
     int m_depth = 0;
     bool m_wasEnd = false;

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <pwd.h>
 #include <sys/stat.h>
@@ -44,6 +45,35 @@ std::string baseFolder(const char* variable, const char* belowHome)
     return folder;
 }
 
+void flush(const std::string& folder)
+{
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    while (::fsync(handle) != 0 && errno == EINTR)
+        ;
+    ::close(handle);
+}
+
+/// `made` gets the parent of each folder that this makes.
+template <class Made>
+ResultCode create(const std::string& path, mode_t mode, const Made& made)
+{
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored))
+        return {};
+    const std::string parent = std::filesystem::path(path).parent_path().string();
+    if (!parent.empty() && parent != path)
+        if (const ResultCode result = create(parent, mode, made); !result.ok())
+            return result;
+    if (::mkdir(path.c_str(), mode) == 0) {
+        made(parent.empty() ? "." : parent);
+        return {};
+    }
+    const int error = errno;
+    return std::filesystem::is_directory(path, ignored) ? ResultCode{} : err::system(error);
+}
+
 } // namespace
 
 std::string configFolder()
@@ -63,17 +93,12 @@ std::string stateFolder()
 
 ResultCode createPrivateFolders(const std::string& path)
 {
-    std::error_code ignored;
-    if (std::filesystem::is_directory(path, ignored))
-        return {};
-    const std::string parent = std::filesystem::path(path).parent_path().string();
-    if (!parent.empty() && parent != path)
-        if (const ResultCode result = createPrivateFolders(parent); !result.ok())
-            return result;
-    if (::mkdir(path.c_str(), S_IRWXU) == 0)
-        return {};
-    const int error = errno;
-    return std::filesystem::is_directory(path, ignored) ? ResultCode{} : err::system(error);
+    return create(path, S_IRWXU, [](const std::string&) {});
+}
+
+ResultCode createFolders(const std::string& path)
+{
+    return create(path, S_IRWXU | S_IRWXG | S_IRWXO, flush);
 }
 
 } // namespace tessaly::platform
