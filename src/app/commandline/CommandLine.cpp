@@ -1,11 +1,15 @@
 #include "app/commandline/CommandLine.h"
 
+#include "crypto/catalogue/Catalogue.h"
+
 #include <QDir>
 
 #include <algorithm>
 #include <iterator>
 
 namespace thisapp {
+
+using namespace tessaly;
 
 namespace {
 
@@ -73,6 +77,13 @@ CommandLine parseCommandLine(const QStringList& arguments, SlashRule rule,
             option->apply(line, arguments[++i]);
     }
     return line;
+}
+
+AlgSelection namedSelection(const CommandLine& line)
+{
+    const crypto::CatalogueEntry* entry = crypto::findAlgorithm(line.algorithm.toStdString());
+    const std::uint32_t number = line.library.toUInt(); // 0 for a name: there is but one
+    return {number != 0 ? number : crypto::CryptoPPLibraryId, entry != nullptr ? entry->id : 0};
 }
 
 QString quotedArguments(const QStringList& arguments)

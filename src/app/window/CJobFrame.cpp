@@ -115,6 +115,7 @@ QLayout* CJobFrame::makeButtons()
 void CJobFrame::connectWidgets()
 {
     connect(m_input, &QLineEdit::textEdited, this, &CJobFrame::notifyInputEdited);
+    connect(m_input, &QLineEdit::textChanged, this, &CJobFrame::notifyInputChanged);
     connect(m_input, &QLineEdit::textChanged, this, &CJobFrame::notifyTextChanged);
     connect(m_output, &QLineEdit::textChanged, this, &CJobFrame::notifyTextChanged);
     connect(m_browseInput, &QToolButton::clicked, this, &CJobFrame::notifyAddFile);

@@ -10,25 +10,20 @@
 #include "app/window/FileDialogs.h"
 #include "app/window/InputRemovalOffer.h"
 #include "common/errors/ErrorText.h"
-#include "common/naming/OutputNaming.h"
 #include "common/path/PathText.h"
-#include "common/settings/CAppSettings.h"
-#include "crypto/catalogue/Catalogue.h"
-#include "io/PathCheck.h"
 #include "lib/logger/Log.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDate>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QUrl>
 
-#include <algorithm>
+#include <utility>
 
 using namespace tessaly;
 using namespace thisapp;
@@ -36,11 +31,6 @@ using namespace thisapp;
 namespace {
 
 constexpr char LogSource[] = "mainwindow";
-
-bool isUsableInput(const QString& path)
-{
-    return !path.isEmpty() && io::checkInput(textPath(path)) == io::InputCheck::Usable;
-}
 
 /// The path of a chosen file that may come as a URL.
 QString withoutScheme(const QString& path)
@@ -66,6 +56,7 @@ void openFolderOf(const QString& path)
 CMainWindow::CMainWindow(const WindowServices& services)
     : m_services(services),
       m_form(new CJobFrame),
+      m_input(*m_form, m_lookups, services.look),
       m_dialogs(*this, services.algorithms, services.options, m_form->algFrame(), *this),
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier),
@@ -87,7 +78,8 @@ CMainWindow::~CMainWindow() = default;
 
 void CMainWindow::connectForm()
 {
-    connect(m_form, &CJobFrame::notifyInputEdited, this, &CMainWindow::onUiInputEdited);
+    connect(&m_input, &CInputField::notifyAccepted, this, &CMainWindow::onUiInputAccepted);
+    connect(&m_input, &CInputField::notifyFacts, this, &CMainWindow::onUiInputFacts);
     connect(m_form, &CJobFrame::notifyTextChanged, this, &CMainWindow::refresh);
     connect(m_form, &CJobFrame::notifyAddFile, this, &CMainWindow::onUiAddFileItem);
     connect(m_form, &CJobFrame::notifyBrowseOutput, this, &CMainWindow::onUiBrowseOutput);
@@ -111,41 +103,36 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
 {
     logger::log(logger::Information, LogSource)
         << "Try to process command line: " << textPath(quotedArguments(arguments)).native();
-    const CommandLine line = parseCommandLine(arguments, systemSlashRule(), isUsableInput);
-    if (line.input) {
-        m_form->setInputText(QDir::toNativeSeparators(*line.input));
-        acceptInput();
-    }
+    const CommandLine line = parseCommandLine(arguments, systemSlashRule(), [this](const QString& path) {
+        const auto facts =
+            m_lookups.start<InputFacts>([look = m_services.look, path] { return look(path, {}); });
+        return m_lookups.wait(facts) && facts.get().isUsable();
+    });
+    if (line.input)
+        m_input.set(QDir::toNativeSeparators(*line.input));
     if (line.output)
         m_form->setOutputText(*line.output);
-    selectAlgorithm(line.algorithm);
+    m_form->algFrame().setSelection(namedSelection(line)); // none of them changes nothing
     if (line.start)
         requestJob(line.operation);
 }
 
-/// Of the libraries only one offers algorithms, so that the name of an algorithm alone tells the pair.
-void CMainWindow::selectAlgorithm(const QString& name)
-{
-    if (const crypto::CatalogueEntry* entry = crypto::findAlgorithm(name.toStdString()))
-        m_form->algFrame().setSelection({crypto::CryptoPPLibraryId, entry->id});
-}
-
 void CMainWindow::filesDropped(int widgetId, const QList<QUrl>& urls)
 {
-    const auto url = std::ranges::find_if(urls, &QUrl::isLocalFile);
-    if (m_job.isRunning() || url == urls.end())
+    if (m_job.isRunning())
         return;
-    const QString path = QDir::toNativeSeparators(url->toLocalFile());
-    if (widgetId == DropOnOutput) {
-        m_form->setOutputText(path);
+    const DroppedFile drop = firstDroppedFile(urls);
+    const bool onOutput = widgetId == DropOnOutput;
+    if (drop.path.isEmpty() || onOutput)
+        m_form->showMessage(onOutput ? Area::Output : Area::Input, dropMessage(drop));
+    if (drop.path.isEmpty())
         return;
+    if (onOutput) {
+        m_form->setOutputText(drop.path);
+    } else {
+        m_drop = drop;
+        m_input.set(drop.path);
     }
-    m_form->setInputText(path);
-    if (!acceptInput())
-        m_form->showMessage(Area::Input, {MessageKind::Warning, [] {
-                                              return tr("Only a single file can be encrypted or decrypted, "
-                                                        "not a folder or a device.");
-                                          }});
 }
 
 void CMainWindow::appOptionsChanged(const SAppOptions& options)
@@ -167,14 +154,9 @@ void CMainWindow::onUiDecryptItem()
 
 void CMainWindow::requestJob(Operation operation)
 {
-    if (!m_job.isRunning()) {
-        m_form->clearMessages();
-        m_form->progressFrame().reset();
-    }
-    CRequestHost host(*this, *m_form, m_job, m_services.algorithms, [this] {
-        if (isInputAccepted() && m_form->outputText().trimmed().isEmpty())
-            proposeOutput();
-    });
+    resetMessages();
+    m_input.settle(); // for the proposal
+    CRequestHost host(*this, *m_form, m_input, m_job, m_services.algorithms);
     std::optional<SEncryptData> request = JobRequest(operation, host, *m_form).run();
     if (!request)
         return;
@@ -238,8 +220,7 @@ void CMainWindow::onUiAddFileItem()
     const QString chosen = askFileToOpen(this, tr("Add file to encrypt/decrypt"), m_form->inputText());
     if (chosen.isEmpty())
         return;
-    m_form->setInputText(QDir::toNativeSeparators(withoutScheme(chosen)));
-    acceptInput();
+    m_input.set(QDir::toNativeSeparators(withoutScheme(chosen)));
 }
 
 void CMainWindow::onUiBrowseOutput()
@@ -250,20 +231,38 @@ void CMainWindow::onUiBrowseOutput()
         m_form->setOutputText(QDir::toNativeSeparators(chosen));
 }
 
-void CMainWindow::onUiInputEdited()
+void CMainWindow::onUiInputAccepted()
 {
-    acceptInput();
+    resetMessages();
+}
+
+void CMainWindow::onUiInputFacts()
+{
+    const InputFacts& facts = m_input.facts();
+    if (const auto drop = std::exchange(m_drop, {}))
+        m_form->showMessage(Area::Input, dropMessage(*drop, facts.check));
+    if (facts.isUsable())
+        m_form->showFile(facts.path, facts.size);
+    else
+        m_form->showNoFile();
+    refresh();
 }
 
 void CMainWindow::onUiClearItem()
 {
     m_form->setInputText({});
     m_form->setOutputText({});
-    if (!m_job.isRunning()) {
-        m_form->progressFrame().reset();
-        m_form->clearMessages();
-    }
+    resetMessages();
     refresh();
+}
+
+/// What was said of the last job says nothing of the next one.
+void CMainWindow::resetMessages()
+{
+    if (m_job.isRunning())
+        return;
+    m_form->progressFrame().reset();
+    m_form->clearMessages();
 }
 
 void CMainWindow::onUiOpenInputFolderItem()
@@ -289,32 +288,6 @@ void CMainWindow::run(const Command& command)
         (m_dialogs.**dialogSlot)();
 }
 
-bool CMainWindow::isInputAccepted() const
-{
-    return isUsableInput(m_form->inputText().trimmed());
-}
-
-bool CMainWindow::acceptInput()
-{
-    if (!isInputAccepted())
-        return false;
-    if (!m_job.isRunning()) {
-        m_form->progressFrame().reset();
-        m_form->clearMessages();
-    }
-    proposeOutput();
-    refresh();
-    return true;
-}
-
-void CMainWindow::proposeOutput()
-{
-    const QString proposal =
-        outputPath(m_form->inputText().trimmed(), readNamingSettings(CAppSettings()), QDate::currentDate());
-    if (!proposal.isEmpty())
-        m_form->setOutputText(proposal);
-}
-
 void CMainWindow::refresh()
 {
     const bool running = m_job.isRunning();
@@ -322,11 +295,6 @@ void CMainWindow::refresh()
     m_form->setRunning(running, stoppable);
     m_actions.setState(
         {!running, stoppable, !m_form->inputText().isEmpty(), !m_form->outputText().isEmpty()});
-    const QString input = m_form->inputText().trimmed();
-    if (isInputAccepted())
-        m_form->showFile(input, platform::fileStatus(textPath(input)).size);
-    else
-        m_form->showNoFile();
     setTitle();
 }
 

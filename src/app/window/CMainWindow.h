@@ -4,13 +4,19 @@
 #include "app/job/CMsgDispatcher.h"
 #include "app/widgets/IFilesDragDropEvent.h"
 #include "app/window/Actions.h"
+#include "app/window/CInputField.h"
+#include "app/window/CLookups.h"
 #include "app/window/DialogCommands.h"
+#include "app/window/DroppedFile.h"
+#include "app/window/InputLook.h"
 #include "app/window/JobDisplay.h"
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
 
 #include <QMainWindow>
 #include <QStringList>
+
+#include <optional>
 
 class CJobFrame;
 
@@ -30,6 +36,7 @@ struct WindowServices
     OptionsHandler& options;
     desktop::ITaskbarProgress& taskbar;
     desktop::INotifier& notifier;
+    InputLook look = lookAtInput;
 };
 
 } // namespace thisapp
@@ -70,9 +77,10 @@ private slots:
     void onUiEncryptProgressChanged();
     void onUiEncryptFinished();
     void onUiInputRemovalFinished();
-    void onUiInputEdited();
+    void onUiInputAccepted();
+    void onUiInputFacts();
     void onUiBrowseOutput();
-    /// Brings enabled states, title and the shown file in line with the fields and the job.
+    /// Brings enabled states and title in line with the fields and the job.
     void refresh();
 
 protected:
@@ -87,17 +95,15 @@ private:
     void connectJob();
     void requestJob(thisapp::Operation operation);
 
-    bool isInputAccepted() const;
-    /// To be called when the input field has a new text: if that is a usable file, the window is
-    /// prepared for a job on it.
-    bool acceptInput();
-    void proposeOutput();
-    void selectAlgorithm(const QString& name);
+    void resetMessages();
     void setTitle();
 
     const thisapp::WindowServices m_services;
     CMsgDispatcher m_dispatcher;
     CJobFrame* m_form;
+    CLookups m_lookups;
+    CInputField m_input;
+    std::optional<thisapp::DroppedFile> m_drop; ///< whose file is still looked at
     thisapp::DialogCommands m_dialogs;
     thisapp::Actions m_actions;
     thisapp::JobDisplay m_display;

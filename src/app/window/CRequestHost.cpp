@@ -1,6 +1,7 @@
 #include "app/window/CRequestHost.h"
 
 #include "app/job/CFileJob.h"
+#include "app/window/CInputField.h"
 #include "app/window/CJobFrame.h"
 #include "app/window/FileDialogs.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
@@ -8,17 +9,11 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
-#include <utility>
-
 namespace thisapp {
 
-CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job,
-                           const ICryptoAlgProvider& algorithms, std::function<void()> inputChosen)
-    : m_window(window),
-      m_form(form),
-      m_job(job),
-      m_algorithms(algorithms),
-      m_inputChosen(std::move(inputChosen))
+CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CFileJob& job,
+                           const ICryptoAlgProvider& algorithms)
+    : m_window(window), m_form(form), m_input(input), m_job(job), m_algorithms(algorithms)
 {
 }
 
@@ -44,8 +39,8 @@ QString CRequestHost::outputText() const
 
 void CRequestHost::setInputText(const QString& text)
 {
-    m_form.setInputText(text);
-    m_inputChosen();
+    m_input.set(text, CInputField::Proposal::IfEmpty);
+    m_input.settle(); // for the proposal
 }
 
 void CRequestHost::setOutputText(const QString& text)

@@ -2,10 +2,9 @@
 
 #include "app/job/IJobRequestHost.h"
 
-#include <functional>
-
 class QWidget;
 
+class CInputField;
 class CJobFrame;
 
 namespace thisapp {
@@ -17,9 +16,8 @@ class ICryptoAlgProvider;
 class CRequestHost final : public IJobRequestHost
 {
 public:
-    /// `inputChosen` is called when the input field got the file that the user chose on request.
-    CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job, const ICryptoAlgProvider& algorithms,
-                 std::function<void()> inputChosen);
+    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CFileJob& job,
+                 const ICryptoAlgProvider& algorithms);
 
     bool isJobRunning() const override;
     AlgSelection selection() const override;
@@ -36,9 +34,9 @@ public:
 private:
     QWidget& m_window;
     CJobFrame& m_form;
+    CInputField& m_input;
     CFileJob& m_job;
     const ICryptoAlgProvider& m_algorithms;
-    const std::function<void()> m_inputChosen;
 };
 
 } // namespace thisapp

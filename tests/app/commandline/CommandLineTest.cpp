@@ -54,4 +54,19 @@ TEST(CommandLineTest, ReadsEveryFormOfTheArguments)
     }
 }
 
+TEST(CommandLineTest, TakesTheNamesAsAPair)
+{
+    const std::tuple<const char*, const char*, AlgSelection> cases[] = {
+        {"AES-128", "", {1, 250}},       {"aes-128", "crypto++", {1, 250}}, {"AES-128", "nobody's", {1, 250}},
+        {"AES-128", "1", {1, 250}},      {"AES-128", "10", {10, 250}}, // which provides nothing
+        {"no such", "Crypto++", {1, 0}},
+    };
+    for (const auto& [algorithm, library, pair] : cases) {
+        CommandLine line;
+        line.algorithm = algorithm;
+        line.library = library;
+        EXPECT_EQ(namedSelection(line), pair) << algorithm << ' ' << library;
+    }
+}
+
 } // namespace

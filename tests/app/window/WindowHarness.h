@@ -53,13 +53,13 @@ class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisap
 public:
     static constexpr int JobTimeoutMs = 60'000;
 
-    WindowHarness()
+    explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput)
         : translations(folder.wide("translations"), "Quillet"),
           translator(translations.bundle()),
           logging(folder / "quillet.log"),
           options({algorithms, translations, translator, logging, [](bool, bool) {}}),
-          window(std::make_unique<CMainWindow>(
-              thisapp::WindowServices{encryptors, decryptors, algorithms, options, *this, *this}))
+          window(std::make_unique<CMainWindow>(thisapp::WindowServices{
+              encryptors, decryptors, algorithms, options, *this, *this, std::move(look)}))
     {
         window->show();
     }
