@@ -106,7 +106,7 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
     const CommandLine line = parseCommandLine(arguments, systemSlashRule(), [this](const QString& path) {
         const auto facts =
             m_lookups.start<InputFacts>([look = m_services.look, path] { return look(path, {}); });
-        return m_lookups.wait(facts) && facts.get().isUsable();
+        return m_lookups.wait(facts) && facts.get().isUsable() && facts.get().path == path;
     });
     if (line.input)
         m_input.set(QDir::toNativeSeparators(*line.input));
@@ -156,16 +156,16 @@ void CMainWindow::requestJob(Operation operation)
 {
     resetMessages();
     m_input.settle(); // for the proposal
-    CRequestHost host(*this, *m_form, m_input, m_job, m_services.algorithms);
-    std::optional<SEncryptData> request = JobRequest(operation, host, *m_form).run();
-    if (!request)
+    CRequestHost host(*this, *m_form, m_input, m_lookups, m_job, m_services.algorithms);
+    JobRequest request(operation, host, *m_form);
+    std::optional<SEncryptData> job = request.run();
+    if (!job)
         return;
 
-    const QString input = pathText(request->request.input);
-    const std::int64_t size = platform::fileStatus(request->request.input).size;
-    const ResultCode started = m_job.start(std::move(*request));
+    const QString input = pathText(job->request.input);
+    const ResultCode started = m_job.start(std::move(*job));
     if (started.ok()) {
-        m_display.begin(input, size);
+        m_display.begin(input, request.inputSize());
     } else {
         m_form->showMessage(Area::Result, {MessageKind::Error, [operation, started] {
                                                return translated(operationTexts(operation).startFailed) +

@@ -3,6 +3,7 @@
 #include "app/job/CFileJob.h"
 #include "app/window/CInputField.h"
 #include "app/window/CJobFrame.h"
+#include "app/window/CLookups.h"
 #include "app/window/FileDialogs.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
@@ -11,9 +12,9 @@
 
 namespace thisapp {
 
-CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CFileJob& job,
-                           const ICryptoAlgProvider& algorithms)
-    : m_window(window), m_form(form), m_input(input), m_job(job), m_algorithms(algorithms)
+CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CLookups& lookups,
+                           CFileJob& job, const ICryptoAlgProvider& algorithms)
+    : m_window(window), m_form(form), m_input(input), m_lookups(lookups), m_job(job), m_algorithms(algorithms)
 {
 }
 
@@ -46,6 +47,13 @@ void CRequestHost::setInputText(const QString& text)
 void CRequestHost::setOutputText(const QString& text)
 {
     m_form.setOutputText(text);
+}
+
+std::optional<RequestFacts> CRequestHost::look()
+{
+    const auto answer = m_lookups.start<RequestFacts>(
+        [input = m_form.inputText(), output = m_form.outputText()] { return lookAtRequest(input, output); });
+    return m_lookups.wait(answer) ? std::optional(answer.get()) : std::nullopt;
 }
 
 QString CRequestHost::chooseInput(const QString& title)

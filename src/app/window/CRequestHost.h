@@ -6,6 +6,7 @@ class QWidget;
 
 class CInputField;
 class CJobFrame;
+class CLookups;
 
 namespace thisapp {
 
@@ -16,7 +17,7 @@ class ICryptoAlgProvider;
 class CRequestHost final : public IJobRequestHost
 {
 public:
-    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CFileJob& job,
+    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CLookups& lookups, CFileJob& job,
                  const ICryptoAlgProvider& algorithms);
 
     bool isJobRunning() const override;
@@ -25,6 +26,7 @@ public:
     QString outputText() const override;
     void setInputText(const QString& text) override;
     void setOutputText(const QString& text) override;
+    std::optional<RequestFacts> look() override;
     QString chooseInput(const QString& title) override;
     QString chooseOutput(const QString& title) override;
     bool enterPassword(PasswordEntry& entry) override;
@@ -35,6 +37,7 @@ private:
     QWidget& m_window;
     CJobFrame& m_form;
     CInputField& m_input;
+    CLookups& m_lookups;
     CFileJob& m_job;
     const ICryptoAlgProvider& m_algorithms;
 };

@@ -1,5 +1,6 @@
 #include "app/window/InputLook.h"
 
+#include "app/job/RequestFacts.h"
 #include "common/naming/OutputNaming.h"
 #include "common/path/PathText.h"
 #include "lib/platform/File.h"
@@ -13,7 +14,7 @@ using namespace tessaly;
 InputFacts lookAtInput(const QString& text, const NamingSettings& naming)
 {
     InputFacts facts;
-    facts.path = text.trimmed();
+    facts.path = meantPath(text);
     if (facts.path.isEmpty())
         return facts;
     const std::filesystem::path path = textPath(facts.path);

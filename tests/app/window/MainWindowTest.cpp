@@ -297,6 +297,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
 
     fs::create_directory(folder() / "sub");
     folder().write("n\xff", "");
+    folder().write("in ", "");
     const QString base = "file://" + w.path("");
     const std::tuple<QStringList, QString, const char*> cases[] = {
         {{base + "in"}, "in", ""},
@@ -305,6 +306,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
          "Only the first of the dropped files was taken."},
         {{"file://LocalHost" + w.path("in")}, "in", ""},
         {{base + "n%FF"}, QString("n") + QChar(0xdcff), ""},
+        {{base + "in%20"}, "in ", ""}, // while there is an "in", too
         {{base + "missing"}, "missing", "The dropped file is not found."},
         {{base + "sub"},
          "sub",
