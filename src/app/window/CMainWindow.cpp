@@ -8,6 +8,7 @@
 #include "app/window/CRequestHost.h"
 #include "app/window/Commands.h"
 #include "app/window/FileDialogs.h"
+#include "app/window/FolderOpener.h"
 #include "app/window/InputRemovalOffer.h"
 #include "common/errors/ErrorText.h"
 #include "common/path/PathText.h"
@@ -17,7 +18,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -31,25 +31,6 @@ using namespace thisapp;
 namespace {
 
 constexpr char LogSource[] = "mainwindow";
-
-/// The path of a chosen file that may come as a URL.
-QString withoutScheme(const QString& path)
-{
-    const QString scheme = QStringLiteral("file:///");
-    if (!path.startsWith(scheme))
-        return path;
-    // Where absolute paths begin with "/", the last one is part of the path.
-    return path.mid(scheme.size() - (QDir::rootPath() == QLatin1String("/") ? 1 : 0));
-}
-
-void openFolderOf(const QString& path)
-{
-    if (path.isEmpty())
-        return;
-    const QDir folder = QFileInfo(path).absoluteDir();
-    if (folder.exists())
-        QDesktopServices::openUrl(QUrl::fromLocalFile(folder.absolutePath()));
-}
 
 } // namespace
 
@@ -201,17 +182,17 @@ void CMainWindow::onUiEncryptFinished()
     const SEncryptData ended = m_job.data();
     m_display.showEnd(ended, QApplication::activeWindow() != nullptr);
     m_job.clear();
-    if (!isInputRemovalWanted(*this, ended, *m_form))
+    if (!isInputRemovalWanted(*this, ended, m_lookups, *m_form))
         return;
     if (const ResultCode started = m_job.startInputRemoval(); !started.ok())
-        reportInputRemoval({{}, started}, *m_form);
+        reportInputRemoval({{}, started}, ended, *m_form);
     refresh();
 }
 
 void CMainWindow::onUiInputRemovalFinished()
 {
     m_job.finish();
-    reportInputRemoval(m_job.inputRemoval(), *m_form);
+    reportInputRemoval(m_job.inputRemoval(), m_job.data(), *m_form);
     refresh();
 }
 
@@ -220,7 +201,7 @@ void CMainWindow::onUiAddFileItem()
     const QString chosen = askFileToOpen(this, tr("Add file to encrypt/decrypt"), m_form->inputText());
     if (chosen.isEmpty())
         return;
-    m_input.set(QDir::toNativeSeparators(withoutScheme(chosen)));
+    m_input.set(QDir::toNativeSeparators(chosen));
 }
 
 void CMainWindow::onUiBrowseOutput()
@@ -263,6 +244,13 @@ void CMainWindow::resetMessages()
         return;
     m_form->progressFrame().reset();
     m_form->clearMessages();
+}
+
+void CMainWindow::openFolderOf(const QString& text)
+{
+    const auto folder = m_lookups.start<QUrl>([text] { return folderOf(text); });
+    if (m_lookups.wait(folder))
+        openFolder(folder.get());
 }
 
 void CMainWindow::onUiOpenInputFolderItem()

@@ -95,6 +95,7 @@ private:
     void connectJob();
     void requestJob(thisapp::Operation operation);
 
+    void openFolderOf(const QString& text);
     void resetMessages();
     void setTitle();
 

@@ -151,6 +151,28 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_EQ(w.progress().notice(), "");
 }
 
+TEST_F(MainWindowTest, NamesTheFilesOfTheJobWhateverTheFieldsHold)
+{
+    startLongJob();
+    w.writeInput("other", 10);
+    w.window->processCommandLine({w.path("other")});
+    QTest::keyClick(w.window.get(), Qt::Key_F8);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.input().text(), w.path("other"));
+    EXPECT_EQ(w.result(), "File encryption was canceled");
+    EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
+    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
+    EXPECT_EQ(w.detail("outputMessage"), folder() / "out");
+    w.output().setText(w.path("out"));
+    EXPECT_EQ(w.detail("outputMessage"), "") << "the field says it";
+
+    folder().write("plain", "no encrypted file, but long enough to hold the header of one, as it may be");
+    run(Qt::Key_F6, w.path("plain"), w.path("back"));
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "Failed to decrypt file. Corrupted data (error: 5/4003)");
+    EXPECT_EQ(w.detail("resultMessage"), "The file " + (folder() / "plain") + " could not be processed.");
+}
+
 TEST_F(MainWindowTest, ClosingEndsTheJobWithoutAPartialOutput)
 {
     startLongJob();
@@ -274,7 +296,11 @@ TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
     w.output().setText("/out");
     press(Qt::Key_F9);
     press(Qt::Key_F10);
-    const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///")};
+    fs::create_directory(folder() / "sub");
+    w.input().setText(" " + w.path("sub/none"));
+    press(Qt::Key_F9);
+    const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///"),
+                               QUrl("file://" + w.path("sub"))};
     EXPECT_EQ(opened.urls, expected);
 }
 

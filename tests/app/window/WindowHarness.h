@@ -71,6 +71,10 @@ public:
     {
         return window->findChild<CMessageLine*>(line)->text().toStdString();
     }
+    std::string detail(const char* line)
+    {
+        return window->findChild<CMessageLine*>(line)->detail().toStdString();
+    }
     std::string result() { return text("resultMessage"); }
     CProgressBarFrame& progress() { return *window->findChild<CProgressBarFrame*>(); }
     CJobFrame& form() { return *window->findChild<CJobFrame*>(); }
