@@ -64,6 +64,16 @@ void explainCorruptedData(const SEncryptData& data, IMessageAreas& areas)
 
 } // namespace
 
+void reportFailedStart(const SEncryptData& data, ResultCode reason, IMessageAreas& areas)
+{
+    areas.showMessage(Area::Result, {MessageKind::Error,
+                                     [&texts = operationTexts(data.operation), reason] {
+                                         return translated(texts.startFailed) + ' ' + errorText(reason);
+                                     },
+                                     {},
+                                     filesOf(data)});
+}
+
 void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
 {
     const OperationTexts& texts = operationTexts(data.operation);

@@ -36,6 +36,12 @@ bool CInputField::settle()
     return !m_pending.valid();
 }
 
+bool CInputField::isFile(const QString& path)
+{
+    const auto facts = m_lookups.start<InputFacts>([look = m_look, path] { return look(path, {}); });
+    return m_lookups.wait(facts) && facts.get().isUsable() && facts.get().path == path;
+}
+
 void CInputField::onUiEdited()
 {
     schedule(Proposal::Always);

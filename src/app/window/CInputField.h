@@ -32,6 +32,8 @@ public:
     void set(const QString& text, Proposal proposal = Proposal::Always);
     /// Waits for a look that is still under way; false when the file system doesn't answer.
     bool settle();
+    /// Whether exactly this path names a usable file; false, too, when the file system doesn't answer.
+    bool isFile(const QString& path);
     /// Of the last text that was looked at.
     const thisapp::InputFacts& facts() const { return m_facts; }
 

@@ -7,10 +7,7 @@
 #include "app/window/CJobFrame.h"
 #include "app/window/CRequestHost.h"
 #include "app/window/Commands.h"
-#include "app/window/FileDialogs.h"
-#include "app/window/FolderOpener.h"
 #include "app/window/InputRemovalOffer.h"
-#include "common/errors/ErrorText.h"
 #include "common/path/PathText.h"
 #include "lib/logger/Log.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
@@ -21,7 +18,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QUrl>
 
 #include <utility>
 
@@ -32,12 +28,21 @@ namespace {
 
 constexpr char LogSource[] = "mainwindow";
 
+/// `file` may be empty.
+QString titleFor(const QString& file)
+{
+    const QString program = QCoreApplication::applicationName();
+    QString title = file.isEmpty() ? program : QStringLiteral("%1 - %2").arg(file, program);
+    return title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")); // Qt's mark for "modified"
+}
+
 } // namespace
 
 CMainWindow::CMainWindow(const WindowServices& services)
     : m_services(services),
       m_form(new CJobFrame),
       m_input(*m_form, m_lookups, services.look),
+      m_fields(*m_form, m_input, m_lookups),
       m_dialogs(*this, services.algorithms, services.options, m_form->algFrame(), *this),
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier),
@@ -59,11 +64,11 @@ CMainWindow::~CMainWindow() = default;
 
 void CMainWindow::connectForm()
 {
-    connect(&m_input, &CInputField::notifyAccepted, this, &CMainWindow::onUiInputAccepted);
+    connect(&m_input, &CInputField::notifyAccepted, this, &CMainWindow::resetMessages);
     connect(&m_input, &CInputField::notifyFacts, this, &CMainWindow::onUiInputFacts);
     connect(m_form, &CJobFrame::notifyTextChanged, this, &CMainWindow::refresh);
-    connect(m_form, &CJobFrame::notifyAddFile, this, &CMainWindow::onUiAddFileItem);
-    connect(m_form, &CJobFrame::notifyBrowseOutput, this, &CMainWindow::onUiBrowseOutput);
+    connect(m_form, &CJobFrame::notifyAddFile, this, [this] { m_fields.onUiAddFileItem(); });
+    connect(m_form, &CJobFrame::notifyBrowseOutput, this, [this] { m_fields.onUiBrowseOutput(); });
     connect(m_form, &CJobFrame::notifyEncrypt, this, &CMainWindow::onUiEncryptItem);
     connect(m_form, &CJobFrame::notifyDecrypt, this, &CMainWindow::onUiDecryptItem);
     connect(m_form, &CJobFrame::notifyStop, this, &CMainWindow::onUiStopItem);
@@ -84,11 +89,8 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
 {
     logger::log(logger::Information, LogSource)
         << "Try to process command line: " << textPath(quotedArguments(arguments)).native();
-    const CommandLine line = parseCommandLine(arguments, systemSlashRule(), [this](const QString& path) {
-        const auto facts =
-            m_lookups.start<InputFacts>([look = m_services.look, path] { return look(path, {}); });
-        return m_lookups.wait(facts) && facts.get().isUsable() && facts.get().path == path;
-    });
+    const CommandLine line = parseCommandLine(arguments, systemSlashRule(),
+                                              [this](const QString& path) { return m_input.isFile(path); });
     if (line.input)
         m_input.set(QDir::toNativeSeparators(*line.input));
     if (line.output)
@@ -100,20 +102,8 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
 
 void CMainWindow::filesDropped(int widgetId, const QList<QUrl>& urls)
 {
-    if (m_job.isRunning())
-        return;
-    const DroppedFile drop = firstDroppedFile(urls);
-    const bool onOutput = widgetId == DropOnOutput;
-    if (drop.path.isEmpty() || onOutput)
-        m_form->showMessage(onOutput ? Area::Output : Area::Input, dropMessage(drop));
-    if (drop.path.isEmpty())
-        return;
-    if (onOutput) {
-        m_form->setOutputText(drop.path);
-    } else {
-        m_drop = drop;
-        m_input.set(drop.path);
-    }
+    if (!m_job.isRunning())
+        m_fields.takeDrop(widgetId, urls);
 }
 
 void CMainWindow::appOptionsChanged(const SAppOptions& options)
@@ -136,7 +126,8 @@ void CMainWindow::onUiDecryptItem()
 void CMainWindow::requestJob(Operation operation)
 {
     resetMessages();
-    m_input.settle(); // for the proposal
+    if (!m_job.isRunning())
+        m_input.settle(); // for the proposal
     CRequestHost host(*this, *m_form, m_input, m_lookups, m_job, m_services.algorithms);
     JobRequest request(operation, host, *m_form);
     std::optional<SEncryptData> job = request.run();
@@ -145,14 +136,10 @@ void CMainWindow::requestJob(Operation operation)
 
     const QString input = pathText(job->request.input);
     const ResultCode started = m_job.start(std::move(*job));
-    if (started.ok()) {
+    if (started.ok())
         m_display.begin(input, request.inputSize());
-    } else {
-        m_form->showMessage(Area::Result, {MessageKind::Error, [operation, started] {
-                                               return translated(operationTexts(operation).startFailed) +
-                                                      ' ' + errorText(started);
-                                           }});
-    }
+    else
+        reportFailedStart(m_job.data(), started, *m_form);
     refresh();
 }
 
@@ -196,36 +183,9 @@ void CMainWindow::onUiInputRemovalFinished()
     refresh();
 }
 
-void CMainWindow::onUiAddFileItem()
-{
-    const QString chosen = askFileToOpen(this, tr("Add file to encrypt/decrypt"), m_form->inputText());
-    if (chosen.isEmpty())
-        return;
-    m_input.set(QDir::toNativeSeparators(chosen));
-}
-
-void CMainWindow::onUiBrowseOutput()
-{
-    const QString near = m_form->outputText().isEmpty() ? m_form->inputText() : m_form->outputText();
-    const QString chosen = askFileToSave(this, tr("Define output file"), near);
-    if (!chosen.isEmpty())
-        m_form->setOutputText(QDir::toNativeSeparators(chosen));
-}
-
-void CMainWindow::onUiInputAccepted()
-{
-    resetMessages();
-}
-
 void CMainWindow::onUiInputFacts()
 {
-    const InputFacts& facts = m_input.facts();
-    if (const auto drop = std::exchange(m_drop, {}))
-        m_form->showMessage(Area::Input, dropMessage(*drop, facts.check));
-    if (facts.isUsable())
-        m_form->showFile(facts.path, facts.size);
-    else
-        m_form->showNoFile();
+    m_fields.showFacts();
     refresh();
 }
 
@@ -246,23 +206,6 @@ void CMainWindow::resetMessages()
     m_form->clearMessages();
 }
 
-void CMainWindow::openFolderOf(const QString& text)
-{
-    const auto folder = m_lookups.start<QUrl>([text] { return folderOf(text); });
-    if (m_lookups.wait(folder))
-        openFolder(folder.get());
-}
-
-void CMainWindow::onUiOpenInputFolderItem()
-{
-    openFolderOf(m_form->inputText());
-}
-
-void CMainWindow::onUiOpenOutputFolderItem()
-{
-    openFolderOf(m_form->outputText());
-}
-
 void CMainWindow::onUiQuitItem()
 {
     close();
@@ -270,8 +213,10 @@ void CMainWindow::onUiQuitItem()
 
 void CMainWindow::run(const Command& command)
 {
-    if (const auto* slot = std::get_if<void (CMainWindow::*)()>(&command.slot))
-        (this->**slot)();
+    if (const auto* windowSlot = std::get_if<void (CMainWindow::*)()>(&command.slot))
+        (this->**windowSlot)();
+    else if (const auto* fieldSlot = std::get_if<void (FieldCommands::*)()>(&command.slot))
+        (m_fields.**fieldSlot)();
     else if (const auto* dialogSlot = std::get_if<void (DialogCommands::*)()>(&command.slot))
         (m_dialogs.**dialogSlot)();
 }
@@ -288,12 +233,8 @@ void CMainWindow::refresh()
 
 void CMainWindow::setTitle()
 {
-    const QString program = QCoreApplication::applicationName();
-    const QString file =
-        m_job.isRunning() ? m_display.title() : QFileInfo(m_form->inputText().trimmed()).fileName();
-    QString title = file.isEmpty() ? program : QStringLiteral("%1 - %2").arg(file, program);
-    setWindowTitle(
-        title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))); // Qt's mark for "modified"
+    setWindowTitle(titleFor(m_job.isRunning() ? m_display.title()
+                                              : QFileInfo(m_form->inputText().trimmed()).fileName()));
 }
 
 /// The commands' keys work wherever the focus is: a combo box, for one, would take them as a search.

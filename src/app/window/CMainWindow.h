@@ -7,7 +7,7 @@
 #include "app/window/CInputField.h"
 #include "app/window/CLookups.h"
 #include "app/window/DialogCommands.h"
-#include "app/window/DroppedFile.h"
+#include "app/window/FieldCommands.h"
 #include "app/window/InputLook.h"
 #include "app/window/JobDisplay.h"
 #include "app/window/OptionsHandler.h"
@@ -15,8 +15,6 @@
 
 #include <QMainWindow>
 #include <QStringList>
-
-#include <optional>
 
 class CJobFrame;
 
@@ -66,10 +64,7 @@ public slots:
     void onUiEncryptItem();
     void onUiDecryptItem();
     void onUiStopItem();
-    void onUiAddFileItem();
     void onUiClearItem();
-    void onUiOpenInputFolderItem();
-    void onUiOpenOutputFolderItem();
     void onUiQuitItem();
 
 private slots:
@@ -77,9 +72,7 @@ private slots:
     void onUiEncryptProgressChanged();
     void onUiEncryptFinished();
     void onUiInputRemovalFinished();
-    void onUiInputAccepted();
     void onUiInputFacts();
-    void onUiBrowseOutput();
     /// Brings enabled states and title in line with the fields and the job.
     void refresh();
 
@@ -95,7 +88,6 @@ private:
     void connectJob();
     void requestJob(thisapp::Operation operation);
 
-    void openFolderOf(const QString& text);
     void resetMessages();
     void setTitle();
 
@@ -104,7 +96,7 @@ private:
     CJobFrame* m_form;
     CLookups m_lookups;
     CInputField m_input;
-    std::optional<thisapp::DroppedFile> m_drop; ///< whose file is still looked at
+    thisapp::FieldCommands m_fields;
     thisapp::DialogCommands m_dialogs;
     thisapp::Actions m_actions;
     thisapp::JobDisplay m_display;
