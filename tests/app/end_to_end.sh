@@ -50,6 +50,10 @@ run() {
   pid=
 }
 
+code=0
+DISPLAY=:987 "$quillet" 2>"$home/stderr" || code=$?
+[ "$code-$(wc -l <"$home/stderr")" = 1-1 ] || fail "with a dead display the program ended with $code"
+
 head -c 3000000 /dev/urandom >"$home/in"
 run encrypt "$home/in" "$home/out"
 run decrypt "$home/out" "$home/back"

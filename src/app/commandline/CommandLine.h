@@ -2,6 +2,8 @@
 
 #include "app/job/Operation.h"
 
+#include "common/settings/AlgSelection.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -33,6 +35,11 @@ SlashRule systemSlashRule();
 /// `arguments` are those after the program's name.
 CommandLine parseCommandLine(const QStringList& arguments, SlashRule rule,
                              const std::function<bool(const QString& path)>& fileExists);
+
+/// The pair that the names of algorithm and library give, letter case ignored. Without the option, and
+/// for a name that nobody knows, the library is the built-in one. A library may be given by its
+/// number, too. Incomplete when no known algorithm is named.
+AlgSelection namedSelection(const CommandLine& line);
 
 /// What the log says of the arguments: each in double quotes.
 QString quotedArguments(const QStringList& arguments);

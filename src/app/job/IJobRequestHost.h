@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/job/Operation.h"
+#include "app/job/RequestFacts.h"
 #include "app/job/SEncryptData.h"
 #include "common/settings/AlgSelection.h"
 #include "lib/secret/Secret.h"
@@ -8,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace thisapp {
 
@@ -55,6 +57,9 @@ public:
     virtual QString outputText() const = 0;
     virtual void setInputText(const QString& text) = 0;
     virtual void setOutputText(const QString& text) = 0;
+
+    /// A fresh look at what the fields hold; nothing when the file system doesn't answer.
+    virtual std::optional<RequestFacts> look() = 0;
 
     /// Both give an empty text when the user cancels.
     virtual QString chooseInput(const QString& title) = 0;

@@ -4,6 +4,8 @@
 #include "app/job/Message.h"
 #include "app/job/SEncryptData.h"
 #include "common/errors/ErrorText.h"
+#include "common/errors/JobStepText.h"
+#include "common/path/PathText.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/logger/Log.h"
 
@@ -22,11 +24,28 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(JobReport)
 };
 
-void reportRemovedOutput(const crypto::FileJobOutcome& outcome, IMessageAreas& areas)
+void reportRemovedOutput(const SEncryptData& data, IMessageAreas& areas)
 {
-    if (outcome.outputDeleted)
+    if (data.outcome.outputDeleted)
         areas.showMessage(Area::Output,
-                          {MessageKind::Warning, [] { return Text::tr("Output file has been deleted."); }});
+                          {MessageKind::Warning, [] { return Text::tr("Output file has been deleted."); },
+                           pathText(data.request.output)});
+}
+
+/// The files of a job in a line.
+std::function<QString()> filesOf(const SEncryptData& data)
+{
+    return [input = pathText(data.request.input.filename()), output = pathText(data.request.output)] {
+        return input + QStringLiteral(" \u2192 ") + output;
+    };
+}
+
+/// What a failed job was doing to which file.
+std::function<QString()> failedStep(const SEncryptData& data)
+{
+    return [text = failedStepText(data.outcome), file = pathText(failedFile(data.outcome, data.request))] {
+        return QCoreApplication::translate("JobStep", text).arg(file);
+    };
 }
 
 /// The check value can't tell these causes apart, so name them all.
@@ -35,37 +54,54 @@ void explainCorruptedData(const SEncryptData& data, IMessageAreas& areas)
     if (data.operation != Operation::Decrypt ||
         data.outcome.result.first() != err::library(err::CheckValueDiffers))
         return;
-    areas.showMessage(Area::Input, {MessageKind::Plain, [mode = data.request.passwordMode] {
+    areas.showMessage(Area::Input, {MessageKind::Plain,
+                                    [mode = data.request.passwordMode] {
                                         return mode ? Text::tr("Check the password and the algorithm.")
                                                     : Text::tr("Check the key, the IV and the algorithm.");
-                                    }});
+                                    },
+                                    pathText(data.request.input)});
 }
 
 } // namespace
+
+void reportFailedStart(const SEncryptData& data, ResultCode reason, IMessageAreas& areas)
+{
+    areas.showMessage(Area::Result, {MessageKind::Error,
+                                     [&texts = operationTexts(data.operation), reason] {
+                                         return translated(texts.startFailed) + ' ' + errorText(reason);
+                                     },
+                                     {},
+                                     filesOf(data)});
+}
 
 void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
 {
     const OperationTexts& texts = operationTexts(data.operation);
     const crypto::FileJobOutcome& outcome = data.outcome;
     if (outcome.cancelled) {
-        reportRemovedOutput(outcome, areas);
+        reportRemovedOutput(data, areas);
         logger::log(logger::Information, LogSource) << texts.cancelled;
-        areas.showMessage(Area::Result,
-                          {MessageKind::Error, [&texts] { return translated(texts.cancelled); }});
+        areas.showMessage(
+            Area::Result,
+            {MessageKind::Error, [&texts] { return translated(texts.cancelled); }, {}, filesOf(data)});
     } else if (outcome.result.ok()) {
-        areas.showMessage(Area::Result,
-                          {MessageKind::Success, [&texts] { return translated(texts.succeeded); }});
+        areas.showMessage(
+            Area::Result,
+            {MessageKind::Success, [&texts] { return translated(texts.succeeded); }, {}, filesOf(data)});
     } else {
         logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
-        reportRemovedOutput(outcome, areas);
-        areas.showMessage(Area::Result, {MessageKind::Error, [&texts, result = outcome.result] {
+        reportRemovedOutput(data, areas);
+        areas.showMessage(Area::Result, {MessageKind::Error,
+                                         [&texts, result = outcome.result] {
                                              return translated(texts.failed) + ' ' + errorText(result);
-                                         }});
+                                         },
+                                         {},
+                                         failedStep(data)});
         explainCorruptedData(data, areas);
     }
 }
 
-void reportInputRemoval(const InputRemoval& removal, IMessageAreas& areas)
+void reportInputRemoval(const InputRemoval& removal, const SEncryptData& data, IMessageAreas& areas)
 {
     Message message{MessageKind::Warning, {}};
     if (removal.kept)
@@ -79,6 +115,7 @@ void reportInputRemoval(const InputRemoval& removal, IMessageAreas& areas)
                        return Text::tr("Input file has been deleted after the successfully encryption "
                                        "according to your options");
                    }};
+    message.file = pathText(data.request.input);
     areas.showMessage(Area::Input, std::move(message));
 }
 

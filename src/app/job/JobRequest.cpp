@@ -4,7 +4,6 @@
 #include "common/settings/CAppSettings.h"
 #include "common/settings/SettingsKeys.h"
 #include "crypto/catalogue/AlgInfo.h"
-#include "io/PathCheck.h"
 
 #include <QDir>
 
@@ -77,16 +76,27 @@ JobRequest::Verdict JobRequest::inputIsDefined()
         if (!chosen.isEmpty())
             m_host.setInputText(QDir::toNativeSeparators(chosen));
     }
-    const QString input = m_host.inputText().trimmed();
-    if (input.isEmpty())
+    if (m_host.inputText().trimmed().isEmpty())
         return refusal(Area::Input, m_texts.fileNotDefined);
-    m_data.request.input = textPath(input);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::look(Area area)
+{
+    const std::optional<RequestFacts> facts = m_host.look();
+    if (!facts)
+        return Refusal{area, [] { return tr("The file system does not answer."); }};
+    m_facts = *facts;
+    m_data.request.input = m_facts.input;
+    m_data.request.output = m_facts.output;
     return {};
 }
 
 JobRequest::Verdict JobRequest::inputIsFound()
 {
-    switch (io::checkInput(m_data.request.input)) {
+    if (Verdict noAnswer = look(Area::Input))
+        return noAnswer;
+    switch (m_facts.inputCheck) {
     case io::InputCheck::Usable:
         break;
     case io::InputCheck::NotFound:
@@ -104,20 +114,28 @@ JobRequest::Verdict JobRequest::outputIsDefined()
         if (!chosen.isEmpty())
             m_host.setOutputText(QDir::toNativeSeparators(chosen));
     }
-    const QString output = m_host.outputText().trimmed();
-    if (output.isEmpty())
+    if (m_host.outputText().trimmed().isEmpty())
         return Refusal{Area::Output, [] { return tr("Output file is not defined."); }};
-    m_data.request.output = textPath(output);
     return {};
 }
 
 JobRequest::Verdict JobRequest::outputDiffersFromInput()
 {
-    switch (io::checkOutput(m_data.request.input, m_data.request.output)) {
+    if (Verdict noAnswer = look(Area::Result))
+        return noAnswer;
+    return outputCanBeMade();
+}
+
+JobRequest::Verdict JobRequest::outputCanBeMade() const
+{
+    switch (m_facts.outputCheck) {
     case io::OutputCheck::Free:
     case io::OutputCheck::Exists:
-    case io::OutputCheck::NoFolder:
         break;
+    case io::OutputCheck::NoFolder:
+        return Refusal{Area::Result, [folder = pathText(m_facts.output.parent_path())] {
+                           return tr("The output folder is not found: %1").arg(folder);
+                       }};
     case io::OutputCheck::MatchesInput:
         return Refusal{Area::Result,
                        [] { return tr("Output file name matches the name of the input file"); }};
@@ -211,11 +229,10 @@ JobRequest::Verdict JobRequest::engineIsReady()
 /// only marked here; the worker removes it, as that may take its time.
 JobRequest::Verdict JobRequest::outputMayBeWritten()
 {
-    const io::OutputCheck found = io::checkOutput(m_data.request.input, m_data.request.output);
-    if (found == io::OutputCheck::Free || found == io::OutputCheck::NoFolder)
-        return {};
     if (Verdict refused = outputDiffersFromInput())
         return refused;
+    if (m_facts.outputCheck == io::OutputCheck::Free)
+        return {};
     if (!m_data.rewriteOutput)
         return Refusal{Area::Result, [] {
                            return tr("Output file already exists! A 'not rewrite' option has been selected.");

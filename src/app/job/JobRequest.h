@@ -8,8 +8,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
-#include <string>
 
 namespace thisapp {
 
@@ -24,6 +24,8 @@ public:
     /// Makes all the checks and asks all the questions in their order. The first check that fails shows
     /// its message, and nothing is given; nothing on the disk is changed in either case.
     std::optional<SEncryptData> run();
+    /// In bytes, once the request has been made.
+    std::int64_t inputSize() const { return m_facts.inputSize; }
 
 private:
     struct Refusal
@@ -35,6 +37,8 @@ private:
     using Step = Verdict (JobRequest::*)();
     static const Step Steps[];
 
+    /// Asks the disk anew; for the area that a missing answer is told in.
+    Verdict look(Area area);
     Verdict noJobRuns();
     Verdict libraryIsChosen();
     Verdict algorithmIsChosen();
@@ -42,6 +46,7 @@ private:
     Verdict inputIsFound();
     Verdict outputIsDefined();
     Verdict outputDiffersFromInput();
+    Verdict outputCanBeMade() const;
     Verdict sizesAreKnown();
     Verdict settingsAreRead();
     Verdict secretIsEntered();
@@ -57,6 +62,7 @@ private:
     IJobRequestHost& m_host;
     IMessageAreas& m_areas;
     SEncryptData m_data;
+    RequestFacts m_facts;
     PasswordEntry m_question;
     tessaly::crypto::AlgRecord m_sizes;
 };

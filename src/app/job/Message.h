@@ -15,6 +15,10 @@ struct Message
 {
     MessageKind kind = MessageKind::Plain;
     std::function<QString()> text;
+    /// The file that it is about. It isn't named beside a field that holds it.
+    QString file = {};
+    /// Says more, with names of files in it; instead of the bare file, and wherever the message stands.
+    std::function<QString()> detail = {};
 
     bool isEmpty() const { return !text; }
     QString now() const { return text ? text() : QString(); }

@@ -15,6 +15,11 @@ void CDragDropFrame::dragEnterEvent(QDragEnterEvent* event)
         emit notifyDragOver(true);
 }
 
+void CDragDropFrame::dragMoveEvent(QDragMoveEvent* event)
+{
+    thisapp::keepFiles(*event);
+}
+
 void CDragDropFrame::dragLeaveEvent(QDragLeaveEvent* event)
 {
     emit notifyDragOver(false);

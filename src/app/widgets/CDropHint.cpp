@@ -1,5 +1,6 @@
 #include "app/widgets/CDropHint.h"
 
+#include "app/widgets/CElidedLabel.h"
 #include "app/widgets/SymbolicIcon.h"
 
 #include <QEvent>
@@ -9,13 +10,13 @@
 #include <QVBoxLayout>
 
 CDropHint::CDropHint(QWidget* parent)
-    : QFrame(parent), m_icon(new QLabel), m_headline(new QLabel), m_detail(new QLabel)
+    : QFrame(parent), m_icon(new QLabel), m_headline(new CElidedLabel), m_detail(new QLabel)
 {
     auto* layout = new QVBoxLayout(this);
     const int margin = fontMetrics().height();
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addStretch();
-    for (QLabel* label : {m_icon, m_headline, m_detail}) {
+    for (QLabel* label : std::initializer_list<QLabel*>{m_icon, m_headline, m_detail}) {
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);
         layout->addWidget(label);
@@ -25,8 +26,6 @@ CDropHint::CDropHint(QWidget* parent)
     QFont font = m_headline->font();
     font.setBold(true);
     m_headline->setFont(font);
-    // Both may be cut rather than keep the window wide.
-    m_headline->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_detail->setWordWrap(true);
     m_icon->setMinimumHeight(iconSize());
     setCursor(Qt::PointingHandCursor);
@@ -35,7 +34,7 @@ CDropHint::CDropHint(QWidget* parent)
 void CDropHint::setContent(const QString& glyph, const QString& headline, const QString& detail)
 {
     m_glyph = glyph;
-    m_headlineText = headline;
+    m_headline->setWholeText(headline);
     m_detail->setText(detail);
     refresh();
 }
@@ -62,12 +61,6 @@ void CDropHint::paintEvent(QPaintEvent* event)
     painter.setBrush(fill);
     const qreal radius = fontMetrics().height() / 2.0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(width, width, -width, -width), radius, radius);
-}
-
-void CDropHint::resizeEvent(QResizeEvent* event)
-{
-    QFrame::resizeEvent(event);
-    refresh();
 }
 
 void CDropHint::mouseReleaseEvent(QMouseEvent* event)
@@ -102,6 +95,4 @@ void CDropHint::refresh()
 {
     if (!m_glyph.isEmpty())
         m_icon->setPixmap(thisapp::symbolicPixmap(m_glyph, iconSize(), accent(), devicePixelRatioF()));
-    m_headline->setText(
-        m_headline->fontMetrics().elidedText(m_headlineText, Qt::ElideMiddle, m_headline->width()));
 }

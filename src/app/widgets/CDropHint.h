@@ -2,6 +2,7 @@
 
 #include <QFrame>
 
+class CElidedLabel;
 class QLabel;
 
 /// Shows where to drop a file, and afterwards which file is at hand. A click asks for one.
@@ -22,7 +23,6 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -32,9 +32,8 @@ private:
     void refresh();
 
     QLabel* m_icon;
-    QLabel* m_headline;
+    CElidedLabel* m_headline;
     QLabel* m_detail;
     QString m_glyph;
-    QString m_headlineText;
     bool m_highlighted = false;
 };

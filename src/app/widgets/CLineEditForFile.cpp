@@ -22,7 +22,7 @@ void CLineEditForFile::dragEnterEvent(QDragEnterEvent* event)
 /// The base class would take dragged text here.
 void CLineEditForFile::dragMoveEvent(QDragMoveEvent* event)
 {
-    thisapp::acceptFiles(*event);
+    thisapp::keepFiles(*event);
 }
 
 void CLineEditForFile::dropEvent(QDropEvent* event)

@@ -1,10 +1,12 @@
 #include "app/widgets/CMessageLine.h"
 
+#include "app/widgets/CElidedLabel.h"
 #include "app/widgets/SymbolicIcon.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 using thisapp::MessageKind;
 
@@ -27,12 +29,17 @@ const char* glyphName(MessageKind kind)
 
 } // namespace
 
-CMessageLine::CMessageLine(QWidget* parent) : QFrame(parent), m_glyph(new QLabel), m_text(new QLabel)
+CMessageLine::CMessageLine(QWidget* parent)
+    : QFrame(parent), m_glyph(new QLabel), m_text(new QLabel), m_detail(new CElidedLabel)
 {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_glyph, 0, Qt::AlignTop);
-    layout->addWidget(m_text, 1);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(m_text);
+    texts->addWidget(m_detail);
+    layout->addLayout(texts, 1);
 
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
@@ -44,6 +51,20 @@ void CMessageLine::setMessage(thisapp::Message message)
 {
     m_message = std::move(message);
     refresh();
+}
+
+void CMessageLine::setFieldText(const QString& text)
+{
+    m_fieldText = text;
+    refresh();
+}
+
+QString CMessageLine::detail() const
+{
+    if (m_message.detail)
+        return m_message.detail();
+    const bool isHere = m_fieldText == m_message.file || m_fieldText.trimmed() == m_message.file;
+    return isHere ? QString() : m_message.file;
 }
 
 QString CMessageLine::text() const
@@ -68,6 +89,8 @@ void CMessageLine::refresh()
     m_text->setPalette(textPalette);
     m_text->setText(m_message.now());
     setMinimumHeight(fontMetrics().height());
+    m_detail->setWholeText(detail());
+    m_detail->setVisible(!detail().isEmpty());
 
     const char* glyph = m_message.isEmpty() ? nullptr : glyphName(m_message.kind);
     m_glyph->setVisible(glyph != nullptr);

@@ -4,6 +4,7 @@
 
 #include <QFrame>
 
+class CElidedLabel;
 class QLabel;
 
 /// Shows a message with a glyph and in the colour of its kind. It always has room for one line, so that
@@ -16,8 +17,12 @@ public:
     explicit CMessageLine(QWidget* parent = nullptr);
 
     void setMessage(thisapp::Message message);
+    /// What the field holds that the line stands beside: a message about that file needn't name it.
+    void setFieldText(const QString& text);
     void clear() { setMessage({}); }
     QString text() const;
+    /// The second line: the files that the message is about.
+    QString detail() const;
     thisapp::MessageKind kind() const { return m_message.kind; }
 
 protected:
@@ -28,5 +33,7 @@ private:
 
     QLabel* m_glyph;
     QLabel* m_text;
+    CElidedLabel* m_detail;
+    QString m_fieldText;
     thisapp::Message m_message;
 };

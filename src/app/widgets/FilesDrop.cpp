@@ -2,15 +2,36 @@
 
 #include "app/widgets/IFilesDragDropEvent.h"
 
+#include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QMimeData>
 
 namespace thisapp {
 
-bool acceptFiles(QDragMoveEvent& event)
+namespace {
+
+bool carriesFiles(const QDropEvent& event)
 {
-    const bool hasFiles = event.mimeData()->hasUrls() && !event.mimeData()->urls().isEmpty();
+    return event.mimeData()->hasUrls() && !event.mimeData()->urls().isEmpty();
+}
+
+/// Chooses a harmless action if the source allows one.
+bool chooseHarmlessAction(QDropEvent& event)
+{
+    for (const Qt::DropAction action : {Qt::CopyAction, Qt::LinkAction})
+        if (event.possibleActions().testFlag(action)) {
+            event.setDropAction(action);
+            return true;
+        }
+    return false;
+}
+
+} // namespace
+
+bool acceptFiles(QDragEnterEvent& event)
+{
+    const bool hasFiles = carriesFiles(event);
     if (hasFiles)
         event.acceptProposedAction();
     else
@@ -18,15 +39,19 @@ bool acceptFiles(QDragMoveEvent& event)
     return hasFiles;
 }
 
+/// It is the answer to a drag's last move, not to its drop, that the source goes by.
+void keepFiles(QDragMoveEvent& event)
+{
+    event.setAccepted(carriesFiles(event) && chooseHarmlessAction(event));
+}
+
 void dropFiles(QDropEvent& event, const FilesDropTarget& target)
 {
-    if (!event.mimeData()->hasUrls() || target.receiver == nullptr) {
-        event.ignore();
+    event.setAccepted(event.mimeData()->hasUrls() && target.receiver != nullptr);
+    if (!event.isAccepted())
         return;
-    }
-    // The files are only read, whatever the source proposes: a "move" would make it delete them.
-    event.setDropAction(Qt::CopyAction);
-    event.accept();
+    if (!chooseHarmlessAction(event))
+        event.setDropAction(Qt::IgnoreAction);
     target.receiver->filesDropped(target.id, event.mimeData()->urls());
 }
 

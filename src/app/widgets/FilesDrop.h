@@ -1,6 +1,7 @@
 #pragma once
 
 class IFilesDragDropEvent;
+class QDragEnterEvent;
 class QDragMoveEvent;
 class QDropEvent;
 
@@ -13,8 +14,12 @@ struct FilesDropTarget
     int id = 0;
 };
 
-/// Accepts a drag that carries URLs, refuses every other; true when accepted.
-bool acceptFiles(QDragMoveEvent& event);
+/// Accepts the proposed action of a drag that carries URLs, refuses every other; true when accepted.
+bool acceptFiles(QDragEnterEvent& event);
+
+/// Settles on an action that leaves the files with their owner: a program that hands them over as a
+/// move deletes them afterwards. Refuses what could only be moved.
+void keepFiles(QDragMoveEvent& event);
 
 /// Hands the dropped URLs to the receiver.
 void dropFiles(QDropEvent& event, const FilesDropTarget& target);

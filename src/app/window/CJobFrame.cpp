@@ -115,8 +115,11 @@ QLayout* CJobFrame::makeButtons()
 void CJobFrame::connectWidgets()
 {
     connect(m_input, &QLineEdit::textEdited, this, &CJobFrame::notifyInputEdited);
+    connect(m_input, &QLineEdit::textChanged, this, &CJobFrame::notifyInputChanged);
     connect(m_input, &QLineEdit::textChanged, this, &CJobFrame::notifyTextChanged);
     connect(m_output, &QLineEdit::textChanged, this, &CJobFrame::notifyTextChanged);
+    connect(m_input, &QLineEdit::textChanged, m_inputMessage, &CMessageLine::setFieldText);
+    connect(m_output, &QLineEdit::textChanged, m_outputMessage, &CMessageLine::setFieldText);
     connect(m_browseInput, &QToolButton::clicked, this, &CJobFrame::notifyAddFile);
     connect(m_hint, &CDropHint::notifyClicked, this, &CJobFrame::notifyAddFile);
     connect(m_browseOutput, &QToolButton::clicked, this, &CJobFrame::notifyBrowseOutput);

@@ -54,6 +54,8 @@ public:
 signals:
     /// The user, not the program, changed the input.
     void notifyInputEdited();
+    /// The input changed, whoever changed it. Comes after notifyInputEdited.
+    void notifyInputChanged();
     /// The text of one of the two fields changed, whoever changed it.
     void notifyTextChanged();
     void notifyAddFile();

@@ -7,28 +7,19 @@
 #include "app/window/CJobFrame.h"
 #include "app/window/CRequestHost.h"
 #include "app/window/Commands.h"
-#include "app/window/FileDialogs.h"
 #include "app/window/InputRemovalOffer.h"
-#include "common/errors/ErrorText.h"
-#include "common/naming/OutputNaming.h"
 #include "common/path/PathText.h"
-#include "common/settings/CAppSettings.h"
-#include "crypto/catalogue/Catalogue.h"
-#include "io/PathCheck.h"
 #include "lib/logger/Log.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDate>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QUrl>
 
-#include <algorithm>
+#include <utility>
 
 using namespace tessaly;
 using namespace thisapp;
@@ -37,28 +28,12 @@ namespace {
 
 constexpr char LogSource[] = "mainwindow";
 
-bool isUsableInput(const QString& path)
+/// `file` may be empty.
+QString titleFor(const QString& file)
 {
-    return !path.isEmpty() && io::checkInput(textPath(path)) == io::InputCheck::Usable;
-}
-
-/// The path of a chosen file that may come as a URL.
-QString withoutScheme(const QString& path)
-{
-    const QString scheme = QStringLiteral("file:///");
-    if (!path.startsWith(scheme))
-        return path;
-    // Where absolute paths begin with "/", the last one is part of the path.
-    return path.mid(scheme.size() - (QDir::rootPath() == QLatin1String("/") ? 1 : 0));
-}
-
-void openFolderOf(const QString& path)
-{
-    if (path.isEmpty())
-        return;
-    const QDir folder = QFileInfo(path).absoluteDir();
-    if (folder.exists())
-        QDesktopServices::openUrl(QUrl::fromLocalFile(folder.absolutePath()));
+    const QString program = QCoreApplication::applicationName();
+    QString title = file.isEmpty() ? program : QStringLiteral("%1 - %2").arg(file, program);
+    return title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")); // Qt's mark for "modified"
 }
 
 } // namespace
@@ -66,6 +41,8 @@ void openFolderOf(const QString& path)
 CMainWindow::CMainWindow(const WindowServices& services)
     : m_services(services),
       m_form(new CJobFrame),
+      m_input(*m_form, m_lookups, services.look),
+      m_fields(*m_form, m_input, m_lookups),
       m_dialogs(*this, services.algorithms, services.options, m_form->algFrame(), *this),
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier),
@@ -87,10 +64,11 @@ CMainWindow::~CMainWindow() = default;
 
 void CMainWindow::connectForm()
 {
-    connect(m_form, &CJobFrame::notifyInputEdited, this, &CMainWindow::onUiInputEdited);
+    connect(&m_input, &CInputField::notifyAccepted, this, &CMainWindow::resetMessages);
+    connect(&m_input, &CInputField::notifyFacts, this, &CMainWindow::onUiInputFacts);
     connect(m_form, &CJobFrame::notifyTextChanged, this, &CMainWindow::refresh);
-    connect(m_form, &CJobFrame::notifyAddFile, this, &CMainWindow::onUiAddFileItem);
-    connect(m_form, &CJobFrame::notifyBrowseOutput, this, &CMainWindow::onUiBrowseOutput);
+    connect(m_form, &CJobFrame::notifyAddFile, this, [this] { m_fields.onUiAddFileItem(); });
+    connect(m_form, &CJobFrame::notifyBrowseOutput, this, [this] { m_fields.onUiBrowseOutput(); });
     connect(m_form, &CJobFrame::notifyEncrypt, this, &CMainWindow::onUiEncryptItem);
     connect(m_form, &CJobFrame::notifyDecrypt, this, &CMainWindow::onUiDecryptItem);
     connect(m_form, &CJobFrame::notifyStop, this, &CMainWindow::onUiStopItem);
@@ -111,41 +89,21 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
 {
     logger::log(logger::Information, LogSource)
         << "Try to process command line: " << textPath(quotedArguments(arguments)).native();
-    const CommandLine line = parseCommandLine(arguments, systemSlashRule(), isUsableInput);
-    if (line.input) {
-        m_form->setInputText(QDir::toNativeSeparators(*line.input));
-        acceptInput();
-    }
+    const CommandLine line = parseCommandLine(arguments, systemSlashRule(),
+                                              [this](const QString& path) { return m_input.isFile(path); });
+    if (line.input)
+        m_input.set(QDir::toNativeSeparators(*line.input));
     if (line.output)
         m_form->setOutputText(*line.output);
-    selectAlgorithm(line.algorithm);
+    m_form->algFrame().setSelection(namedSelection(line)); // none of them changes nothing
     if (line.start)
         requestJob(line.operation);
 }
 
-/// Of the libraries only one offers algorithms, so that the name of an algorithm alone tells the pair.
-void CMainWindow::selectAlgorithm(const QString& name)
-{
-    if (const crypto::CatalogueEntry* entry = crypto::findAlgorithm(name.toStdString()))
-        m_form->algFrame().setSelection({crypto::CryptoPPLibraryId, entry->id});
-}
-
 void CMainWindow::filesDropped(int widgetId, const QList<QUrl>& urls)
 {
-    const auto url = std::ranges::find_if(urls, &QUrl::isLocalFile);
-    if (m_job.isRunning() || url == urls.end())
-        return;
-    const QString path = QDir::toNativeSeparators(url->toLocalFile());
-    if (widgetId == DropOnOutput) {
-        m_form->setOutputText(path);
-        return;
-    }
-    m_form->setInputText(path);
-    if (!acceptInput())
-        m_form->showMessage(Area::Input, {MessageKind::Warning, [] {
-                                              return tr("Only a single file can be encrypted or decrypted, "
-                                                        "not a folder or a device.");
-                                          }});
+    if (!m_job.isRunning())
+        m_fields.takeDrop(widgetId, urls);
 }
 
 SAppliedOptions CMainWindow::appOptionsChanged(const SAppOptions& options)
@@ -170,29 +128,21 @@ void CMainWindow::onUiDecryptItem()
 
 void CMainWindow::requestJob(Operation operation)
 {
-    if (!m_job.isRunning()) {
-        m_form->clearMessages();
-        m_form->progressFrame().reset();
-    }
-    CRequestHost host(*this, *m_form, m_job, m_services.algorithms, [this] {
-        if (isInputAccepted() && m_form->outputText().trimmed().isEmpty())
-            proposeOutput();
-    });
-    std::optional<SEncryptData> request = JobRequest(operation, host, *m_form).run();
-    if (!request)
+    resetMessages();
+    if (!m_job.isRunning())
+        m_input.settle(); // for the proposal
+    CRequestHost host(*this, *m_form, m_input, m_lookups, m_job, m_services.algorithms);
+    JobRequest request(operation, host, *m_form);
+    std::optional<SEncryptData> job = request.run();
+    if (!job)
         return;
 
-    const QString input = pathText(request->request.input);
-    const std::int64_t size = platform::fileStatus(request->request.input).size;
-    const ResultCode started = m_job.start(std::move(*request));
-    if (started.ok()) {
-        m_display.begin(input, size);
-    } else {
-        m_form->showMessage(Area::Result, {MessageKind::Error, [operation, started] {
-                                               return translated(operationTexts(operation).startFailed) +
-                                                      ' ' + errorText(started);
-                                           }});
-    }
+    const QString input = pathText(job->request.input);
+    const ResultCode started = m_job.start(std::move(*job));
+    if (started.ok())
+        m_display.begin(input, request.inputSize());
+    else
+        reportFailedStart(m_job.data(), started, *m_form);
     refresh();
 }
 
@@ -222,61 +172,41 @@ void CMainWindow::onUiEncryptFinished()
     const SEncryptData ended = m_job.data();
     m_display.showEnd(ended, QApplication::activeWindow() != nullptr);
     m_job.clear();
-    if (!isInputRemovalWanted(*this, ended, *m_form))
+    if (!isInputRemovalWanted(*this, ended, m_lookups, *m_form))
         return;
     if (const ResultCode started = m_job.startInputRemoval(); !started.ok())
-        reportInputRemoval({{}, started}, *m_form);
+        reportInputRemoval({{}, started}, ended, *m_form);
     refresh();
 }
 
 void CMainWindow::onUiInputRemovalFinished()
 {
     m_job.finish();
-    reportInputRemoval(m_job.inputRemoval(), *m_form);
+    reportInputRemoval(m_job.inputRemoval(), m_job.data(), *m_form);
     refresh();
 }
 
-void CMainWindow::onUiAddFileItem()
+void CMainWindow::onUiInputFacts()
 {
-    const QString chosen = askFileToOpen(this, tr("Add file to encrypt/decrypt"), m_form->inputText());
-    if (chosen.isEmpty())
-        return;
-    m_form->setInputText(QDir::toNativeSeparators(withoutScheme(chosen)));
-    acceptInput();
-}
-
-void CMainWindow::onUiBrowseOutput()
-{
-    const QString near = m_form->outputText().isEmpty() ? m_form->inputText() : m_form->outputText();
-    const QString chosen = askFileToSave(this, tr("Define output file"), near);
-    if (!chosen.isEmpty())
-        m_form->setOutputText(QDir::toNativeSeparators(chosen));
-}
-
-void CMainWindow::onUiInputEdited()
-{
-    acceptInput();
+    m_fields.showFacts();
+    refresh();
 }
 
 void CMainWindow::onUiClearItem()
 {
     m_form->setInputText({});
     m_form->setOutputText({});
-    if (!m_job.isRunning()) {
-        m_form->progressFrame().reset();
-        m_form->clearMessages();
-    }
+    resetMessages();
     refresh();
 }
 
-void CMainWindow::onUiOpenInputFolderItem()
+/// What was said of the last job says nothing of the next one.
+void CMainWindow::resetMessages()
 {
-    openFolderOf(m_form->inputText());
-}
-
-void CMainWindow::onUiOpenOutputFolderItem()
-{
-    openFolderOf(m_form->outputText());
+    if (m_job.isRunning())
+        return;
+    m_form->progressFrame().reset();
+    m_form->clearMessages();
 }
 
 void CMainWindow::onUiQuitItem()
@@ -286,36 +216,12 @@ void CMainWindow::onUiQuitItem()
 
 void CMainWindow::run(const Command& command)
 {
-    if (const auto* slot = std::get_if<void (CMainWindow::*)()>(&command.slot))
-        (this->**slot)();
+    if (const auto* windowSlot = std::get_if<void (CMainWindow::*)()>(&command.slot))
+        (this->**windowSlot)();
+    else if (const auto* fieldSlot = std::get_if<void (FieldCommands::*)()>(&command.slot))
+        (m_fields.**fieldSlot)();
     else if (const auto* dialogSlot = std::get_if<void (DialogCommands::*)()>(&command.slot))
         (m_dialogs.**dialogSlot)();
-}
-
-bool CMainWindow::isInputAccepted() const
-{
-    return isUsableInput(m_form->inputText().trimmed());
-}
-
-bool CMainWindow::acceptInput()
-{
-    if (!isInputAccepted())
-        return false;
-    if (!m_job.isRunning()) {
-        m_form->progressFrame().reset();
-        m_form->clearMessages();
-    }
-    proposeOutput();
-    refresh();
-    return true;
-}
-
-void CMainWindow::proposeOutput()
-{
-    const QString proposal =
-        outputPath(m_form->inputText().trimmed(), readNamingSettings(CAppSettings()), QDate::currentDate());
-    if (!proposal.isEmpty())
-        m_form->setOutputText(proposal);
 }
 
 void CMainWindow::refresh()
@@ -325,22 +231,13 @@ void CMainWindow::refresh()
     m_form->setRunning(running, stoppable);
     m_actions.setState(
         {!running, stoppable, !m_form->inputText().isEmpty(), !m_form->outputText().isEmpty()});
-    const QString input = m_form->inputText().trimmed();
-    if (isInputAccepted())
-        m_form->showFile(input, platform::fileStatus(textPath(input)).size);
-    else
-        m_form->showNoFile();
     setTitle();
 }
 
 void CMainWindow::setTitle()
 {
-    const QString program = QCoreApplication::applicationName();
-    const QString file =
-        m_job.isRunning() ? m_display.title() : QFileInfo(m_form->inputText().trimmed()).fileName();
-    QString title = file.isEmpty() ? program : QStringLiteral("%1 - %2").arg(file, program);
-    setWindowTitle(
-        title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))); // Qt's mark for "modified"
+    setWindowTitle(titleFor(m_job.isRunning() ? m_display.title()
+                                              : QFileInfo(m_form->inputText().trimmed()).fileName()));
 }
 
 /// The commands' keys work wherever the focus is: a combo box, for one, would take them as a search.

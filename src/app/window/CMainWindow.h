@@ -4,7 +4,11 @@
 #include "app/job/CMsgDispatcher.h"
 #include "app/widgets/IFilesDragDropEvent.h"
 #include "app/window/Actions.h"
+#include "app/window/CInputField.h"
+#include "app/window/CLookups.h"
 #include "app/window/DialogCommands.h"
+#include "app/window/FieldCommands.h"
+#include "app/window/InputLook.h"
 #include "app/window/JobDisplay.h"
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
@@ -26,6 +30,7 @@ struct WindowServices
     OptionsHandler& options;
     desktop::ITaskbarProgress& taskbar;
     desktop::INotifier& notifier;
+    InputLook look = lookAtInput;
 };
 
 } // namespace thisapp
@@ -55,10 +60,7 @@ public slots:
     void onUiEncryptItem();
     void onUiDecryptItem();
     void onUiStopItem();
-    void onUiAddFileItem();
     void onUiClearItem();
-    void onUiOpenInputFolderItem();
-    void onUiOpenOutputFolderItem();
     void onUiQuitItem();
 
 private slots:
@@ -66,9 +68,8 @@ private slots:
     void onUiEncryptProgressChanged();
     void onUiEncryptFinished();
     void onUiInputRemovalFinished();
-    void onUiInputEdited();
-    void onUiBrowseOutput();
-    /// Brings enabled states, title and the shown file in line with the fields and the job.
+    void onUiInputFacts();
+    /// Brings enabled states and title in line with the fields and the job.
     void refresh();
 
 protected:
@@ -83,17 +84,15 @@ private:
     void connectJob();
     void requestJob(thisapp::Operation operation);
 
-    bool isInputAccepted() const;
-    /// To be called when the input field has a new text: if that is a usable file, the window is
-    /// prepared for a job on it.
-    bool acceptInput();
-    void proposeOutput();
-    void selectAlgorithm(const QString& name);
+    void resetMessages();
     void setTitle();
 
     const thisapp::WindowServices m_services;
     CMsgDispatcher m_dispatcher;
     CJobFrame* m_form;
+    CLookups m_lookups;
+    CInputField m_input;
+    thisapp::FieldCommands m_fields;
     thisapp::DialogCommands m_dialogs;
     thisapp::Actions m_actions;
     thisapp::JobDisplay m_display;

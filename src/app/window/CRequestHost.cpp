@@ -1,24 +1,20 @@
 #include "app/window/CRequestHost.h"
 
 #include "app/job/CFileJob.h"
+#include "app/window/CInputField.h"
 #include "app/window/CJobFrame.h"
+#include "app/window/CLookups.h"
 #include "app/window/FileDialogs.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
-#include <utility>
-
 namespace thisapp {
 
-CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job,
-                           const ICryptoAlgProvider& algorithms, std::function<void()> inputChosen)
-    : m_window(window),
-      m_form(form),
-      m_job(job),
-      m_algorithms(algorithms),
-      m_inputChosen(std::move(inputChosen))
+CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CLookups& lookups,
+                           CFileJob& job, const ICryptoAlgProvider& algorithms)
+    : m_window(window), m_form(form), m_input(input), m_lookups(lookups), m_job(job), m_algorithms(algorithms)
 {
 }
 
@@ -44,13 +40,20 @@ QString CRequestHost::outputText() const
 
 void CRequestHost::setInputText(const QString& text)
 {
-    m_form.setInputText(text);
-    m_inputChosen();
+    m_input.set(text, CInputField::Proposal::IfEmpty);
+    m_input.settle(); // for the proposal
 }
 
 void CRequestHost::setOutputText(const QString& text)
 {
     m_form.setOutputText(text);
+}
+
+std::optional<RequestFacts> CRequestHost::look()
+{
+    const auto answer = m_lookups.start<RequestFacts>(
+        [input = m_form.inputText(), output = m_form.outputText()] { return lookAtRequest(input, output); });
+    return m_lookups.wait(answer) ? std::optional(answer.get()) : std::nullopt;
 }
 
 QString CRequestHost::chooseInput(const QString& title)

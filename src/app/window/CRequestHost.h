@@ -2,11 +2,11 @@
 
 #include "app/job/IJobRequestHost.h"
 
-#include <functional>
-
 class QWidget;
 
+class CInputField;
 class CJobFrame;
+class CLookups;
 
 namespace thisapp {
 
@@ -17,9 +17,8 @@ class ICryptoAlgProvider;
 class CRequestHost final : public IJobRequestHost
 {
 public:
-    /// `inputChosen` is called when the input field got the file that the user chose on request.
-    CRequestHost(QWidget& window, CJobFrame& form, CFileJob& job, const ICryptoAlgProvider& algorithms,
-                 std::function<void()> inputChosen);
+    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CLookups& lookups, CFileJob& job,
+                 const ICryptoAlgProvider& algorithms);
 
     bool isJobRunning() const override;
     AlgSelection selection() const override;
@@ -27,6 +26,7 @@ public:
     QString outputText() const override;
     void setInputText(const QString& text) override;
     void setOutputText(const QString& text) override;
+    std::optional<RequestFacts> look() override;
     QString chooseInput(const QString& title) override;
     QString chooseOutput(const QString& title) override;
     bool enterPassword(PasswordEntry& entry) override;
@@ -36,9 +36,10 @@ public:
 private:
     QWidget& m_window;
     CJobFrame& m_form;
+    CInputField& m_input;
+    CLookups& m_lookups;
     CFileJob& m_job;
     const ICryptoAlgProvider& m_algorithms;
-    const std::function<void()> m_inputChosen;
 };
 
 } // namespace thisapp

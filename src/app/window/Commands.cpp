@@ -2,6 +2,7 @@
 
 #include "app/window/CMainWindow.h"
 #include "app/window/DialogCommands.h"
+#include "app/window/FieldCommands.h"
 
 #include <algorithm>
 #include <climits>
@@ -14,20 +15,20 @@ constexpr Command Table[] = {
     {.id = "add-file",
      .menu = Menu::File,
      .text = QT_TRANSLATE_NOOP("Actions", "&Add file..."),
-     .slot = &CMainWindow::onUiAddFileItem,
+     .slot = &FieldCommands::onUiAddFileItem,
      .keys = {ctrl(Qt::Key_O), ctrl(Qt::Key_N)},
      .keyDescription = QT_TRANSLATE_NOOP("Shortcuts", "Add file to encrypt/decrypt")},
     {.id = "open-input-folder",
      .menu = Menu::File,
      .text = QT_TRANSLATE_NOOP("Actions", "Open folder with &input file"),
-     .slot = &CMainWindow::onUiOpenInputFolderItem,
+     .slot = &FieldCommands::onUiOpenInputFolderItem,
      .keys = {ctrl(Qt::Key_F9)},
      .keyDescription = QT_TRANSLATE_NOOP("Shortcuts", "Open folder with input file"),
      .offered = &CommandState::hasInput},
     {.id = "open-output-folder",
      .menu = Menu::File,
      .text = QT_TRANSLATE_NOOP("Actions", "Open folder with &output file"),
-     .slot = &CMainWindow::onUiOpenOutputFolderItem,
+     .slot = &FieldCommands::onUiOpenOutputFolderItem,
      .keys = {ctrl(Qt::Key_F10)},
      .keyDescription = QT_TRANSLATE_NOOP("Shortcuts", "Open folder with output file"),
      .offered = &CommandState::hasOutput},

@@ -14,6 +14,7 @@ class CMainWindow;
 namespace thisapp {
 
 class DialogCommands;
+class FieldCommands;
 
 enum class Menu : std::size_t { File, Commands, Settings, Help, Count };
 
@@ -33,7 +34,7 @@ struct Command
     const char* id;
     Menu menu;
     const char* text; ///< source text
-    std::variant<void (CMainWindow::*)(), void (DialogCommands::*)()> slot;
+    std::variant<void (CMainWindow::*)(), void (FieldCommands::*)(), void (DialogCommands::*)()> slot;
     /// Each a Qt::Key or ctrl() of one; 0 for none. They work whether the command is offered or not.
     std::array<int, 2> keys = {};
     /// What the lists of shortcuts say of the keys; source text.

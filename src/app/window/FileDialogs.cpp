@@ -1,6 +1,7 @@
 #include "app/window/FileDialogs.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 
 namespace thisapp {
@@ -16,6 +17,16 @@ struct Text
 QString allFiles()
 {
     return Text::tr("All files") + QStringLiteral(" (*.*)") + QStringLiteral(" (*)");
+}
+
+/// The path of a chosen file that may come as a URL.
+QString withoutScheme(const QString& path)
+{
+    const QString scheme = QStringLiteral("file:///");
+    if (!path.startsWith(scheme))
+        return path;
+    // Where absolute paths begin with "/", the last one is part of the path.
+    return path.mid(scheme.size() - (QDir::rootPath() == QLatin1String("/") ? 1 : 0));
 }
 
 QString run(QWidget* parent, const QString& title, const QString& current, QFileDialog::AcceptMode mode)
@@ -37,7 +48,7 @@ QString run(QWidget* parent, const QString& title, const QString& current, QFile
 
 QString askFileToOpen(QWidget* parent, const QString& title, const QString& current)
 {
-    return run(parent, title, current, QFileDialog::AcceptOpen);
+    return withoutScheme(run(parent, title, current, QFileDialog::AcceptOpen));
 }
 
 QString askFileToSave(QWidget* parent, const QString& title, const QString& current)

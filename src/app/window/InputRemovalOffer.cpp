@@ -3,6 +3,7 @@
 #include "app/job/InputRemoval.h"
 #include "app/job/JobReport.h"
 #include "app/job/SEncryptData.h"
+#include "app/window/CLookups.h"
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "common/settings/SettingsKeys.h"
@@ -22,9 +23,18 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(InputRemoval)
 };
 
-bool isThere(const std::filesystem::path& path)
+/// What the disk says of both files.
+struct Look
 {
-    return platform::fileStatus(path).exists();
+    bool areBothThere = false;
+    std::optional<KeepReason> reasonToKeep;
+};
+
+Look lookAt(const SEncryptData& ended)
+{
+    const bool areThere = platform::fileStatus(ended.request.output).exists() &&
+                          platform::fileStatus(ended.request.input).exists();
+    return {areThere, reasonToKeepInput(ended)};
 }
 
 bool confirm(QWidget& window, const QString& inputPath)
@@ -40,16 +50,17 @@ bool confirm(QWidget& window, const QString& inputPath)
 
 } // namespace
 
-bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, IMessageAreas& areas)
+bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, CLookups& lookups, IMessageAreas& areas)
 {
-    if (ended.operation != Operation::Encrypt || !ended.outcome.done() || !isThere(ended.request.output) ||
-        !isThere(ended.request.input))
-        return false;
     const CAppSettings settings;
-    if (!readSetting(settings, keys::DeleteSourceFileAfterEncryption))
+    if (ended.operation != Operation::Encrypt || !ended.outcome.done() ||
+        !readSetting(settings, keys::DeleteSourceFileAfterEncryption))
         return false;
-    if (const auto reason = reasonToKeepInput(ended)) {
-        reportInputRemoval({reason, {}}, areas);
+    const auto look = lookups.start<Look>([ended] { return lookAt(ended); });
+    if (!lookups.wait(look) || !look.get().areBothThere)
+        return false;
+    if (const auto reason = look.get().reasonToKeep) {
+        reportInputRemoval({reason, {}}, ended, areas);
         return false;
     }
     return !readSetting(settings, keys::ConfirmDeleteSourceFileAfterEncryption) ||

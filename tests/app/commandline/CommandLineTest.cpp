@@ -20,6 +20,8 @@ constexpr auto Dec = Operation::Decrypt;
 const Case Cases[] = {
     {"nothing", {}, {}},
     {"one existing file is the input", {" here "}, {Enc, false, "here", {}, {}, {}}},
+    {"blanks may belong to a file", {" doc"}, {Enc, false, " doc", {}, {}, {}}},
+    {"of the output, too", {"-ofile", " doc"}, {Enc, false, {}, " doc", {}, {}}},
     {"one other word is nothing", {"there"}, {}},
     {"one option is still an option", {"-start"}, {Enc, true, {}, {}, {}, {}}},
     {"both signs, any case", {"/IFILE", "x", "-DeCrypt"}, {Dec, false, "x", {}, {}, {}}},
@@ -43,14 +45,30 @@ TEST(CommandLineTest, ReadsEveryFormOfTheArguments)
 {
     for (const Case& c : Cases) {
         SCOPED_TRACE(c.name);
-        const CommandLine line =
-            parseCommandLine(c.arguments, c.rule, [](const QString& path) { return path == "here"; });
+        const CommandLine line = parseCommandLine(c.arguments, c.rule, [](const QString& path) {
+            return path == "here" || path == " doc" || path == "doc";
+        });
         EXPECT_EQ(line.operation, c.expected.operation);
         EXPECT_EQ(line.start, c.expected.start);
         EXPECT_EQ(line.input, c.expected.input);
         EXPECT_EQ(line.output, c.expected.output);
         EXPECT_EQ(line.algorithm, c.expected.algorithm);
         EXPECT_EQ(line.library, c.expected.library);
+    }
+}
+
+TEST(CommandLineTest, TakesTheNamesAsAPair)
+{
+    const std::tuple<const char*, const char*, AlgSelection> cases[] = {
+        {"AES-128", "", {1, 250}},       {"aes-128", "crypto++", {1, 250}}, {"AES-128", "nobody's", {1, 250}},
+        {"AES-128", "1", {1, 250}},      {"AES-128", "10", {10, 250}}, // which provides nothing
+        {"no such", "Crypto++", {1, 0}},
+    };
+    for (const auto& [algorithm, library, pair] : cases) {
+        CommandLine line;
+        line.algorithm = algorithm;
+        line.library = library;
+        EXPECT_EQ(namedSelection(line), pair) << algorithm << ' ' << library;
     }
 }
 

@@ -109,6 +109,28 @@ TEST_F(DesktopTest, KeepsQuietWithoutABus)
     }
 }
 
+TEST(DisplayTest, IsThereOnlyWhenAServerAnswersOrNoneIsNeeded)
+{
+    struct
+    {
+        const char *x, *wayland, *platform;
+        bool isThere;
+    } const cases[] = {
+        {nullptr, nullptr, nullptr, false},    {":987", nullptr, nullptr, false},
+        {":987", "nobody", nullptr, false},    {nullptr, "/nonexistent", "wayland", false},
+        {":987", nullptr, "xcb", false},       {":987", nullptr, "offscreen", true},
+        {nullptr, nullptr, "offscreen", true}, {":987", nullptr, "xcb;minimal:x", true},
+        {"nonsense", nullptr, nullptr, false},
+    };
+    for (const auto& c : cases) {
+        const test::Environment x("DISPLAY", c.x);
+        const test::Environment wayland("WAYLAND_DISPLAY", c.wayland);
+        const test::Environment platform("QT_QPA_PLATFORM", c.platform);
+        EXPECT_EQ(thisapp::desktop::isDisplayThere(), c.isThere)
+            << (c.x ? c.x : "") << (c.platform ? c.platform : "");
+    }
+}
+
 } // namespace
 
 #include "DesktopTest.moc"

@@ -21,6 +21,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
     std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
     bool engine = true;
+    bool answers = true;
     std::pair<Area, std::string> message;
     QString dialogTitle;
 
@@ -30,6 +31,10 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     QString outputText() const override { return output; }
     void setInputText(const QString& text) override { input = text; }
     void setOutputText(const QString& text) override { output = text; }
+    std::optional<RequestFacts> look() override
+    {
+        return answers ? std::optional(lookAtRequest(input, output)) : std::nullopt;
+    }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
@@ -91,6 +96,9 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     expectRefusal(Area::Input, pick("File to encrypt is not defined.", "File to decrypt is not defined."));
     EXPECT_EQ(host.dialogTitle, pick("Select file to encrypt", "Select file to decrypt"));
     host.chosenInput = path("missing");
+    host.answers = false;
+    expectRefusal(Area::Input, "The file system does not answer.");
+    host.answers = true;
     expectRefusal(Area::Input, pick("File to encrypt is not found.", "File to decrypt is not found."));
     EXPECT_EQ(host.input, path("missing"));
     host.input = path("");
@@ -102,6 +110,8 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     expectRefusal(Area::Result, "Output file name matches the name of the input file");
     host.output = path("");
     expectRefusal(Area::Result, "The output is not a regular file.");
+    host.output = path("no folder/out");
+    expectRefusal(Area::Result, "The output folder is not found: " + (folder / "no folder"));
     host.output = path("out.txt");
     expectRefusal(Area::Result, "Password not defined");
     host.password = [](PasswordEntry&) { return true; }; // accepted, but empty
@@ -133,6 +143,34 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_TRUE(request->rewriteOutput);
     EXPECT_EQ(request->request.existing, crypto::ExistingOutput::RemoveFirst);
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
+}
+
+/// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one.
+TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)
+{
+    host.password = [](PasswordEntry& entry) {
+        entry.rewriteOutput = true;
+        entry.password = SecretText("secret");
+        return true;
+    };
+    folder.write("in.txt ", "input");
+    folder.write("out.txt ", "former output");
+    struct
+    {
+        const char *inputText, *outputText, *input, *output;
+    } const cases[] = {
+        {"in.txt ", "out.txt ", "in.txt ", "out.txt "},
+        {"in.txt  ", "out.txt  ", "in.txt", "out.txt"},
+        {"in.txt", "new ", "in.txt", "new"},
+    };
+    for (const auto& c : cases) {
+        host.input = path(c.inputText);
+        host.output = path(c.outputText);
+        const auto data = JobRequest(GetParam(), host, host).run();
+        ASSERT_TRUE(data) << host.message.second;
+        EXPECT_EQ(data->request.input, folder.at(c.input));
+        EXPECT_EQ(data->request.output, folder.at(c.output));
+    }
 }
 
 TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)

@@ -9,7 +9,11 @@
 #include <QMimeData>
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
 #include <filesystem>
+#include <thread>
+#include <tuple>
 
 using namespace thisapp;
 using test::WindowHarness;
@@ -147,6 +151,28 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     EXPECT_EQ(w.progress().notice(), "");
 }
 
+TEST_F(MainWindowTest, NamesTheFilesOfTheJobWhateverTheFieldsHold)
+{
+    startLongJob();
+    w.writeInput("other", 10);
+    w.window->processCommandLine({w.path("other")});
+    QTest::keyClick(w.window.get(), Qt::Key_F8);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.input().text(), w.path("other"));
+    EXPECT_EQ(w.result(), "File encryption was canceled");
+    EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
+    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
+    EXPECT_EQ(w.detail("outputMessage"), folder() / "out");
+    w.output().setText(w.path("out"));
+    EXPECT_EQ(w.detail("outputMessage"), "") << "the field says it";
+
+    folder().write("plain", "no encrypted file, but long enough to hold the header of one, as it may be");
+    run(Qt::Key_F6, w.path("plain"), w.path("back"));
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "Failed to decrypt file. Corrupted data (error: 5/4003)");
+    EXPECT_EQ(w.detail("resultMessage"), "The file " + (folder() / "plain") + " could not be processed.");
+}
+
 TEST_F(MainWindowTest, ClosingEndsTheJobWithoutAPartialOutput)
 {
     startLongJob();
@@ -270,7 +296,11 @@ TEST_F(MainWindowTest, OpensOnlyFoldersThatExist)
     w.output().setText("/out");
     press(Qt::Key_F9);
     press(Qt::Key_F10);
-    const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///")};
+    fs::create_directory(folder() / "sub");
+    w.input().setText(" " + w.path("sub/none"));
+    press(Qt::Key_F9);
+    const QList<QUrl> expected{QUrl("file://" + w.path("").chopped(1)), QUrl("file:///"),
+                               QUrl("file://" + w.path("sub"))};
     EXPECT_EQ(opened.urls, expected);
 }
 
@@ -288,21 +318,100 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
     };
     QMimeData words;
     words.setText("words");
-    QMimeData files;
-    files.setUrls(
-        {QUrl("https://example.org/x"), QUrl::fromLocalFile(w.path("in")), QUrl::fromLocalFile("/y")});
     for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input(), &w.output()})
         EXPECT_FALSE(drop(*target, words));
-    for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
+
+    fs::create_directory(folder() / "sub");
+    folder().write("n\xff", "");
+    folder().write("in ", "");
+    const QString base = "file://" + w.path("");
+    const std::tuple<QStringList, QString, const char*> cases[] = {
+        {{base + "in"}, "in", ""},
+        {{"https://example.org/x", base + "in", "file:///y"},
+         "in",
+         "Only the first of the dropped files was taken."},
+        {{"file://LocalHost" + w.path("in")}, "in", ""},
+        {{base + "n%FF"}, QString("n") + QChar(0xdcff), ""},
+        {{base + "in%20"}, "in ", ""}, // while there is an "in", too
+        {{base + "missing"}, "missing", "The dropped file is not found."},
+        {{base + "sub"},
+         "sub",
+         "Only a single file can be encrypted or decrypted, not a folder or a device."},
+        {{"file://elsewhere/in"}, "", "Only a file on this computer can be dropped here."},
+        {{"https://example.org/x"}, "", "Only a file on this computer can be dropped here."},
+    };
+    for (const auto& [urls, name, message] : cases) {
+        SCOPED_TRACE(urls.join(' ').toStdString());
+        QMimeData files;
+        files.setUrls(QUrl::fromStringList(urls));
+        const QString path = name.isEmpty() ? QString() : w.path("") + name;
+        const bool usable = QString(message).startsWith("Only the first") || QString(message).isEmpty();
+        for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
+            QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+            EXPECT_TRUE(drop(*target, files));
+            EXPECT_EQ(w.input().text(), path);
+            EXPECT_EQ(w.output().text(), usable ? path + ".enc" : "");
+            EXPECT_EQ(w.text("inputMessage"), message);
+        }
         QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
-        EXPECT_TRUE(drop(*target, files));
-        EXPECT_EQ(w.input().text(), w.path("in"));
-        EXPECT_EQ(w.output().text(), w.path("in.enc"));
+        EXPECT_TRUE(drop(w.output(), files));
+        EXPECT_EQ(w.input().text(), "");
+        EXPECT_EQ(w.output().text(), path);
     }
-    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
-    EXPECT_TRUE(drop(w.output(), files));
-    EXPECT_EQ(w.input().text(), "");
-    EXPECT_EQ(w.output().text(), w.path("in"));
+}
+
+/// A program that hands files over as a move deletes them afterwards.
+TEST_F(MainWindowTest, LeavesDraggedFilesWithTheirOwner)
+{
+    QMimeData files;
+    files.setUrls({QUrl("file:///x")});
+    for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()})
+        for (const auto possible : {Qt::MoveAction | Qt::CopyAction, Qt::DropActions(Qt::MoveAction)}) {
+            QDragEnterEvent enter({}, possible, &files, Qt::LeftButton, Qt::ShiftModifier);
+            QApplication::sendEvent(target, &enter);
+            EXPECT_TRUE(enter.isAccepted());
+            QDragMoveEvent move({}, possible, &files, Qt::LeftButton, Qt::ShiftModifier);
+            QApplication::sendEvent(target, &move);
+            EXPECT_EQ(move.isAccepted(), possible.testFlag(Qt::CopyAction));
+            EXPECT_TRUE(!move.isAccepted() || move.dropAction() == Qt::CopyAction);
+        }
+}
+
+/// On a slow mount: the longer the name, the faster the answer, so that the newest comes first.
+TEST(SlowFileSystemTest, IsLookedAtOnceForEachChangeWithoutStalling)
+{
+    CAppSettings().clear();
+    std::atomic<int> looks = 0;
+    WindowHarness w([&looks](const QString& text, const NamingSettings& naming) {
+        ++looks;
+        std::this_thread::sleep_for(std::chrono::milliseconds(text.endsWith("abc") ? 200 : 400));
+        return lookAtInput(text, naming);
+    });
+    for (const char* name : {"a", "ab", "abc"})
+        w.folder.write(name, "");
+    w.input().setText(w.path(""));
+    QCoreApplication::processEvents();
+    looks = 0;
+    QElapsedTimer clock;
+    clock.start();
+    for (const char letter : {'a', 'b', 'c'}) {
+        QTest::keyClick(&w.input(), letter);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_LT(clock.elapsed(), 150);
+    ASSERT_TRUE(QTest::qWaitFor([&w] { return !w.output().text().isEmpty(); }));
+    EXPECT_EQ(w.output().text(), w.path("abc.enc"));
+    QTest::qWait(400); // the answers that nobody wants any more
+    EXPECT_EQ(w.output().text(), w.path("abc.enc"));
+    EXPECT_EQ(looks, 3);
+
+    // A command that can't do without the answer waits for it; an output given meanwhile stays.
+    w.window->processCommandLine({"-ifile", w.path("ab"), "-ofile", w.path("mine")});
+    w.answerPassword("");
+    QTest::keyClick(w.window.get(), Qt::Key_F5);
+    EXPECT_EQ(w.result(), "Password not defined");
+    EXPECT_EQ(w.output().text(), w.path("mine"));
+    EXPECT_EQ(looks, 4);
 }
 
 TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
@@ -321,6 +430,7 @@ TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
     EXPECT_EQ(w.result(), "File was encrypted successfully");
     EXPECT_TRUE(fs::exists(folder() / "out"));
 
+    w.window->processCommandLine({"-algorithm", "AES-256", "-library", "10"});
     w.window->processCommandLine({"-algorithm", "no such", "-ifile", w.path("missing")});
     EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "AES-128");
     EXPECT_EQ(w.output().text(), w.path("out")) << "no proposal for what isn't there";

@@ -52,13 +52,13 @@ class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisap
 public:
     static constexpr int JobTimeoutMs = 60'000;
 
-    WindowHarness()
+    explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput)
         : translations(folder.wide("translations"), "Quillet"),
           translator(translations.bundle()),
           logging(folder / "quillet.log"),
           options({algorithms, translations, translator, logging, [](bool, bool) {}}),
-          window(std::make_unique<CMainWindow>(
-              thisapp::WindowServices{encryptors, decryptors, algorithms, options, *this, *this}))
+          window(std::make_unique<CMainWindow>(thisapp::WindowServices{
+              encryptors, decryptors, algorithms, options, *this, *this, std::move(look)}))
     {
         window->show();
     }
@@ -69,6 +69,10 @@ public:
     std::string text(const char* line)
     {
         return window->findChild<CMessageLine*>(line)->text().toStdString();
+    }
+    std::string detail(const char* line)
+    {
+        return window->findChild<CMessageLine*>(line)->detail().toStdString();
     }
     std::string result() { return text("resultMessage"); }
     CProgressBarFrame& progress() { return *window->findChild<CProgressBarFrame*>(); }

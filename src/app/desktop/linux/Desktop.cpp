@@ -1,8 +1,12 @@
 #include "app/desktop/Desktop.h"
 
 #include "app/desktop/linux/BusNotifier.h"
+#include "app/desktop/linux/DisplayServers.h"
 #include "app/desktop/linux/LauncherProgress.h"
 #include "app/desktop/linux/SessionBus.h"
+
+#include <QByteArray>
+#include <QList>
 
 #include <algorithm>
 
@@ -10,8 +14,15 @@ namespace thisapp::desktop {
 
 bool isDisplayThere()
 {
-    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
-    return std::ranges::any_of(std::initializer_list{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}, isSet);
+    const QByteArray platforms = qgetenv("QT_QPA_PLATFORM");
+    if (platforms.isEmpty())
+        return reachesX() || reachesWayland();
+    // A list of "name:arguments"; the first one that works is used.
+    return std::ranges::any_of(platforms.split(';'), [](const QByteArray& platform) {
+        return platform.startsWith("xcb")       ? reachesX()
+               : platform.startsWith("wayland") ? reachesWayland()
+                                                : true;
+    });
 }
 
 struct Desktop::Services

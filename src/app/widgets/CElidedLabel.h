@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLabel>
+
+/// One line of plain text that is cut in the middle rather than keep the window wide. The tool tip has
+/// the whole.
+class CElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit CElidedLabel(QWidget* parent = nullptr);
+
+    void setWholeText(const QString& text);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void refresh();
+
+    QString m_whole;
+};

@@ -1,0 +1,74 @@
+#include "app/window/DroppedFile.h"
+
+#include "common/path/PathText.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStringList>
+#include <QSysInfo>
+
+namespace thisapp {
+
+using namespace tessaly;
+
+namespace {
+
+bool isHere(const QUrl& url)
+{
+    const QString host = url.host();
+    return url.isLocalFile() && (host.isEmpty() || host.compare("localhost", Qt::CaseInsensitive) == 0 ||
+                                 host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
+}
+
+/// Unlike QUrl's own answer, with every byte of a name that is not UTF-8.
+QString pathOf(const QUrl& url)
+{
+    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
+    return QDir::toNativeSeparators(pathText(QByteArray::fromPercentEncoding(encoded).toStdString()));
+}
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(DroppedFile)
+};
+
+QString problemText(const DroppedFile& drop, io::InputCheck check)
+{
+    if (drop.path.isEmpty())
+        return Text::tr("Only a file on this computer can be dropped here.");
+    switch (check) {
+    case io::InputCheck::Usable:
+        break;
+    case io::InputCheck::NotFound:
+        return Text::tr("The dropped file is not found.");
+    case io::InputCheck::NotRegular:
+        return Text::tr("Only a single file can be encrypted or decrypted, not a folder or a device.");
+    }
+    return {};
+}
+
+} // namespace
+
+DroppedFile firstDroppedFile(const QList<QUrl>& urls)
+{
+    for (const QUrl& url : urls)
+        if (isHere(url))
+            return {pathOf(url), urls.size() > 1};
+    return {};
+}
+
+Message dropMessage(const DroppedFile& drop, io::InputCheck check)
+{
+    const bool isFine = !drop.path.isEmpty() && !drop.othersLeft && check == io::InputCheck::Usable;
+    if (isFine)
+        return {};
+    return {MessageKind::Warning, [drop, check] {
+                QStringList sentences{problemText(drop, check)};
+                if (drop.othersLeft)
+                    sentences += Text::tr("Only the first of the dropped files was taken.");
+                sentences.removeAll(QString());
+                return sentences.join(' ');
+            }};
+}
+
+} // namespace thisapp

@@ -1,0 +1,91 @@
+#include "app/window/FieldCommands.h"
+
+#include "app/window/CInputField.h"
+#include "app/window/CJobFrame.h"
+#include "app/window/CLookups.h"
+#include "app/window/FileDialogs.h"
+#include "app/window/FolderOpener.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <utility>
+
+namespace thisapp {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(CMainWindow)
+};
+
+} // namespace
+
+FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CLookups& lookups)
+    : m_form(form), m_input(input), m_lookups(lookups)
+{
+}
+
+void FieldCommands::onUiAddFileItem()
+{
+    const QString chosen =
+        askFileToOpen(m_form.window(), Text::tr("Add file to encrypt/decrypt"), m_form.inputText());
+    if (!chosen.isEmpty())
+        m_input.set(QDir::toNativeSeparators(chosen));
+}
+
+void FieldCommands::onUiBrowseOutput()
+{
+    const QString near = m_form.outputText().isEmpty() ? m_form.inputText() : m_form.outputText();
+    const QString chosen = askFileToSave(m_form.window(), Text::tr("Define output file"), near);
+    if (!chosen.isEmpty())
+        m_form.setOutputText(QDir::toNativeSeparators(chosen));
+}
+
+void FieldCommands::onUiOpenInputFolderItem()
+{
+    openFolderOf(m_form.inputText());
+}
+
+void FieldCommands::onUiOpenOutputFolderItem()
+{
+    openFolderOf(m_form.outputText());
+}
+
+void FieldCommands::openFolderOf(const QString& text)
+{
+    const auto folder = m_lookups.start<QUrl>([text] { return folderOf(text); });
+    if (m_lookups.wait(folder))
+        openFolder(folder.get());
+}
+
+void FieldCommands::takeDrop(int widgetId, const QList<QUrl>& urls)
+{
+    const DroppedFile drop = firstDroppedFile(urls);
+    const bool onOutput = widgetId == DropOnOutput;
+    if (drop.path.isEmpty() || onOutput)
+        m_form.showMessage(onOutput ? Area::Output : Area::Input, dropMessage(drop));
+    if (drop.path.isEmpty())
+        return;
+    if (onOutput) {
+        m_form.setOutputText(drop.path);
+    } else {
+        m_drop = drop;
+        m_input.set(drop.path);
+    }
+}
+
+void FieldCommands::showFacts()
+{
+    const InputFacts& facts = m_input.facts();
+    const auto drop = std::exchange(m_drop, {});
+    if (drop && drop->path.trimmed() == facts.path.trimmed())
+        m_form.showMessage(Area::Input, dropMessage(*drop, facts.check));
+    if (facts.isUsable())
+        m_form.showFile(facts.path, facts.size);
+    else
+        m_form.showNoFile();
+}
+
+} // namespace thisapp

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/window/DroppedFile.h"
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+class CInputField;
+class CJobFrame;
+class CLookups;
+
+namespace thisapp {
+
+/// The commands of the main window that fill the two fields, or show where their files are.
+class FieldCommands
+{
+public:
+    /// All must outlive the object.
+    FieldCommands(CJobFrame& form, CInputField& input, CLookups& lookups);
+
+    void onUiAddFileItem();
+    void onUiBrowseOutput();
+    void onUiOpenInputFolderItem();
+    void onUiOpenOutputFolderItem();
+    /// The window's part of a drop on the widget of that id.
+    void takeDrop(int widgetId, const QList<QUrl>& urls);
+    /// To be called when there are new facts about the input.
+    void showFacts();
+
+private:
+    void openFolderOf(const QString& text);
+
+    CJobFrame& m_form;
+    CInputField& m_input;
+    CLookups& m_lookups;
+    std::optional<DroppedFile> m_drop; ///< whose file is still looked at
+};
+
+} // namespace thisapp
