@@ -74,7 +74,7 @@ QString outputFolder(const QFileInfo& input, const NamingSettings& settings, con
 
 bool makeFolder(const QString& path)
 {
-    return tessaly::platform::createFolders(nativePath(path)).ok();
+    return tessaly::platform::createFolders(textPath(path).string()).ok();
 }
 
 NamingDirection namingDirection(const QString& fileName, const NamingSettings& settings)
