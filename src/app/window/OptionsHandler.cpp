@@ -29,11 +29,6 @@ bool isKnownAlgorithm(std::uint32_t id)
 
 constexpr const char* Source = "mainwindow";
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("OptionsHandler", text);
-}
-
 /// "/folder/quillet_de.ts:12: (error: 5/47)".
 QString fault(const i18n::LoadResult& result)
 {

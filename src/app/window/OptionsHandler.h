@@ -6,6 +6,7 @@
 #include "lib/i18n/locale/Language.h"
 #include "lib/i18n/resource/TranslationFile.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
@@ -38,6 +39,8 @@ struct OptionsTargets
 /// Reads the options for their dialog and makes changed ones take effect. GUI thread.
 class OptionsHandler
 {
+    Q_DECLARE_TR_FUNCTIONS(OptionsHandler)
+
 public:
     explicit OptionsHandler(OptionsTargets targets);
 

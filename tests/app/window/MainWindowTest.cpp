@@ -457,8 +457,8 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
         const char* message;
     } const cases[] = {
         {1031, 1031, "Kein Passwort"},
-        {1036, 1031, "Kein Passwort"}, // without a translation all stays as it is
-        {1033, 1033, "Password not defined"},
+        {1036, 1031, "There is no translation for the chosen language."}, // all stays as it is
+        {1033, 1033, ""},
     };
     for (const auto& c : cases) {
         options.localeId = c.wanted;
