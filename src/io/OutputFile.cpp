@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 
 /// Begins every hidden name of ours, and nobody else's.
 constexpr const char* HiddenPrefix = ".quillet-partial-";
+/// In bytes. Below it a full disk is told soon enough.
+constexpr std::int64_t WorthReserving = 1 << 17;
 /// Names are tried until one is free; in practice the first is.
 constexpr int NameAttempts = 8;
 
@@ -59,37 +61,44 @@ OutputFile::~OutputFile()
     static_cast<void>(discard());
 }
 
-ResultCode OutputFile::open(std::shared_ptr<const FilePlace> place, const platform::Access& access)
+ResultCode OutputFile::open(std::shared_ptr<const FilePlace> place, const platform::Access& access,
+                            std::int64_t expectedSize)
 {
     m_place = std::move(place);
-    if (m_kind == Kind::Hidden)
-        return createHidden(access);
     platform::File file;
-    ResultCode created = m_place->folder().createNameless(access, file);
-    if (platform::isUnsupported(created))
-        return createHidden(access);
-    if (created.ok())
-        created = file.status(m_status);
-    return created.ok() ? m_stream.open(std::move(file)) : created;
+    ResultCode result = create(access, file);
+    if (result.ok() && expectedSize >= WorthReserving)
+        result = file.reserve(expectedSize);
+    if (result.ok())
+        return m_stream.open(std::move(file));
+    static_cast<void>(discard());
+    return result;
 }
 
-ResultCode OutputFile::createHidden(const platform::Access& access)
+ResultCode OutputFile::create(const platform::Access& access, platform::File& file)
+{
+    if (m_kind == Kind::Hidden)
+        return createHidden(access, file);
+    const ResultCode created = m_place->folder().createNameless(access, file);
+    if (platform::isUnsupported(created))
+        return createHidden(access, file);
+    return created.ok() ? file.status(m_status) : created;
+}
+
+ResultCode OutputFile::createHidden(const platform::Access& access, platform::File& file)
 {
     removeForsaken(m_place->folder());
     for (int attempt = 0; attempt < NameAttempts; ++attempt) {
-        platform::File file;
         setHiddenName(randomHiddenName());
         ResultCode result = m_place->folder().createNew(m_hiddenName, access, file);
         if (result.ok())
             result = file.status(m_status);
-        if (!result.ok()) {
-            static_cast<void>(discard());
+        if (!result.ok())
             return result;
-        }
         // Before the lock somebody may have taken the file for a forsaken one.
         const bool locked = !platform::isLocked(file.tryLock(platform::Lock::Exclusive));
         if (locked && m_place->folder().status(m_hiddenName).sameFile(m_status))
-            return m_stream.open(std::move(file));
+            return {};
     }
     return err::library(err::OpenFileFailed);
 }

@@ -33,8 +33,9 @@ public:
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
-    /// The place is an open one. Errors are the system's.
-    ResultCode open(std::shared_ptr<const FilePlace> place, const platform::Access& access);
+    /// The place is an open one. Errors are the system's, a lack of room for that many bytes among them.
+    ResultCode open(std::shared_ptr<const FilePlace> place, const platform::Access& access,
+                    std::int64_t expectedSize = 0);
 
     [[nodiscard]] std::int64_t write(const void* buffer, std::int64_t count) override;
     ResultCode lastError() const override { return m_stream.lastError(); }
@@ -58,7 +59,8 @@ public:
     static void removeHiddenNames();
 
 private:
-    ResultCode createHidden(const platform::Access& access);
+    ResultCode create(const platform::Access& access, platform::File& file);
+    ResultCode createHidden(const platform::Access& access, platform::File& file);
     ResultCode publish(Existing existing);
     ResultCode publishNew();
     ResultCode takePlaceOfFormer(const ResultCode& occupied);

@@ -83,6 +83,7 @@ FORWARD(int, renameat, (int from, const char* source, int to, const char* target
 FORWARD(int, renameat2, (int from, const char* source, int to, const char* target, unsigned flags),
         (from, source, to, target, flags))
 FORWARD(int, unlinkat, (int folder, const char* name, int flags), (folder, name, flags))
+FORWARD(int, fallocate, (int fd, int mode, off_t offset, off_t length), (fd, mode, offset, length))
 FORWARD(int, flock, (int fd, int operation), (fd, operation))
 
 extern "C" int open(const char* path, int flags, ...)

@@ -24,6 +24,7 @@ CALLS = {
     "lseek": {errno.EIO: {FAILED}},
     "linkat": {errno.EIO: {FAILED}, errno.ENOSPC: {FAILED}, errno.EINTR: {OK}},
     "renameat": {errno.EIO: {FAILED}},
+    "fallocate": {errno.ENOSPC: {FAILED}, errno.EOPNOTSUPP: {OK}, errno.EINTR: {OK}},
     "flock": {errno.ENOLCK: {OK}},
     "close": {errno.EIO: {OK, FAILED}},
     "pthread_create": {errno.EAGAIN: {OK, FAILED}},

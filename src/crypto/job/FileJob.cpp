@@ -1,10 +1,12 @@
 #include "crypto/job/FileJob.h"
 
 #include "crypto/Guard.h"
+#include "crypto/format/FileHeader.h"
 #include "io/IStreamFile.h"
 #include "io/OutputFile.h"
 #include "lib/err/ErrorCodes.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tessaly::crypto {
@@ -68,6 +70,18 @@ Access accessOf(const ISymmetricDecryptor&, const platform::FileStatus&)
     return Access::ownerOnly();
 }
 
+/// Of the output in bytes; that of a decryption stands in the header, which is yet to be read.
+std::int64_t expectedSize(const ISymmetricEncryptor& encryptor, std::int64_t inputSize)
+{
+    return static_cast<std::int64_t>(
+        encryptedSize(static_cast<std::uint64_t>(inputSize), encryptor.blockLength()));
+}
+
+std::int64_t expectedSize(const ISymmetricDecryptor&, std::int64_t inputSize)
+{
+    return std::max<std::int64_t>(inputSize - static_cast<std::int64_t>(HeaderSize), 0);
+}
+
 /// One job on its way through its steps; each notes itself in the outcome before it begins.
 template <class Cipher>
 class Run
@@ -126,7 +140,8 @@ private:
         const auto place = std::make_shared<io::FilePlace>();
         ResultCode result = place->open(m_request.output);
         if (result.ok())
-            result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status));
+            result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status),
+                                expectedSize(m_cipher, m_in.size()));
         m_outcome.output = {place, m_out.status()};
         return result.ok() ? CryptoResult() : CryptoResult(err::WriteStreamFailed, result);
     }

@@ -82,6 +82,9 @@ public:
     /// One write; may write less than asked, but on success never nothing.
     ResultCode write(const void* buffer, std::size_t count, std::size_t& countWritten) const;
     ResultCode seekToEnd() const;
+    /// Sets room for `size` bytes aside; the size of the file stays. Fails only when there is no such
+    /// room: a file system that cannot do it takes the bytes as they come.
+    ResultCode reserve(std::int64_t size) const;
     /// Asks the system to begin writing to the disk what it holds of these bytes; does not wait.
     void startWriteback(std::int64_t offset, std::int64_t count) const;
     /// Returns when data and size have reached the disk.

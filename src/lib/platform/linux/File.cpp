@@ -148,6 +148,15 @@ ResultCode File::seekToEnd() const
     return outcome(::lseek(m_handle, 0, SEEK_END) >= 0);
 }
 
+ResultCode File::reserve(std::int64_t size) const
+{
+    const ResultCode result =
+        outcome(uninterrupted([&] { return ::fallocate(m_handle, FALLOC_FL_KEEP_SIZE, 0, size); }) == 0);
+    const bool noRoom =
+        result == err::system(ENOSPC) || result == err::system(EDQUOT) || result == err::system(EFBIG);
+    return noRoom ? result : ResultCode{};
+}
+
 void File::startWriteback(std::int64_t offset, std::int64_t count) const
 {
     (void)::sync_file_range(m_handle, offset, count, SYNC_FILE_RANGE_WRITE);
