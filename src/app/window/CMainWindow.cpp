@@ -111,11 +111,6 @@ SAppliedOptions CMainWindow::appOptionsChanged(const SAppOptions& options)
     SAppliedOptions applied = m_services.options.apply(
         options, [this](const AlgSelection& selection) { m_form->algFrame().setSelection(selection); });
     refresh();
-    const QString former = std::exchange(m_optionsProblem, applied.problem);
-    if (!applied.problem.isEmpty())
-        m_form->showMessage(Area::Result, {MessageKind::Warning, [text = applied.problem] { return text; }});
-    else if (!former.isEmpty() && m_form->resultText() == former)
-        m_form->showMessage(Area::Result, {});
     return applied;
 }
 

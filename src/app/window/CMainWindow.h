@@ -88,7 +88,6 @@ private:
     void setTitle();
 
     const thisapp::WindowServices m_services;
-    QString m_optionsProblem; ///< what was last told of the options
     CMsgDispatcher m_dispatcher;
     CJobFrame* m_form;
     CLookups m_lookups;

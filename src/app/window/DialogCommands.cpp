@@ -31,9 +31,15 @@ void DialogCommands::onUiOptionsItem()
     dialog.setLogFilePath(m_options.logFilePath());
     dialog.setReceiver(&m_receiver);
     dialog.setOptions(m_options.read());
-    dialog.setProblem(m_options.problem());
-    if (dialog.exec() == QDialog::Accepted)
-        m_receiver.appOptionsChanged(dialog.options());
+    QString told = m_options.problem();
+    dialog.setProblem(told);
+    while (dialog.exec() == QDialog::Accepted) {
+        const SAppliedOptions applied = m_receiver.appOptionsChanged(dialog.options());
+        if (applied.problem.isEmpty() || applied.problem == told)
+            return;
+        told = applied.problem;
+        dialog.setApplied(applied); // it comes back and tells of the problem
+    }
 }
 
 void DialogCommands::onUiDefaultAlgorithmItem()

@@ -109,18 +109,20 @@ void COptionsDialog::onUiApply()
     using thisapp::MessageKind;
     if (!takeOver())
         return;
-    m_problem.clear();
-    if (m_receiver != nullptr) {
-        const thisapp::SAppliedOptions applied = m_receiver->appOptionsChanged(m_options);
-        m_options.localeId = applied.localeId;
-        m_problem = applied.problem;
-    }
+    if (m_receiver != nullptr)
+        setApplied(m_receiver->appOptionsChanged(m_options));
     m_ui->frameGeneral->setOutputDir(m_options.outputDirPath);
     m_ui->frameGeneral->setLanguage(m_options.localeId);
     if (m_problem.isEmpty())
         m_ui->lineEditMsg->showMessage(tr("The options were applied."), MessageKind::Success);
     else
         m_ui->lineEditMsg->showMessage(m_problem, MessageKind::Warning);
+}
+
+void COptionsDialog::setApplied(const thisapp::SAppliedOptions& applied)
+{
+    m_options.localeId = applied.localeId;
+    m_problem = applied.problem;
 }
 
 /// False when the values cannot be taken, and the line says why.

@@ -11,6 +11,7 @@
 
 namespace thisapp {
 class IAppOptionsChanged;
+struct SAppliedOptions;
 class ICryptoAlgProvider;
 struct NamingSettings;
 } // namespace thisapp
@@ -42,6 +43,8 @@ public:
     void setOptions(const thisapp::SAppOptions& options) { m_options = options; }
     /// A sentence that the dialog opens with: what of the options is not in effect. May be empty.
     void setProblem(const QString& problem) { m_problem = problem; }
+    /// What came of the options that the dialog returned, for the next time it opens.
+    void setApplied(const thisapp::SAppliedOptions& applied);
     /// What OK or Apply took over last; what was set as long as neither did.
     const thisapp::SAppOptions& options() const { return m_options; }
 

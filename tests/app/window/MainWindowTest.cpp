@@ -1,7 +1,9 @@
 #include "window/WindowHarness.h"
 
 #include "common/settings/CAppSettings.h"
+#include "support/Environment.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/options/COptionsDialog.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
@@ -457,8 +459,8 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
         const char* message;
     } const cases[] = {
         {1031, 1031, "Kein Passwort"},
-        {1036, 1031, "There is no translation for the chosen language."}, // all stays as it is
-        {1033, 1033, ""},
+        {1036, 1031, "Kein Passwort"}, // without a translation all stays as it is
+        {1033, 1033, "Password not defined"},
     };
     for (const auto& c : cases) {
         options.localeId = c.wanted;
@@ -467,6 +469,26 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
         EXPECT_EQ(w.result(), c.message);
         EXPECT_EQ(w.options.read().localeId, c.stored);
     }
+}
+
+TEST_F(MainWindowTest, OptionsThatCannotBeSavedComeBackWithTheReason)
+{
+    folder().write("file", "");
+    const test::Environment nowhere("XDG_CONFIG_HOME", (folder() / "file").c_str());
+    QStringList messages;
+    w.onDialog<COptionsDialog>([&](COptionsDialog& dialog) {
+        const auto* message = dialog.findChild<QLineEdit*>("lineEditMsg");
+        messages += message->text();
+        w.onDialog<COptionsDialog>([&messages, message](COptionsDialog& again) {
+            messages += message->text();
+            again.onUiCancel();
+        });
+        dialog.onUiOk();
+    });
+    w.window->findChild<QAction*>("options")->trigger();
+    ASSERT_EQ(messages.size(), 2);
+    EXPECT_EQ(messages[0], "");
+    EXPECT_TRUE(messages[1].startsWith("The options can't be saved in ")) << messages[1].toStdString();
 }
 
 } // namespace
