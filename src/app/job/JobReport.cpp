@@ -36,7 +36,7 @@ void reportRemovedOutput(const SEncryptData& data, IMessageAreas& areas)
 std::function<QString()> filesOf(const SEncryptData& data)
 {
     return [input = pathText(data.request.input.filename()), output = pathText(data.request.output)] {
-        return input + QStringLiteral(" \u2192 ") + output;
+        return input + nameArrow() + output;
     };
 }
 

@@ -24,6 +24,12 @@ struct Message
     QString now() const { return text ? text() : QString(); }
 };
 
+/// Stands between the names of two files in a detail.
+inline QString nameArrow()
+{
+    return QStringLiteral(" \u2192 ");
+}
+
 /// Where the window shows a message.
 enum class Area {
     Progress, ///< the text under the progress bar

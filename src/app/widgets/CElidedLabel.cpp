@@ -1,8 +1,10 @@
 #include "app/widgets/CElidedLabel.h"
 
+#include "app/job/Message.h"
 #include "ui/style/PlainToolTip.h"
 
 #include <QEvent>
+#include <QStringList>
 
 CElidedLabel::CElidedLabel(QWidget* parent) : QLabel(parent)
 {
@@ -31,6 +33,13 @@ void CElidedLabel::changeEvent(QEvent* event)
 
 void CElidedLabel::refresh()
 {
-    setText(fontMetrics().elidedText(m_whole, Qt::ElideMiddle, width()));
+    const QFontMetrics metrics = fontMetrics();
+    QStringList parts = m_whole.split(thisapp::nameArrow());
+    if (metrics.horizontalAdvance(m_whole) > width())
+        for (QString& part : parts) {
+            const int room = width() - metrics.horizontalAdvance(thisapp::nameArrow()) * (parts.size() - 1);
+            part = metrics.elidedText(part, Qt::ElideMiddle, room / parts.size());
+        }
+    setText(parts.join(thisapp::nameArrow()));
     thisapp::setPlainToolTip(*this, m_whole);
 }

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// One line of plain text that is cut in the middle rather than keep the window wide. The tool tip has
-/// the whole.
+/// One line of plain text that is cut in the middle rather than keep the window wide; of two names with
+/// an arrow between them, each is. The tool tip has the whole.
 class CElidedLabel : public QLabel
 {
     Q_OBJECT
