@@ -1,8 +1,8 @@
 #include "app/window/CInputField.h"
 
 #include "app/window/CJobFrame.h"
-#include "app/window/CLookups.h"
 #include "common/settings/CAppSettings.h"
+#include "ui/disk/CDiskWork.h"
 
 #include <QTimer>
 
@@ -11,12 +11,12 @@
 
 using namespace thisapp;
 
-CInputField::CInputField(CJobFrame& form, CLookups& lookups, InputLook look)
-    : m_form(form), m_lookups(lookups), m_look(std::move(look))
+CInputField::CInputField(CJobFrame& form, CDiskWork& disk, InputLook look)
+    : m_form(form), m_disk(disk), m_look(std::move(look))
 {
     connect(&m_form, &CJobFrame::notifyInputEdited, this, &CInputField::onUiEdited);
     connect(&m_form, &CJobFrame::notifyInputChanged, this, &CInputField::onUiTextChanged);
-    connect(&m_lookups, &CLookups::notifyAnswered, this, &CInputField::onUiLooked);
+    connect(&m_disk, &CDiskWork::notifyAnswered, this, &CInputField::onUiLooked);
 }
 
 void CInputField::set(const QString& text, Proposal proposal)
@@ -24,22 +24,22 @@ void CInputField::set(const QString& text, Proposal proposal)
     m_form.setInputText(text);
     schedule(proposal);
     look();
-    if (CLookups::waitBriefly(m_pending))
+    if (CDiskWork::waitBriefly(m_pending))
         take();
 }
 
 bool CInputField::settle()
 {
     look();
-    if (const auto pending = m_pending; pending.valid() && m_lookups.wait(pending))
+    if (const auto pending = m_pending; pending.valid() && m_disk.wait(pending))
         onUiLooked(); // unless the wait has brought it
     return !m_pending.valid();
 }
 
 bool CInputField::isFile(const QString& path)
 {
-    const auto facts = m_lookups.start<InputFacts>([look = m_look, path] { return look(path, {}); });
-    return m_lookups.wait(facts) && facts.get().isUsable() && facts.get().path == path;
+    const auto facts = m_disk.start<InputFacts>([look = m_look, path] { return look(path, {}); });
+    return m_disk.wait(facts) && facts.get().isUsable() && facts.get().path == path;
 }
 
 void CInputField::onUiEdited()
@@ -72,7 +72,7 @@ void CInputField::look()
     if (!std::exchange(m_isStale, false))
         return;
     m_outputBefore = m_form.outputText();
-    m_pending = m_lookups.start<InputFacts>(
+    m_pending = m_disk.start<InputFacts>(
         [look = m_look, text = m_form.inputText(), naming = readNamingSettings(CAppSettings())] {
             return look(text, naming);
         });

@@ -9,7 +9,7 @@
 #include <optional>
 
 class CJobFrame;
-class CLookups;
+class CDiskWork;
 
 /// The window's input field, and what is known of the file that it names. Each change is looked at
 /// once, on a thread of its own; the newest look counts, when it has come. GUI thread.
@@ -19,7 +19,7 @@ class CInputField final : public QObject
 
 public:
     /// Both must outlive the field.
-    CInputField(CJobFrame& form, CLookups& lookups, thisapp::InputLook look);
+    CInputField(CJobFrame& form, CDiskWork& disk, thisapp::InputLook look);
 
     /// What becomes of the output field when the input is a usable file.
     enum class Proposal {
@@ -55,7 +55,7 @@ private:
     void propose();
 
     CJobFrame& m_form;
-    CLookups& m_lookups;
+    CDiskWork& m_disk;
     const thisapp::InputLook m_look;
     thisapp::InputFacts m_facts;
     Proposal m_proposal = Proposal::None;

@@ -41,8 +41,8 @@ QString titleFor(const QString& file)
 CMainWindow::CMainWindow(const WindowServices& services)
     : m_services(services),
       m_form(new CJobFrame),
-      m_input(*m_form, m_lookups, services.look),
-      m_fields(*m_form, m_input, m_lookups),
+      m_input(*m_form, m_disk, services.look),
+      m_fields(*m_form, m_input, m_disk),
       m_dialogs(*this, services.algorithms, services.options, m_form->algFrame(), *this),
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier),
@@ -129,7 +129,7 @@ void CMainWindow::requestJob(Operation operation)
     resetMessages();
     if (!m_job.isRunning())
         m_input.settle(); // for the proposal
-    CRequestHost host(*this, *m_form, m_input, m_lookups, m_job, m_services.algorithms);
+    CRequestHost host(*this, *m_form, m_input, m_disk, m_job, m_services.algorithms);
     JobRequest request(operation, host, *m_form);
     std::optional<SEncryptData> job = request.run();
     if (!job)
@@ -170,7 +170,7 @@ void CMainWindow::onUiEncryptFinished()
     const SEncryptData ended = m_job.data();
     m_display.showEnd(ended, QApplication::activeWindow() != nullptr);
     m_job.clear();
-    if (!isInputRemovalWanted(*this, ended, m_lookups, *m_form))
+    if (!isInputRemovalWanted(*this, ended, m_disk, *m_form))
         return;
     if (const ResultCode started = m_job.startInputRemoval(); !started.ok())
         reportInputRemoval({{}, started}, ended, *m_form);

@@ -5,7 +5,6 @@
 #include "app/widgets/IFilesDragDropEvent.h"
 #include "app/window/Actions.h"
 #include "app/window/CInputField.h"
-#include "app/window/CLookups.h"
 #include "app/window/DialogCommands.h"
 #include "app/window/FieldCommands.h"
 #include "app/window/InputLook.h"
@@ -13,6 +12,7 @@
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
 #include "crypto/cipher/ICipherFactory.h"
+#include "ui/disk/CDiskWork.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -90,7 +90,7 @@ private:
     const thisapp::WindowServices m_services;
     CMsgDispatcher m_dispatcher;
     CJobFrame* m_form;
-    CLookups m_lookups;
+    CDiskWork m_disk;
     CInputField m_input;
     thisapp::FieldCommands m_fields;
     thisapp::DialogCommands m_dialogs;

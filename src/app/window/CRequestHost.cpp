@@ -3,18 +3,18 @@
 #include "app/job/CFileJob.h"
 #include "app/window/CInputField.h"
 #include "app/window/CJobFrame.h"
-#include "app/window/CLookups.h"
 #include "app/window/FileDialogs.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/disk/CDiskWork.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
 namespace thisapp {
 
-CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CLookups& lookups,
+CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CDiskWork& disk,
                            CFileJob& job, const ICryptoAlgProvider& algorithms)
-    : m_window(window), m_form(form), m_input(input), m_lookups(lookups), m_job(job), m_algorithms(algorithms)
+    : m_window(window), m_form(form), m_input(input), m_disk(disk), m_job(job), m_algorithms(algorithms)
 {
 }
 
@@ -51,9 +51,9 @@ void CRequestHost::setOutputText(const QString& text)
 
 std::optional<RequestFacts> CRequestHost::look()
 {
-    const auto answer = m_lookups.start<RequestFacts>(
+    const auto answer = m_disk.start<RequestFacts>(
         [input = m_form.inputText(), output = m_form.outputText()] { return lookAtRequest(input, output); });
-    return m_lookups.wait(answer) ? std::optional(answer.get()) : std::nullopt;
+    return m_disk.wait(answer) ? std::optional(answer.get()) : std::nullopt;
 }
 
 QString CRequestHost::chooseInput(const QString& title)

@@ -6,7 +6,7 @@ class QWidget;
 
 class CInputField;
 class CJobFrame;
-class CLookups;
+class CDiskWork;
 
 namespace thisapp {
 
@@ -17,7 +17,7 @@ class ICryptoAlgProvider;
 class CRequestHost final : public IJobRequestHost
 {
 public:
-    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CLookups& lookups, CFileJob& job,
+    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CDiskWork& disk, CFileJob& job,
                  const ICryptoAlgProvider& algorithms);
 
     bool isJobRunning() const override;
@@ -37,7 +37,7 @@ private:
     QWidget& m_window;
     CJobFrame& m_form;
     CInputField& m_input;
-    CLookups& m_lookups;
+    CDiskWork& m_disk;
     CFileJob& m_job;
     const ICryptoAlgProvider& m_algorithms;
 };

@@ -2,9 +2,9 @@
 
 #include "app/window/CInputField.h"
 #include "app/window/CJobFrame.h"
-#include "app/window/CLookups.h"
 #include "app/window/FileDialogs.h"
 #include "app/window/FolderOpener.h"
+#include "ui/disk/CDiskWork.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,8 +22,8 @@ struct Text
 
 } // namespace
 
-FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CLookups& lookups)
-    : m_form(form), m_input(input), m_lookups(lookups)
+FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& disk)
+    : m_form(form), m_input(input), m_disk(disk)
 {
 }
 
@@ -55,8 +55,8 @@ void FieldCommands::onUiOpenOutputFolderItem()
 
 void FieldCommands::openFolderOf(const QString& text)
 {
-    const auto folder = m_lookups.start<QUrl>([text] { return folderOf(text); });
-    if (m_lookups.wait(folder))
+    const auto folder = m_disk.start<QUrl>([text] { return folderOf(text); });
+    if (m_disk.wait(folder))
         openFolder(folder.get());
 }
 

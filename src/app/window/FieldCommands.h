@@ -10,7 +10,7 @@
 
 class CInputField;
 class CJobFrame;
-class CLookups;
+class CDiskWork;
 
 namespace thisapp {
 
@@ -19,7 +19,7 @@ class FieldCommands
 {
 public:
     /// All must outlive the object.
-    FieldCommands(CJobFrame& form, CInputField& input, CLookups& lookups);
+    FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& disk);
 
     void onUiAddFileItem();
     void onUiBrowseOutput();
@@ -35,7 +35,7 @@ private:
 
     CJobFrame& m_form;
     CInputField& m_input;
-    CLookups& m_lookups;
+    CDiskWork& m_disk;
     std::optional<DroppedFile> m_drop; ///< whose file is still looked at
 };
 

@@ -3,11 +3,11 @@
 #include "app/job/InputRemoval.h"
 #include "app/job/JobReport.h"
 #include "app/job/SEncryptData.h"
-#include "app/window/CLookups.h"
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "common/settings/SettingsKeys.h"
 #include "lib/platform/File.h"
+#include "ui/disk/CDiskWork.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -50,14 +50,14 @@ bool confirm(QWidget& window, const QString& inputPath)
 
 } // namespace
 
-bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, CLookups& lookups, IMessageAreas& areas)
+bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, CDiskWork& disk, IMessageAreas& areas)
 {
     const CAppSettings settings;
     if (ended.operation != Operation::Encrypt || !ended.outcome.done() ||
         !readSetting(settings, keys::DeleteSourceFileAfterEncryption))
         return false;
-    const auto look = lookups.start<Look>([ended] { return lookAt(ended); });
-    if (!lookups.wait(look) || !look.get().areBothThere)
+    const auto look = disk.start<Look>([ended] { return lookAt(ended); });
+    if (!disk.wait(look) || !look.get().areBothThere)
         return false;
     if (const auto reason = look.get().reasonToKeep) {
         reportInputRemoval({reason, {}}, ended, areas);

@@ -1,6 +1,6 @@
 #pragma once
 
-class CLookups;
+class CDiskWork;
 class QWidget;
 
 namespace thisapp {
@@ -10,7 +10,6 @@ struct SEncryptData;
 
 /// After a job: whether its input is to be deleted now, as the settings and the user say. Explains it
 /// when the user wants that, but the input is to be kept.
-bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, CLookups& lookups,
-                          IMessageAreas& areas);
+bool isInputRemovalWanted(QWidget& window, const SEncryptData& ended, CDiskWork& disk, IMessageAreas& areas);
 
 } // namespace thisapp

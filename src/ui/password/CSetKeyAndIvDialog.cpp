@@ -202,15 +202,21 @@ void CSetKeyAndIvDialog::onUiSave()
                                                       tr("Text files") + QStringLiteral(" (*.txt)"));
     if (path.isEmpty())
         return;
-    const SecretText text = textToKeep();
-    const ResultCode result = io::writePrivateFile(thisapp::textPath(path), text.view());
-    if (result.ok())
+    const auto saved =
+        m_disk.start<std::optional<ResultCode>>([file = thisapp::textPath(path), text = textToKeep()] {
+            return io::writePrivateFile(file, text.view());
+        });
+    if (!m_disk.wait(saved) || !saved.get())
+        m_ui->lineEditMsg->showMessage(
+            tr("The key and IV could not be saved: %1").arg(tr("no answer from the disk")),
+            MessageKind::Error);
+    else if (saved.get()->ok())
         m_ui->lineEditMsg->showMessage(tr("The key and IV were saved. Only you can read the file."),
                                        MessageKind::Success);
     else
-        m_ui->lineEditMsg->showMessage(
-            tr("The key and IV could not be saved: %1").arg(qt_error_string(static_cast<int>(result.code))),
-            MessageKind::Error);
+        m_ui->lineEditMsg->showMessage(tr("The key and IV could not be saved: %1")
+                                           .arg(qt_error_string(static_cast<int>(saved.get()->code))),
+                                       MessageKind::Error);
 }
 
 void CSetKeyAndIvDialog::onUiOk()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lib/secret/Secret.h"
+#include "ui/disk/CDiskWork.h"
 
 #include <QDialog>
 #include <memory>
@@ -70,6 +71,7 @@ private:
     void clearFields();
 
     std::unique_ptr<Ui::CSetKeyAndIvDialog> m_ui;
+    CDiskWork m_disk;
     bool m_encrypt = true;
     std::uint32_t m_keyLength = 0;
     std::uint32_t m_ivLength = 0;

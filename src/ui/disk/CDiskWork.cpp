@@ -1,4 +1,4 @@
-#include "app/window/CLookups.h"
+#include "ui/disk/CDiskWork.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -15,31 +15,30 @@ using namespace std::chrono_literals;
 constexpr auto Patience = 15s;
 constexpr auto PatienceAtEnd = 500ms;
 
-bool isDone(const std::future<void>& look)
+bool isDone(const std::future<void>& work)
 {
-    return look.wait_for(0ms) == std::future_status::ready;
+    return work.wait_for(0ms) == std::future_status::ready;
 }
 
 } // namespace
 
-CLookups::CLookups() : m_news(new CLookupNews, [](CLookupNews* news) { news->deleteLater(); })
+CDiskWork::CDiskWork() : m_news(new CDiskNews, [](CDiskNews* news) { news->deleteLater(); })
 {
-    connect(m_news.get(), &CLookupNews::notifyAnswered, this, &CLookups::notifyAnswered,
-            Qt::QueuedConnection);
+    connect(m_news.get(), &CDiskNews::notifyAnswered, this, &CDiskWork::notifyAnswered, Qt::QueuedConnection);
 }
 
-CLookups::~CLookups()
+CDiskWork::~CDiskWork()
 {
     const auto end = std::chrono::steady_clock::now() + PatienceAtEnd;
-    for (const std::future<void>& look : m_running)
-        look.wait_until(end);
+    for (const std::future<void>& work : m_running)
+        work.wait_until(end);
 }
 
-void CLookups::run(std::function<void()> look)
+void CDiskWork::run(std::function<void()> work)
 {
     std::erase_if(m_running, isDone);
-    auto task = std::make_shared<std::packaged_task<void()>>([look = std::move(look), news = m_news] {
-        look();
+    auto task = std::make_shared<std::packaged_task<void()>>([work = std::move(work), news = m_news] {
+        work();
         emit news->notifyAnswered();
     });
     m_running.push_back(task->get_future());
@@ -50,13 +49,13 @@ void CLookups::run(std::function<void()> look)
     }
 }
 
-bool CLookups::waitUntil(const std::function<bool()>& isReady)
+bool CDiskWork::waitUntil(const std::function<bool()>& isReady)
 {
     QEventLoop loop;
     QTimer limit;
     limit.setSingleShot(true);
     connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
-    connect(this, &CLookups::notifyAnswered, &loop, [&loop, &isReady] {
+    connect(this, &CDiskWork::notifyAnswered, &loop, [&loop, &isReady] {
         if (isReady())
             loop.quit();
     });

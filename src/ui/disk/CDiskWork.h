@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/CLookupNews.h"
+#include "ui/disk/CDiskNews.h"
 
 #include <QObject>
 
@@ -11,30 +11,31 @@
 #include <utility>
 #include <vector>
 
-/// Looks at files on threads of its own, as a slow or dead file system may keep a look for any time. A
-/// look that hangs is left to itself: nobody waits for it for long, its owner's end included. It must
-/// therefore touch nothing but what it owns. Used on the GUI thread.
-class CLookups final : public QObject
+/// Does what touches the disk on threads of its own, as a slow or dead file system may keep it for any
+/// time. Work that hangs is left to itself: nobody waits for it for long, its owner's end included. It
+/// must therefore touch nothing but what it owns. Used on the GUI thread.
+class CDiskWork final : public QObject
 {
     Q_OBJECT
 
 public:
-    CLookups();
+    CDiskWork();
     /// Gives what is still under way a moment.
-    ~CLookups() override;
+    ~CDiskWork() override;
 
     /// Calls the function on another thread. notifyAnswered follows, when the event loop runs, and not
-    /// before the future is ready. Where no thread can be had it is called at once.
+    /// before the future is ready. Where no thread can be had it is called at once. An exception gives a
+    /// default-constructed answer.
     template <class T>
-    std::shared_future<T> start(std::function<T()> look)
+    std::shared_future<T> start(std::function<T()> work)
     {
         auto promise = std::make_shared<std::promise<T>>();
         std::shared_future<T> answer = promise->get_future().share();
-        run([promise, look = std::move(look)] {
+        run([promise, work = std::move(work)] {
             try {
-                promise->set_value(look());
+                promise->set_value(work());
             } catch (...) {
-                promise->set_value(T{}); // out of memory, say: nothing was seen
+                promise->set_value(T{}); // out of memory, say
             }
         });
         return answer;
@@ -65,10 +66,10 @@ private:
     /// Too short to be felt.
     static constexpr std::chrono::milliseconds Moment{50};
 
-    void run(std::function<void()> look);
+    void run(std::function<void()> work);
     bool waitUntil(const std::function<bool()>& isReady);
 
     /// Shared with the threads, which may outlive this object.
-    std::shared_ptr<CLookupNews> m_news;
+    std::shared_ptr<CDiskNews> m_news;
     std::vector<std::future<void>> m_running;
 };

@@ -3,7 +3,7 @@
 #include <QObject>
 
 /// Carries the news of an answer from the thread that has it to the GUI thread.
-class CLookupNews final : public QObject
+class CDiskNews final : public QObject
 {
     Q_OBJECT
 
