@@ -2,6 +2,7 @@
 #include "app/desktop/ShellIntegration.h"
 #include "app/i18n/MyTranslator.h"
 #include "app/widgets/SymbolicIcon.h"
+#include "app/window/CFirstPaint.h"
 #include "app/window/CMainWindow.h"
 #include "app/window/OptionsHandler.h"
 #include "common/errors/ErrorText.h"
@@ -19,11 +20,11 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -104,8 +105,8 @@ void updateShell(bool contextMenu, bool sendTo)
 /// Everything from the application object to its end.
 int runApplication(int& argc, char** argv)
 {
+    std::optional<desktop::LeanStart> leanStart(std::in_place);
     const QApplication application(argc, argv);
-    QApplication::setWindowIcon(applicationIcon());
     // Ctrl-C in the terminal, a log-out or a request to terminate ends a job as closing the window does.
     // Outlives the window and the wait for its worker, so that a second one cannot cut that short.
     const platform::Interrupts interrupts([] {
@@ -131,15 +132,16 @@ int runApplication(int& argc, char** argv)
     desktop::Desktop desktop;
     CMainWindow window(
         {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
-    window.show();
 
-    // Once the event loop runs: the command line may open dialogs.
     const QStringList arguments = programArguments({argv + 1, static_cast<std::size_t>(argc - 1)});
-    QTimer::singleShot(0, &window, [&] {
-        window.processCommandLine(arguments);
+    new CFirstPaint(window, [&] {
+        leanStart.reset();
+        QApplication::setWindowIcon(applicationIcon());
         const SAppOptions stored = options.read();
         updateShell(stored.integrateToShellContextMenu, stored.addToSendMenu);
+        window.processCommandLine(arguments); // last: it may open dialogs
     });
+    window.show();
     const int exitCode = QApplication::exec();
     if (!window.endJob(PatienceMs)) {
         // The worker waits for a disk. What it has written has no name yet, and gets none.

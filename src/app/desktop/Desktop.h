@@ -14,6 +14,20 @@ inline constexpr const char* DesktopId = "quillet";
 /// the application object is made, which ends the process where they can't.
 bool isDisplayThere();
 
+/// While it lives, application object and first window are made without what this program never uses of
+/// the display, which would be half of the time until the window is there. To end with the first paint.
+class LeanStart
+{
+public:
+    LeanStart();
+    ~LeanStart();
+    LeanStart(const LeanStart&) = delete;
+    LeanStart& operator=(const LeanStart&) = delete;
+
+private:
+    bool m_changed;
+};
+
 /// The program's ties to the desktop around it; each does nothing where the desktop offers no such
 /// thing. Made after the application object, used on its thread.
 class Desktop

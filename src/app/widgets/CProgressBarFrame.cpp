@@ -23,7 +23,8 @@ CProgressBarFrame::CProgressBarFrame(QWidget* parent)
 
     m_bar->setRange(0, 100 * StepsPerPercent);
     m_bar->setTextVisible(false);
-    reset();
+    m_notice->hide();
+    hide(); // before it has a parent, showing it would make a window of it
 }
 
 void CProgressBarFrame::setProgress(float percent, thisapp::Message message)
@@ -43,9 +44,12 @@ void CProgressBarFrame::setNotice(thisapp::Message notice)
 
 void CProgressBarFrame::reset()
 {
-    setProgress(0, {});
-    setNotice({});
     hide();
+    m_percent = 0;
+    m_bar->setValue(0);
+    m_message->clear();
+    m_notice->clear();
+    m_notice->hide();
 }
 
 QString CProgressBarFrame::message() const

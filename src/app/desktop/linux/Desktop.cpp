@@ -25,6 +25,22 @@ bool isDisplayThere()
     });
 }
 
+// The toolkit's X plugin loads the graphics driver in case OpenGL should be drawn. The variable is not left
+// to programs that this one starts.
+constexpr const char* GlVariable = "QT_XCB_GL_INTEGRATION";
+
+LeanStart::LeanStart() : m_changed(!qEnvironmentVariableIsSet(GlVariable))
+{
+    if (m_changed)
+        qputenv(GlVariable, "none");
+}
+
+LeanStart::~LeanStart()
+{
+    if (m_changed)
+        qunsetenv(GlVariable);
+}
+
 struct Desktop::Services
 {
     SessionBus bus;
