@@ -4,6 +4,7 @@
 #include "ui/style/ThemeChange.h"
 
 #include <QFontDatabase>
+#include <QMimeData>
 #include <QStyle>
 #include <algorithm>
 
@@ -36,6 +37,17 @@ void CHexEdit::showValidity(std::optional<bool> valid)
         return;
     m_valid = valid;
     recolor();
+}
+
+void CHexEdit::insertFromMimeData(const QMimeData* source)
+{
+    const int room = MostText - document()->characterCount() + textCursor().selectedText().size();
+    const QString text = source->text();
+    if (text.size() <= room)
+        return QPlainTextEdit::insertFromMimeData(source);
+    QMimeData cut;
+    cut.setText(text.left(room));
+    QPlainTextEdit::insertFromMimeData(&cut);
 }
 
 void CHexEdit::recolor()

@@ -5,7 +5,8 @@
 #include <optional>
 
 /// A mono-spaced field for secret hexadecimal text: sized for the expected bytes, no undo history,
-/// Tab leaves it.
+/// Tab leaves it. Takes no more than a key can be, however it is spaced: laying out a megabyte would
+/// keep the window busy for a minute.
 class CHexEdit final : public QPlainTextEdit
 {
     Q_OBJECT
@@ -21,6 +22,12 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+
+    /// In characters.
+    static constexpr int MostText = 4096;
+
+protected:
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
     void recolor();

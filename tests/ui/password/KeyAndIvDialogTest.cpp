@@ -1,6 +1,7 @@
 #include "lib/secret/Hex.h"
 #include "support/TempFolder.h"
 #include "ui/Widgets.h"
+#include "ui/password/CHexEdit.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 
 #include <QClipboard>
@@ -71,6 +72,18 @@ TEST_F(KeyAndIvDialog, JudgesTheTextsOnEveryChangeAndAtOk)
         EXPECT_EQ(dialog.key(), accepted ? bytes("00112233") : SecretBytes()) << test.key;
         dialog.reject();
     }
+}
+
+TEST_F(KeyAndIvDialog, TakesNoMegabyteFromTheClipboard)
+{
+    open(dialog);
+    key.insertPlainText("00");
+    QApplication::clipboard()->setText(QString(1 << 20, '7'));
+    key.paste();
+    EXPECT_EQ(key.document()->characterCount(), CHexEdit::MostText);
+    key.selectAll();
+    key.paste();
+    EXPECT_EQ(key.document()->characterCount(), CHexEdit::MostText);
 }
 
 TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
