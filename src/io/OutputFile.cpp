@@ -156,7 +156,7 @@ ResultCode OutputFile::verify() const
 ResultCode OutputFile::publish(Existing existing)
 {
     const ResultCode result = publishNew();
-    return platform::isOccupied(result) && existing == Existing::Replace ? takePlaceOfFormer(result) : result;
+    return platform::isOccupied(result) && existing == Existing::Replace ? replaceFormer(result) : result;
 }
 
 ResultCode OutputFile::publishNew()
@@ -173,7 +173,7 @@ ResultCode OutputFile::publishNew()
 }
 
 /// The former file is kept until the new one is safe.
-ResultCode OutputFile::takePlaceOfFormer(const ResultCode& occupied)
+ResultCode OutputFile::replaceFormer(const ResultCode& occupied)
 {
     const platform::Folder& folder = m_place->folder();
     const platform::FileStatus former = m_place->status();

@@ -63,7 +63,7 @@ private:
     ResultCode createHidden(const platform::Access& access, platform::File& file);
     ResultCode publish(Existing existing);
     ResultCode publishNew();
-    ResultCode takePlaceOfFormer(const ResultCode& occupied);
+    ResultCode replaceFormer(const ResultCode& occupied);
     ResultCode nameHidden();
     ResultCode verify() const;
     bool withdraw();

@@ -137,8 +137,12 @@ TEST_P(OutputFileTest, LeavesNothingWhenItIsGivenUp)
     EXPECT_TRUE(fs::is_empty(folder / "dir")) << "as at an end of the process in the middle of a job";
 }
 
+const auto KindName = [](const auto& info) {
+    return info.param == OutputFile::Kind::Hidden ? std::string("Hidden") : std::string("Nameless");
+};
+
 INSTANTIATE_TEST_SUITE_P(Kinds, OutputFileTest,
-                         testing::Values(OutputFile::Kind::Nameless, OutputFile::Kind::Hidden));
+                         testing::Values(OutputFile::Kind::Nameless, OutputFile::Kind::Hidden), KindName);
 
 using HiddenOutput = OutputFileTest;
 
@@ -154,7 +158,7 @@ TEST_P(HiddenOutput, RemovesWhatAKilledProcessLeftButNoneInUse)
     EXPECT_EQ(files("dir"), (std::set<std::string>{"out=data", ".quillet-other=no partial output"}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, HiddenOutput, testing::Values(OutputFile::Kind::Hidden));
+INSTANTIATE_TEST_SUITE_P(Kinds, HiddenOutput, testing::Values(OutputFile::Kind::Hidden), KindName);
 
 TEST(PrivateFile, IsItsOwnersAlone)
 {
