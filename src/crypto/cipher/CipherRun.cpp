@@ -6,6 +6,7 @@
 #include "crypto/key/KeyMaterial.h"
 
 #include <exception>
+#include <utility>
 
 namespace tessaly::crypto {
 
@@ -43,10 +44,10 @@ CryptoResult checkArguments(const CipherTask& task, const KeyAndIv& secret, cons
     return {};
 }
 
-bool allocate(SecretBytes& buffer, std::uint64_t size)
+bool allocate(BufferRing& ring, std::size_t slots, std::size_t slotSize)
 {
     try {
-        buffer.resize(size);
+        ring.allocate(slots, slotSize);
     } catch (const std::exception&) {
         return false;
     }
@@ -98,27 +99,33 @@ CipherRun::CipherRun(const CipherTask& task, const KeyAndIv& secret, ICipherEngi
 {
 }
 
-CryptoResult CipherRun::prepare()
+CryptoResult CipherRun::prepare(std::uint64_t size)
 {
     if (const CryptoResult keyed = m_engine.setKey(m_secret.key, m_secret.iv); !keyed.ok())
         return keyed;
-    const std::uint64_t size = m_chunkSize + m_engine.extraRoom();
-    if (!allocate(m_plain, size))
+    m_plan = planRing(size, m_chunkSize);
+    const std::uint64_t slotSize = m_plan.pieceSize + m_engine.extraRoom();
+    if (!allocate(m_input, m_plan.slots, slotSize))
         return err::FirstBufferAllocation;
-    if (!allocate(m_cipher, size))
+    if (!allocate(m_output, m_plan.slots, slotSize))
         return err::SecondBufferAllocation;
     return {};
 }
 
-CryptoResult CipherRun::read(std::uint8_t* buffer, std::uint64_t count)
+std::unique_ptr<ICipherEngine> CipherRun::furtherEngine() const
 {
-    while (count > 0) {
-        const auto asked = static_cast<std::int64_t>(count);
-        std::int64_t got = 0;
-        if (!m_task.in->read(buffer, asked, got) || got < 1 || got > asked)
+    auto engine = m_engine.another();
+    return engine && engine->setKey(m_secret.key, m_secret.iv).ok() ? std::move(engine) : nullptr;
+}
+
+CryptoResult CipherRun::read(std::uint8_t* buffer, std::uint64_t count, std::uint64_t& got)
+{
+    for (got = 0; got < count;) {
+        const auto asked = static_cast<std::int64_t>(count - got);
+        std::int64_t more = 0;
+        if (!m_task.in->read(buffer + got, asked, more) || more < 1 || more > asked)
             return {err::ReadStreamFailed, m_task.in->lastError()};
-        buffer += got;
-        count -= static_cast<std::uint64_t>(got);
+        got += static_cast<std::uint64_t>(more);
     }
     return {};
 }

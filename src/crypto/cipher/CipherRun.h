@@ -1,6 +1,7 @@
 #pragma once
 
 #include "crypto/CryptoResult.h"
+#include "crypto/cipher/BufferRing.h"
 #include "crypto/cipher/CipherCallback.h"
 #include "crypto/cipher/ICipherEngine.h"
 #include "crypto/cipher/OperationState.h"
@@ -9,7 +10,9 @@
 #include "lib/secret/Secret.h"
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 namespace tessaly::crypto {
@@ -47,7 +50,8 @@ struct KeyAndIv
     SecretBytes iv;
 };
 
-/// One operation while it runs: its buffers and the steps that both directions are made of.
+/// One operation while it runs: its buffers and the steps that both directions are made of. The calling
+/// thread, but for the steps and queries that a pipeline does on others, one thread at a time each.
 class CipherRun
 {
 public:
@@ -60,13 +64,18 @@ public:
     std::uint64_t chunkSize() const { return m_chunkSize; }
     bool isStopRequested() const { return m_state.isStopRequested(); }
 
-    /// Keys the cipher and allocates both buffers of one chunk.
-    CryptoResult prepare();
-    std::uint8_t* plain() { return m_plain.data(); }
-    std::uint8_t* cipher() { return m_cipher.data(); }
+    /// Keys the cipher and allocates both rings of buffers for an input of `size` bytes with the header.
+    CryptoResult prepare(std::uint64_t size);
+    const RingPlan& plan() const { return m_plan; }
+    /// What is read into each slot, and what is written out of it.
+    std::uint8_t* input(std::size_t slot) { return m_input.slot(slot); }
+    std::uint8_t* output(std::size_t slot) { return m_output.slot(slot); }
+    /// Another engine with the same key; null where the cipher does not allow it.
+    std::unique_ptr<ICipherEngine> furtherEngine() const;
 
-    /// All of `count` bytes, or (5, 60); also for a stream that claims to have given more.
-    CryptoResult read(std::uint8_t* buffer, std::uint64_t count);
+    /// All of `count` bytes, or (5, 60), also for a stream that claims to have given more. `got` tells
+    /// how much there is in any case.
+    CryptoResult read(std::uint8_t* buffer, std::uint64_t count, std::uint64_t& got);
     /// Exactly `count` bytes, or (5, 61).
     CryptoResult write(const std::uint8_t* buffer, std::uint64_t count);
     /// Calls the progress callback when its time has come.
@@ -80,8 +89,9 @@ private:
     ICipherEngine& m_engine;
     const OperationState& m_state;
     std::uint64_t m_chunkSize;
-    SecretBytes m_plain;
-    SecretBytes m_cipher;
+    RingPlan m_plan{};
+    BufferRing m_input;
+    BufferRing m_output;
     Clock::time_point m_lastReport = Clock::now();
 };
 

@@ -1,4 +1,5 @@
 #include "crypto/cipher/CipherRun.h"
+#include "crypto/cipher/Pipeline.h"
 #include "crypto/format/FileHeader.h"
 
 #include <algorithm>
@@ -7,23 +8,20 @@ namespace tessaly::crypto {
 
 namespace {
 
-/// Reads `count` bytes, a whole number of blocks, and deciphers them into the plain buffer.
+/// Deciphers the first `count` bytes, whole blocks, and checks the header against the size of the input.
 /// A block in part never reaches the cipher: CBC would read beyond it.
-CryptoResult decryptChunk(CipherRun& run, std::uint64_t count)
-{
-    if (const CryptoResult result = run.read(run.cipher(), count); !result.ok())
-        return result;
-    return run.engine().process(run.plain(), run.cipher(), count);
-}
-
-/// Deciphers the first `count` bytes and checks the header against the size of the input.
-CryptoResult openHeader(CipherRun& run, std::uint64_t size, std::uint64_t count, std::uint64_t& length)
+CryptoResult openHeader(CipherRun& run, std::size_t slot, std::uint64_t size, std::uint64_t count,
+                        std::uint64_t& length)
 {
     if (count < CheckedHeaderSize) // of blocks above 16 bytes; what cannot be verified is refused
         return err::CheckValueDiffers;
-    if (const CryptoResult result = decryptChunk(run, count); !result.ok())
+    std::uint64_t got = 0;
+    if (const CryptoResult result = run.read(run.input(slot), count, got); !result.ok())
         return result;
-    const std::span<const std::uint8_t, CheckedHeaderSize> header(run.plain(), CheckedHeaderSize);
+    if (const CryptoResult result = run.engine().process(run.output(slot), run.input(slot), count);
+        !result.ok())
+        return result;
+    const std::span<const std::uint8_t, CheckedHeaderSize> header(run.output(slot), CheckedHeaderSize);
     if (const CryptoResult result = verifyHeader(run.engine().algorithmId(), header, length); !result.ok())
         return result;
     const std::uint64_t usable = roundDown(size, run.blockLength());
@@ -41,30 +39,20 @@ CryptoResult decryptStream(CipherRun& run)
         return {};
     if (size < HeaderSize)
         return err::InputTooShort;
-    if (const CryptoResult result = run.prepare(); !result.ok())
+    if (const CryptoResult result = run.prepare(size); !result.ok())
         return result;
     if (run.isStopRequested())
         return {};
 
+    const std::size_t slot = run.plan().slots - 1;
+    const std::uint64_t count = roundDown(std::min(run.chunkSize(), size), run.blockLength());
     std::uint64_t length = 0;
-    std::uint64_t count = roundDown(std::min(run.chunkSize(), size), run.blockLength());
-    if (const CryptoResult result = openHeader(run, size, count, length); !result.ok())
+    if (const CryptoResult result = openHeader(run, slot, size, count, length); !result.ok())
         return result;
-
-    std::uint64_t wanted = std::min(length, count - HeaderSize);
-    if (const CryptoResult result = run.write(run.plain() + HeaderSize, wanted); !result.ok())
+    const std::uint64_t first = std::min(length, count - HeaderSize);
+    if (const CryptoResult result = run.write(run.output(slot) + HeaderSize, first); !result.ok())
         return result;
-    std::uint64_t remaining = length - wanted;
-    while (remaining > 0 && !run.isStopRequested()) {
-        wanted = std::min(run.chunkSize(), remaining);
-        if (const CryptoResult result = decryptChunk(run, roundUp(wanted, run.blockLength())); !result.ok())
-            return result;
-        if (const CryptoResult result = run.write(run.plain(), wanted); !result.ok())
-            return result;
-        remaining -= wanted;
-        run.report(length - remaining, length);
-    }
-    return {};
+    return Pipeline(run, {length - first, length, Padding::Dropped}).run();
 }
 
 } // namespace tessaly::crypto

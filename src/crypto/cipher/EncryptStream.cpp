@@ -1,4 +1,5 @@
 #include "crypto/cipher/CipherRun.h"
+#include "crypto/cipher/Pipeline.h"
 #include "crypto/format/FileHeader.h"
 
 #include <algorithm>
@@ -7,18 +8,19 @@ namespace tessaly::crypto {
 
 namespace {
 
-/// Reads behind the `kept` bytes that the plain buffer already holds, enciphers and writes the
-/// chunk of `count` bytes, padded with zeros to whole blocks. Gives what was written.
-CryptoResult encryptChunk(CipherRun& run, std::uint64_t kept, std::uint64_t count, std::uint64_t& written)
+/// Reads `count` bytes behind the header, which the slot holds already, and enciphers and writes them with
+/// it, padded with zeros to whole blocks.
+CryptoResult encryptFirstChunk(CipherRun& run, std::size_t slot, std::uint64_t count)
 {
-    if (const CryptoResult result = run.read(run.plain() + kept, count - kept); !result.ok())
+    std::uint8_t* input = run.input(slot);
+    std::uint64_t got = 0;
+    if (const CryptoResult result = run.read(input + HeaderSize, count, got); !result.ok())
         return result;
-    const std::uint64_t padded = roundUp(count, run.blockLength());
-    std::fill(run.plain() + count, run.plain() + padded, std::uint8_t{0});
-    if (const CryptoResult result = run.engine().process(run.cipher(), run.plain(), padded); !result.ok())
+    const std::uint64_t padded = roundUp(HeaderSize + count, run.blockLength());
+    std::fill(input + HeaderSize + count, input + padded, std::uint8_t{0});
+    if (const CryptoResult result = run.engine().process(run.output(slot), input, padded); !result.ok())
         return result;
-    written = padded;
-    return run.write(run.cipher(), padded);
+    return run.write(run.output(slot), padded);
 }
 
 } // namespace
@@ -29,26 +31,20 @@ CryptoResult encryptStream(CipherRun& run)
     if (size < 1)
         return {};
     const auto length = static_cast<std::uint64_t>(size);
-    if (const CryptoResult result = run.prepare(); !result.ok())
+    if (const CryptoResult result = run.prepare(HeaderSize + length); !result.ok())
         return result;
-    const std::span<std::uint8_t, HeaderSize> header(run.plain(), HeaderSize);
+    const std::size_t slot = run.plan().slots - 1;
+    const std::span<std::uint8_t, HeaderSize> header(run.input(slot), HeaderSize);
     if (const CryptoResult result = makeHeader(run.engine().algorithmId(), length, run.task().salt, header);
         !result.ok())
         return result;
+    if (run.isStopRequested())
+        return {};
 
-    std::uint64_t remaining = length + HeaderSize;
-    std::uint64_t kept = HeaderSize;
-    while (remaining > 0 && !run.isStopRequested()) {
-        std::uint64_t written = 0;
-        const CryptoResult result = encryptChunk(run, kept, std::min(run.chunkSize(), remaining), written);
-        if (!result.ok())
-            return result;
-        remaining -= std::min(remaining, written);
-        if (kept == 0) // the first chunk reports nothing
-            run.report(length - std::min(length, remaining), length);
-        kept = 0;
-    }
-    return {};
+    const std::uint64_t first = std::min(run.chunkSize() - HeaderSize, length);
+    if (const CryptoResult result = encryptFirstChunk(run, slot, first); !result.ok())
+        return result;
+    return Pipeline(run, {length - first, length, Padding::Added}).run();
 }
 
 } // namespace tessaly::crypto

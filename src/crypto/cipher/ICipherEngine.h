@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 namespace tessaly::crypto {
 
@@ -20,6 +21,12 @@ public:
     virtual CryptoResult setKey(const SecretBytes& key, const SecretBytes& iv) = 0;
     /// `count` is a multiple of the block length; the buffers are the same or do not overlap.
     virtual CryptoResult process(std::uint8_t* out, const std::uint8_t* in, std::size_t count) = 0;
+
+    /// A further engine of the same algorithm and direction, without a key. Null where a piece of a
+    /// stream cannot be processed apart from what is before it.
+    virtual std::unique_ptr<ICipherEngine> another() const = 0;
+    /// Where there may be further engines: continues behind this block of ciphertext.
+    virtual CryptoResult continueAfter(const std::uint8_t* block) = 0;
 };
 
 } // namespace tessaly::crypto

@@ -1,7 +1,12 @@
 #pragma once
 
 #include "crypto/Guard.h"
+
+#include <cryptopp/modes.h>
+
 #include "crypto/cipher/ICipherEngine.h"
+#include <memory>
+#include <type_traits>
 
 namespace tessaly::cryptopp {
 
@@ -34,7 +39,21 @@ public:
                                [&] { m_cipher.ProcessData(out, in, count); });
     }
 
+    std::unique_ptr<crypto::ICipherEngine> another() const override
+    {
+        return IsSplittable ? std::make_unique<CSymmetricEngine>() : nullptr;
+    }
+
+    crypto::CryptoResult continueAfter(const std::uint8_t* block) override
+    {
+        return crypto::guarded(err::library(err::ProcessingFailed),
+                               [&] { m_cipher.Resynchronize(block, BlockLength); });
+    }
+
 private:
+    /// In CBC a plain block is made of its own cipher block and the one before it.
+    static constexpr bool IsSplittable = std::is_base_of_v<CryptoPP::CBC_Decryption, Cipher>;
+
     Cipher m_cipher;
 };
 
