@@ -25,8 +25,9 @@ public:
     /// A further engine of the same algorithm and direction, without a key. Null where a piece of a
     /// stream cannot be processed apart from what is before it.
     virtual std::unique_ptr<ICipherEngine> another() const = 0;
-    /// Where there may be further engines: continues behind this block of ciphertext.
-    virtual CryptoResult continueAfter(const std::uint8_t* block) = 0;
+    /// Where there may be further engines: continues at this position of the stream, in bytes, behind
+    /// this block of ciphertext.
+    virtual CryptoResult continueAt(std::uint64_t position, const std::uint8_t* blockBefore) = 0;
 };
 
 } // namespace tessaly::crypto

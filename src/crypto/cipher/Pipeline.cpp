@@ -27,6 +27,8 @@ Pipeline::Pipeline(CipherRun& run, const Rest& rest)
 
 CryptoResult Pipeline::run()
 {
+    if (m_run.isStopRequested())
+        return {};
     startHelpers();
     work(m_run.engine(), true);
     m_helpers.clear();
@@ -58,10 +60,7 @@ void Pipeline::startHelpers()
 void Pipeline::work(ICipherEngine& engine, bool isCaller)
 {
     for (;;) {
-        const bool isStopped = m_run.isStopRequested();
         std::unique_lock lock(m_lock);
-        if (isStopped)
-            endBehindPieceAtHand();
         if (isCaller)
             report(lock);
         const Task task = takeTask();
@@ -74,8 +73,11 @@ void Pipeline::work(ICipherEngine& engine, bool isCaller)
         lock.unlock();
         const CryptoResult result =
             guarded(err::library(err::ProcessingFailed), [&] { return perform(task, engine); });
+        const bool isStopped = m_run.isStopRequested();
         lock.lock();
         settle(task, result);
+        if (isStopped && task.step == Step::Write)
+            endAt(m_written, {});
     }
 }
 
@@ -149,25 +151,22 @@ void Pipeline::endAt(std::uint64_t piece, const CryptoResult& result)
     m_changed.notify_all();
 }
 
-void Pipeline::endBehindPieceAtHand()
-{
-    const bool hasBegun = m_read > m_written || m_isReading;
-    endAt(m_written + (hasBegun ? 1 : 0), {});
-}
-
 /// Chunk by chunk, as in a plain loop, though several may have been written together.
 void Pipeline::report(std::unique_lock<std::mutex>& lock)
 {
-    while (m_reported < m_writtenBytes) {
+    while (m_reported < m_writtenBytes && m_end > 0) {
         m_reported = std::min(m_reported + m_run.chunkSize(), m_writtenBytes);
         lock.unlock();
         const CryptoResult result = guarded(err::library(err::ProcessingFailed), [this] {
             const std::uint64_t left = std::min(m_rest.count - m_reported, m_rest.fileLength);
             m_run.report(m_rest.fileLength - left, m_rest.fileLength);
         });
+        const bool isStopped = m_run.isStopRequested();
         lock.lock();
         if (!result.ok())
             endAt(0, result);
+        else if (isStopped)
+            endAt(m_written + (m_isWriting ? 1 : 0), {});
     }
 }
 
@@ -191,8 +190,9 @@ CryptoResult Pipeline::read(std::uint64_t piece)
 CryptoResult Pipeline::process(std::uint64_t piece, ICipherEngine& engine)
 {
     const std::size_t slot = slotOf(piece);
+    const std::uint64_t position = m_run.chunkSize() + piece * m_run.plan().pieceSize;
     if (!m_engines.empty())
-        if (const CryptoResult result = engine.continueAfter(cipherBlockBefore(piece)); !result.ok())
+        if (const CryptoResult result = engine.continueAt(position, cipherBlockBefore(piece)); !result.ok())
             return result;
     return engine.process(m_run.output(slot), m_run.input(slot),
                           roundUp(m_slots[slot].count, m_run.blockLength()));

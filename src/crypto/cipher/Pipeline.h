@@ -39,8 +39,8 @@ struct Rest
 /// Locks: m_lock guards what is declared below it. It is not held during a step: the piece's slot then
 /// belongs to the thread that has taken the step.
 ///
-/// End: a failed step ends the stream before its piece, a stop behind the piece at hand. Pieces before the
-/// end are still written, so the failure that is told is the first one in the order of the stream.
+/// End: a failed step ends the stream before its piece, a stop between two writes. Pieces before the end are
+/// still written, so the failure that is told is the first one in the order of the stream.
 class Pipeline
 {
 public:
@@ -73,7 +73,6 @@ private:
     Task takeTask();
     void settle(const Task& task, const CryptoResult& result);
     void endAt(std::uint64_t piece, const CryptoResult& result);
-    void endBehindPieceAtHand();
 
     std::size_t slotOf(std::uint64_t piece) const { return piece % m_slots.size(); }
     const std::uint8_t* cipherBlockBefore(std::uint64_t piece) const;

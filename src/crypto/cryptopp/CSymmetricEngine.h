@@ -41,18 +41,22 @@ public:
 
     std::unique_ptr<crypto::ICipherEngine> another() const override
     {
-        return IsSplittable ? std::make_unique<CSymmetricEngine>() : nullptr;
+        return IsCbcDecryption || m_cipher.IsRandomAccess() ? std::make_unique<CSymmetricEngine>() : nullptr;
     }
 
-    crypto::CryptoResult continueAfter(const std::uint8_t* block) override
+    crypto::CryptoResult continueAt(std::uint64_t position, const std::uint8_t* blockBefore) override
     {
-        return crypto::guarded(err::library(err::ProcessingFailed),
-                               [&] { m_cipher.Resynchronize(block, BlockLength); });
+        return crypto::guarded(err::library(err::ProcessingFailed), [&] {
+            if constexpr (IsCbcDecryption)
+                m_cipher.Resynchronize(blockBefore, BlockLength);
+            else
+                m_cipher.Seek(position);
+        });
     }
 
 private:
     /// In CBC a plain block is made of its own cipher block and the one before it.
-    static constexpr bool IsSplittable = std::is_base_of_v<CryptoPP::CBC_Decryption, Cipher>;
+    static constexpr bool IsCbcDecryption = std::is_base_of_v<CryptoPP::CBC_Decryption, Cipher>;
 
     Cipher m_cipher;
 };

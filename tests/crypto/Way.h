@@ -1,0 +1,88 @@
+#pragma once
+
+#include "crypto/Engine.h"
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// Notes every call: s(tarted), p(rogress), f(inished), F(inished after a stop).
+class Recorder final : public tessaly::crypto::ICipherCallback
+{
+public:
+    std::string calls;
+    std::vector<std::int64_t> processed;
+    std::vector<float> percents;
+    CryptoResult result;
+    std::function<void(char)> onCall = [](char) {};
+
+    void started(void*) override { note('s'); }
+    void progress(std::int64_t count, float percent, void*) override
+    {
+        processed.push_back(count);
+        percents.push_back(percent);
+        note('p');
+    }
+    void finished(bool stopped, const CryptoResult& outcome, void*) override
+    {
+        result = outcome;
+        note(stopped ? 'F' : 'f');
+    }
+
+private:
+    void note(char call)
+    {
+        calls += call;
+        onCall(call);
+    }
+};
+
+/// One way of one algorithm over some chunks, by default five small ones, whose course is recorded.
+struct Way
+{
+    Way(const char* name, bool encryption, std::uint32_t chunkSize = 60, std::size_t chunks = 5)
+        : isEncryption(encryption), job(name)
+    {
+        job.chunkSize = chunkSize;
+        chunk = tessaly::crypto::effectiveChunkSize(chunkSize, job.algorithm.record.blockLength);
+        const Bytes data = noise((chunks - 1) * chunk);
+        const Bytes encrypted = job.encrypt(data).bytes;
+        input = isEncryption ? data : encrypted;
+        output = isEncryption ? encrypted : data;
+        job.callback = &recorder;
+    }
+
+    Outcome run(const Faults& inputFaults = {}, const Faults& outputFaults = {})
+    {
+        recorder.calls.clear();
+        recorder.processed.clear();
+        recorder.percents.clear();
+        return isEncryption ? job.encrypt({input, inputFaults}, outputFaults)
+                            : job.decrypt({input, inputFaults}, outputFaults);
+    }
+    void stop() { isEncryption ? job.encryptor->stop() : job.decryptor->stop(); }
+    Bytes outputOf(std::size_t chunks) const
+    {
+        Bytes start = output;
+        start.resize(std::min(chunks == 0 ? 0 : chunks * chunk - (isEncryption ? 0 : 56), output.size()));
+        return start;
+    }
+
+    bool isEncryption;
+    Job job;
+    std::uint64_t chunk; ///< as the engine rounds it
+    Bytes input;
+    Bytes output;
+    Recorder recorder;
+};
+
+/// The calls up to a chunk, of which the first reports nothing.
+inline std::string courseUpTo(int chunks)
+{
+    return "s" + std::string(static_cast<std::size_t>(std::max(chunks - 1, 0)), 'p');
+}
+
+} // namespace test
