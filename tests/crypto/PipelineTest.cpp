@@ -51,6 +51,11 @@ TEST(Pipeline, MakesWhatThePlainLoopMakes)
             EXPECT_EQ(way.run({.mostAtOnce = 12345}).bytes, way.output) << chunkSize;
         }
     });
+    for (const bool isEncryption : {true, false}) { // four slots, many times over
+        Way way("AES-256", isEncryption, 1 << 20, 15);
+        way.job.chunkSize = OneSlot;
+        EXPECT_EQ(way.run().bytes, way.output);
+    }
     const Job job("CAST-128");
     for (std::size_t length = 20 * Chunk - 60; length < 20 * Chunk + 4; length += 3) {
         const Bytes data = noise(length);
