@@ -2,11 +2,17 @@
 
 #include "crypto/Guard.h"
 #include "crypto/format/FileHeader.h"
+#include "crypto/key/RandomBytes.h"
+#include "crypto/sealed/OpeningInput.h"
+#include "crypto/sealed/SealedFormat.h"
+#include "crypto/sealed/SealedKeys.h"
+#include "crypto/sealed/SealingOutput.h"
 #include "io/IStreamFile.h"
 #include "io/OutputFile.h"
 #include "lib/err/ErrorCodes.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace tessaly::crypto {
@@ -21,8 +27,10 @@ template <class Cipher>
 class EngineWatch final : public ICipherCallback
 {
 public:
-    EngineWatch(Cipher& cipher, FileJobRequest& request, IFileJobObserver& observer, std::int64_t total)
-        : m_cipher(cipher), m_request(request), m_observer(observer), m_total(total)
+    /// A password that is needed for another attempt goes when there is progress, so that there is none.
+    EngineWatch(Cipher& cipher, FileJobRequest& request, IFileJobObserver& observer, std::int64_t total,
+                bool isAttempt)
+        : m_cipher(cipher), m_request(request), m_observer(observer), m_total(total), m_isAttempt(isAttempt)
     {
     }
 
@@ -30,13 +38,15 @@ public:
 
     void started(void*) override
     {
-        m_request.password = {}; // the engine has its key
+        if (!m_isAttempt)
+            m_request.password = {}; // the engine has its key
         m_observer.jobStarted(m_total);
         if (m_observer.isJobCancelled())
             m_cipher.stop();
     }
     void progress(std::int64_t processed, float percent, void*) override
     {
+        m_request.password = {};
         m_observer.jobProgress(processed, percent);
     }
     void finished(bool stopped, const CryptoResult&, void*) override { m_stopped = stopped; }
@@ -46,6 +56,7 @@ private:
     FileJobRequest& m_request;
     IFileJobObserver& m_observer;
     std::int64_t m_total;
+    bool m_isAttempt;
     bool m_stopped = false;
 };
 
@@ -59,6 +70,39 @@ CryptoResult process(ISymmetricCipher<SaltFlag...>& cipher, const FileJobRequest
                                              &callback, nullptr);
 }
 
+template <class... SaltFlag>
+CryptoResult process(ISymmetricCipher<SaltFlag...>& cipher, const SealedKeys& keys, io::IStreamBytes& in,
+                     io::OStreamBytes& out, ICipherCallback& callback)
+{
+    return cipher.run(&in, &out, keys.cipherKey, keys.iv, SaltFlag(false)..., &callback, nullptr);
+}
+
+/// The size of what is inside if the input is a sealed file; nothing if it cannot be one.
+std::optional<std::uint64_t> sizeWithin(const io::IStreamBytes& input)
+{
+    return innerSize(static_cast<std::uint64_t>(input.size()));
+}
+
+/// The input is none of the plain format under that secret, whatever else it is.
+bool isNoPlainFile(const CryptoResult& result)
+{
+    return result == CryptoResult(err::CheckValueDiffers) || result == CryptoResult(err::InputTooShort);
+}
+
+CryptoResult readSalt(io::IStreamFile<wchar_t>& in, SecretBytes& salt)
+{
+    if (const ResultCode rewound = in.rewind(); !rewound.ok())
+        return {err::ReadStreamFailed, rewound};
+    salt = SecretBytes(SealSaltSize);
+    for (std::size_t got = 0; got < salt.size();) {
+        std::int64_t more = 0;
+        if (!in.read(salt.data() + got, static_cast<std::int64_t>(salt.size() - got), more) || more < 1)
+            return {err::ReadStreamFailed, in.lastError()};
+        got += static_cast<std::size_t>(more);
+    }
+    return {};
+}
+
 /// An encrypted file is for everybody who may read the plain one, a decrypted one for its owner.
 Access accessOf(const ISymmetricEncryptor&, const platform::FileStatus& input)
 {
@@ -70,16 +114,18 @@ Access accessOf(const ISymmetricDecryptor&, const platform::FileStatus&)
     return Access::ownerOnly();
 }
 
-/// Of the output in bytes; that of a decryption stands in the header, which is yet to be read.
-std::int64_t expectedSize(const ISymmetricEncryptor& encryptor, std::int64_t inputSize)
+/// Of the output in bytes, at the least; that of a decryption stands in the header, which is yet to be read.
+std::int64_t expectedSize(const ISymmetricEncryptor& encryptor, const io::IStreamBytes& in, bool seal)
 {
-    return static_cast<std::int64_t>(
-        encryptedSize(static_cast<std::uint64_t>(inputSize), encryptor.blockLength()));
+    const std::uint64_t plain = encryptedSize(static_cast<std::uint64_t>(in.size()), encryptor.blockLength());
+    return static_cast<std::int64_t>(seal ? sealedSize(plain) : plain);
 }
 
-std::int64_t expectedSize(const ISymmetricDecryptor&, std::int64_t inputSize)
+std::int64_t expectedSize(const ISymmetricDecryptor&, const io::IStreamBytes& in, bool)
 {
-    return std::max<std::int64_t>(inputSize - static_cast<std::int64_t>(HeaderSize), 0);
+    const auto size =
+        static_cast<std::int64_t>(sizeWithin(in).value_or(static_cast<std::uint64_t>(in.size())));
+    return std::max<std::int64_t>(size - static_cast<std::int64_t>(HeaderSize), 0);
 }
 
 /// One job on its way through its steps; each notes itself in the outcome before it begins.
@@ -141,7 +187,7 @@ private:
         ResultCode result = place->open(m_request.output);
         if (result.ok())
             result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status),
-                                expectedSize(m_cipher, m_in.size()));
+                                expectedSize(m_cipher, m_in, m_request.seal));
         m_outcome.output = {place, m_out.status()};
         return result.ok() ? CryptoResult() : CryptoResult(err::WriteStreamFailed, result);
     }
@@ -149,9 +195,89 @@ private:
     CryptoResult encipher()
     {
         m_outcome.step = JobStep::Process;
-        EngineWatch<Cipher> watch(m_cipher, m_request, m_observer, m_in.size());
-        const CryptoResult result = process(m_cipher, m_request, m_in, m_out, watch);
+        const CryptoResult result = convert(m_cipher);
+        m_request.password = {};
+        return result;
+    }
+
+    CryptoResult convert(const ISymmetricEncryptor&)
+    {
+        return m_request.seal ? seal() : runEngine(m_request, m_in, m_out);
+    }
+
+    CryptoResult convert(const ISymmetricDecryptor&)
+    {
+        const std::optional<std::uint64_t> within = sizeWithin(m_in);
+        const CryptoResult result = runEngine(m_request, m_in, m_out, within.has_value());
+        return within && isNoPlainFile(result) && !m_outcome.cancelled ? unseal(*within) : result;
+    }
+
+    template <class Secret>
+    CryptoResult runEngine(const Secret& secret, io::IStreamBytes& in, io::OStreamBytes& out,
+                           bool isAttempt = false)
+    {
+        EngineWatch<Cipher> watch(m_cipher, m_request, m_observer, m_in.size(), isAttempt);
+        const CryptoResult result = process(m_cipher, secret, in, out, watch);
         m_outcome.cancelled = watch.wasStopped();
+        return result;
+    }
+
+    CryptoResult seal()
+    {
+        m_outcome.sealed = true;
+        SecretBytes salt;
+        SealedKeys keys;
+        CryptoResult result = randomBytes(SealSaltSize, salt);
+        if (result.ok())
+            result = makeKeys(salt, keys);
+        if (!result.ok() || m_outcome.cancelled)
+            return result;
+        SealingOutput out(m_out, salt);
+        result = out.open(keys.tagKey);
+        if (result.ok())
+            result = runEngine(keys, m_in, out);
+        if (result.ok() && !m_outcome.cancelled && !out.finish())
+            result = {err::WriteStreamFailed, out.lastError()};
+        return result;
+    }
+
+    CryptoResult unseal(std::uint64_t within)
+    {
+        SecretBytes salt;
+        SealedKeys keys;
+        CryptoResult result = readSalt(m_in, salt);
+        if (result.ok())
+            result = makeKeys(salt, keys);
+        if (!result.ok() || m_outcome.cancelled)
+            return result;
+        OpeningInput in(m_in, within);
+        result = in.open(keys.tagKey);
+        m_outcome.sealed = result.ok();
+        if (result.ok())
+            result = runEngine(keys, in, m_out);
+        if (result == CryptoResult(err::ReadStreamFailed, err::library(err::SealBroken)))
+            result = err::SealBroken;
+        return result;
+    }
+
+    CryptoResult makeKeys(const SecretBytes& salt, SealedKeys& keys)
+    {
+        SecretBytes root;
+        const CryptoResult result = m_request.passwordMode
+                                        ? rootOfPassword(salt, root)
+                                        : rootOfKeyAndIv(m_request.key, m_request.iv, m_cipher, salt, root);
+        return result.ok() && !m_outcome.cancelled ? expandRoot(root, m_cipher, keys) : result;
+    }
+
+    CryptoResult rootOfPassword(const SecretBytes& salt, SecretBytes& root)
+    {
+        m_observer.jobDerivingKey();
+        m_outcome.cancelled = m_observer.isJobCancelled();
+        if (m_outcome.cancelled)
+            return {};
+        const CryptoResult result =
+            argon2id(std::exchange(m_request.password, {}), salt, m_request.cost, root);
+        m_outcome.cancelled = m_observer.isJobCancelled();
         return result;
     }
 
