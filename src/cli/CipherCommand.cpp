@@ -79,9 +79,17 @@ std::string checkSecretFiles(const FileJobRequest& request, const Arguments& arg
 
 ExitCode exitCodeOf(const CryptoResult& result)
 {
-    const bool wrongOrDamaged = result.module == err::CategoryLibrary &&
-                                result.code >= err::CheckValueDiffers && result.code <= err::InputTruncated;
-    return wrongOrDamaged ? WrongKeyOrDamaged : Failed;
+    if (result.module != err::CategoryLibrary)
+        return Failed;
+    switch (result.code) {
+    case err::CheckValueDiffers:
+    case err::InputTooShort:
+    case err::InputTruncated:
+    case err::SealBroken:
+        return WrongKeyOrDamaged;
+    default:
+        return Failed;
+    }
 }
 
 /// What was being done to which file.
@@ -102,7 +110,7 @@ ExitCode report(const FileJobRequest& request, const FileJobOutcome& outcome, Co
     std::string line = errorLine(
         command == Command::Encrypt ? "Failed to encrypt file." : "Failed to decrypt file.", outcome.result);
     if (outcome.result == CryptoResult(err::CheckValueDiffers))
-        line += ": wrong password, key, IV or algorithm, or not an encrypted file";
+        line += ": wrong password, key, IV or algorithm, or a damaged or foreign file";
     complain(line + ". " + stepSentence(request, outcome));
     return exitCodeOf(outcome.result);
 }
@@ -160,6 +168,7 @@ ExitCode runCipherCommand(const Arguments& arguments)
     request.input = arguments.input;
     request.output = arguments.output.value_or(defaultOutput(arguments.input, arguments.command));
     request.useSalt = arguments.salt;
+    request.seal = arguments.seal;
     request.existing = arguments.force ? ExistingOutput::ReplaceAtEnd : ExistingOutput::Keep;
 
     Stop stop;

@@ -62,9 +62,15 @@ ParseOutcome parseCommandLine(int argc, char** argv)
     app.footer(Footer);
 
     CLI::App* encrypt = addCipherCommand(app, parsed, "encrypt", "Encrypt one file", "instead of INPUT.enc");
-    encrypt->add_flag("--salt", parsed.arguments.salt, "make equal files encrypt differently");
-    CLI::App* decrypt =
-        addCipherCommand(app, parsed, "decrypt", "Decrypt one file", "instead of INPUT.dec without the .enc");
+    CLI::Option* salt =
+        encrypt->add_flag("--salt", parsed.arguments.salt, "make equal files encrypt differently");
+    encrypt
+        ->add_flag("--seal", parsed.arguments.seal,
+                   "make guessing the password expensive and any change of the file evident;\n"
+                   "takes 256 MiB of memory and a moment; a sealed file is always salted")
+        ->excludes(salt);
+    CLI::App* decrypt = addCipherCommand(app, parsed, "decrypt", "Decrypt one file, sealed or not",
+                                         "instead of INPUT.dec without the .enc");
     CLI::App* algorithms = app.add_subcommand("algorithms", "List the algorithms with their sizes in bytes");
     algorithms->add_flag("--json", parsed.arguments.json, "as a JSON array");
 

@@ -19,6 +19,7 @@ struct Arguments
     std::optional<std::string> output;
     std::string input;
     bool salt = false;
+    bool seal = false;
     bool force = false;
     bool json = false;
 };

@@ -47,6 +47,11 @@ void ProgressLine::jobStarted(std::int64_t)
     m_start = std::chrono::steady_clock::now();
 }
 
+void ProgressLine::jobDerivingKey()
+{
+    show("Making the key of the password");
+}
+
 void ProgressLine::jobProgress(std::int64_t processed, float percent)
 {
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - m_start;

@@ -18,6 +18,7 @@ public:
     ~ProgressLine() override;
 
     void jobStarted(std::int64_t total) override;
+    void jobDerivingKey() override;
     void jobProgress(std::int64_t processed, float percent) override;
     void jobFlushing() override;
     bool isJobCancelled() override;

@@ -108,6 +108,17 @@ bool IStreamFile<Char>::read(void* buffer, std::int64_t count, std::int64_t& cou
 }
 
 template <class Char>
+ResultCode IStreamFile<Char>::rewind()
+{
+    const ResultCode result = m_file.seekToStart();
+    std::lock_guard guard(m_lock);
+    if (result.ok())
+        m_position = 0;
+    m_lastError = result;
+    return result;
+}
+
+template <class Char>
 bool IStreamFile<Char>::fail(ResultCode error)
 {
     std::lock_guard guard(m_lock);

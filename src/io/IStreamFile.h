@@ -26,6 +26,9 @@ public:
     std::int64_t size() const override;
     ResultCode lastError() const override;
 
+    /// Reads from the start once more, up to the size that was found at opening.
+    ResultCode rewind();
+
     /// The file as it was at opening.
     platform::FileStatus status() const;
 

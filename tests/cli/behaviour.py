@@ -97,6 +97,16 @@ class Behaviour(unittest.TestCase):
         self.decrypt("plain.enc", code=3)
         self.assert_files("plain.enc", "damaged.enc", "cut.enc", "short.enc")
 
+    def test_a_sealed_file_shows_every_change(self):
+        self.encrypt("--seal", "plain")
+        sealed = self.read("plain.enc")
+        self.assertEqual(len(sealed), 100064 + 32 + 2 * 16)
+        self.write("changed.enc", sealed[:90000] + b"x" + sealed[90001:])
+        self.assertIn("The file is damaged or has been changed (error: 5/4010)", self.decrypt("changed.enc", code=3))
+        self.assert_files("plain.enc", "changed.enc")
+        self.decrypt("plain.enc")
+        self.assertEqual(self.read("plain.dec"), self.read("plain"))
+
     def test_existing_output(self):
         self.write("out", "precious")
         self.encrypt("--output", "out", "plain", code=1)
@@ -132,7 +142,7 @@ class Behaviour(unittest.TestCase):
         self.write("iv", "00" * 15)
         for arguments in ([], ["encrypt"], ["frobnicate"], ["encrypt", "--nonsense", "plain"], ["encrypt", "plain"],
                           ["encrypt", "--algorithm", "ROT13", "--password-file", "pw", "plain"],
-                          ["decrypt", "--salt", "plain"], ["encrypt", "--key-file", "key", "plain"],
+                          ["decrypt", "--salt", "plain"], ["decrypt", "--seal", "plain"], ["encrypt", "--seal", "--salt", "plain"], ["encrypt", "--key-file", "key", "plain"],
                           ["encrypt", "--key-file", "key", "--iv-file", "iv", "--password-file", "pw", "plain"]):
             with self.subTest(arguments):
                 self.run_cli(*arguments, code=2)
@@ -177,6 +187,11 @@ class Behaviour(unittest.TestCase):
         self.assertEqual(code, 0, shown_again)
         self.assertEqual(self.read("plain.dec"), self.read("plain"))
         self.assertNotIn("hunter2", shown + shown_again)
+        self.assertNotIn("Making the key", shown + shown_again)
+        shown, code = self.on_terminal(["encrypt", "--seal", "--force", "plain"],
+                                       [(b"Password: ", secret), (b"Confirm password: ", secret)])
+        self.assertIn("Making the key of the password", shown)
+        self.assertEqual(code, 0, shown)
         shown, code = self.on_terminal(["encrypt", "--force", "plain"],
                                        [(b"Password: ", secret), (b"Confirm password: ", b"other\n")])
         self.assertIn("do not match", shown)

@@ -1,11 +1,11 @@
 #include "crypto/job/FileJob.h"
 #include "crypto/Engine.h"
+#include "crypto/JobWatch.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
 #include <sys/stat.h>
 
 namespace {
@@ -13,29 +13,6 @@ namespace {
 using namespace tessaly::crypto;
 using tessaly::platform::fileStatus;
 namespace fs = std::filesystem;
-
-/// Notes the calls; cancels after one of them when told to.
-class Observer final : public IFileJobObserver
-{
-public:
-    std::string calls;
-    std::int64_t total = -1;
-    char cancelAfter = ' ';
-    std::function<void()> atFlush = [] {};
-
-    void jobStarted(std::int64_t size) override
-    {
-        calls += 's';
-        total = size;
-    }
-    void jobProgress(std::int64_t, float) override {}
-    void jobFlushing() override
-    {
-        calls += 'w';
-        atFlush();
-    }
-    bool isJobCancelled() override { return calls.back() == cancelAfter; }
-};
 
 class FileJob : public testing::Test
 {
@@ -51,6 +28,7 @@ protected:
     FileJobOutcome run(Cipher& cipher, const char* input, const char* output)
     {
         request.password = tessaly::SecretText(password);
+        request.cost = {1, 64, 4}; // a wrong password is tried on a sealed file, too
         request.input = folder.at(input);
         request.output = folder.at(output);
         return runFileJob(*cipher, request, observer);
@@ -63,7 +41,7 @@ protected:
     test::Job ciphers{"Threefish-512"};
     const char* password = "secret";
     FileJobRequest request;
-    Observer observer;
+    test::JobWatch observer;
 };
 
 TEST_F(FileJob, TellsWhatItReadAndMade)

@@ -1,6 +1,9 @@
 #include "crypto/Engine.h"
 #include "crypto/catalogue/AlgInfo.h"
 #include "crypto/key/KeyMaterial.h"
+#include "crypto/sealed/Argon2.h"
+#include "crypto/sealed/SealedFormat.h"
+#include "crypto/sealed/SealedKeys.h"
 
 #include <gtest/gtest.h>
 
@@ -127,6 +130,34 @@ TEST(Memory, NoSecretStaysBehind)
             EXPECT_EQ(leaksOf(secrets, thereAndBack), 0);
             EXPECT_EQ(decrypted.bytes == plain, failingWrite == 0);
         }
+}
+
+TEST(Memory, NoKeyOfASealedFileStaysBehind)
+{
+    using namespace tessaly::crypto;
+    const Job job("Threefish-1024");
+    const std::string password = "a password of some length";
+    const SecretBytes salt(SealSaltSize);
+    std::vector<Bytes> secrets = {{password.begin(), password.end()}};
+    const auto derive = [&](bool isNoted) {
+        const auto note = [&](const SecretBytes& bytes) {
+            if (isNoted)
+                secrets.push_back({bytes.begin(), bytes.begin() + 16});
+        };
+        for (const bool byPassword : {true, false}) {
+            SecretBytes root;
+            SealedKeys keys;
+            EXPECT_TRUE((byPassword ? argon2id(tessaly::SecretText(password), salt, {1, 64, 4}, root)
+                                    : rootOfKeyAndIv(job.key, job.iv, *job.encryptor, salt, root))
+                            .ok());
+            EXPECT_TRUE(expandRoot(root, *job.encryptor, keys).ok());
+            for (const SecretBytes& bytes : {root, keys.cipherKey, keys.iv, keys.tagKey, job.key})
+                note(bytes);
+        }
+    };
+    derive(true);
+    EXPECT_EQ(secrets.size(), 11U);
+    EXPECT_EQ(leaksOf(secrets, [&] { derive(false); }), 0);
 }
 
 class Counter final : public tessaly::crypto::ICipherCallback

@@ -4,6 +4,7 @@ Arguments: the program, the library to preload; --every N takes each N-th alloca
 
 import errno
 import os
+import resource
 import subprocess
 import sys
 import tempfile
@@ -31,13 +32,19 @@ CALLS = {
     "malloc": {errno.ENOMEM: {OK, FAILED}},
 }
 
-# Name: command, password file, options, whether an output is there before.
+# No sealed file has the size of the encrypted one, so that a wrong password is not tried on one, which takes time.
+SIZE = 131090
+KEY = ["--key-file", "key", "--iv-file", "iv"]
+
+# Name: command, input, options, whether an output is there before.
 JOBS = {
-    "encrypt": ("encrypt", "pw", [], False),
-    "encrypt --force": ("encrypt", "pw", ["--force"], True),
-    "decrypt": ("decrypt", "pw", [], False),
-    "decrypt --force": ("decrypt", "pw", ["--force"], True),
-    "decrypt, wrong password": ("decrypt", "wrong", ["--force"], True),
+    "encrypt": ("encrypt", "plain", ["--password-file", "pw"], False),
+    "encrypt --force": ("encrypt", "plain", ["--password-file", "pw", "--force"], True),
+    "encrypt --seal": ("encrypt", "plain", ["--seal", *KEY, "--force"], True),
+    "decrypt": ("decrypt", "encrypted", ["--password-file", "pw"], False),
+    "decrypt --force": ("decrypt", "encrypted", ["--password-file", "pw", "--force"], True),
+    "decrypt, sealed": ("decrypt", "sealed", [*KEY, "--force"], True),
+    "decrypt, wrong password": ("decrypt", "encrypted", ["--password-file", "wrong", "--force"], True),
 }
 
 
@@ -55,39 +62,59 @@ class Sweep:
     def __init__(self):
         write("pw", b"correct horse")
         write("wrong", b"incorrect horse")
-        write("plain", os.urandom(150000))
-        subprocess.run([CLI, "encrypt", "--password-file", "pw", "--output", "sealed", "plain"], check=True)
-        self.source = {"encrypt": "plain", "decrypt": "sealed"}
-        self.result = {"encrypt": read("sealed"), "decrypt": read("plain")}
+        write("key", b"5a" * 32)
+        write("iv", b"a5" * 16)
+        write("plain", os.urandom(SIZE))
+        for name, options in (("encrypted", ["--password-file", "pw"]), ("sealed", ["--seal", *KEY])):
+            subprocess.run([CLI, "encrypt", *options, "--output", name, "plain"], check=True)
         self.runs = self.complaints = 0
 
     def run(self, job, call, at, error):
-        command, password, options, former = JOBS[job]
+        command, source, options, former = JOBS[job]
         if os.path.exists("out"):
             os.remove("out")
         if former:
             write("out", b"precious")
         environment = {**os.environ, "LD_PRELOAD": SHIM, "FAIL_CALL": call, "FAIL_AT": str(at),
                        "FAIL_ERROR": str(error), "FAIL_COUNT": "count"}
-        source = self.source[command]
-        done = subprocess.run([CLI, command, "--password-file", password, *options, "--output", "out", source],
-                              env=environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
+        done = subprocess.run([CLI, command, *options, "--output", "out", source], env=environment,
+                              stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
         self.runs += 1
         return done.returncode, done.stderr.decode()
 
     def judge(self, job, expected, code, told):
         """What is wrong, or nothing."""
-        command, _, _, former = JOBS[job]
+        former = JOBS[job][-1]
         if code not in expected:
             return f"exit code {code}"
         if code != OK and (told.count("\n") != 1 or not told.startswith("quillet-cli: ")):
             return "not told in one line"
         left = read("out") if os.path.exists("out") else None
-        if left != (self.result[command] if code == OK else b"precious" if former else None):
-            return "a false success" if code == OK else "the output is not as before"
-        if not set(os.listdir()) <= {"pw", "wrong", "plain", "sealed", "out", "count"}:
+        if code == OK and not self.is_result(job, left):
+            return "a false success"
+        if code != OK and left != (b"precious" if former else None):
+            return "the output is not as before"
+        if not set(os.listdir()) <= {"pw", "wrong", "key", "iv", "plain", "encrypted", "sealed", "out", "check",
+                                      "count"}:
             return f"left: {os.listdir()}"
         return None
+
+    def is_result(self, job, left):
+        if job != "encrypt --seal":
+            return left == read("encrypted" if JOBS[job][0] == "encrypt" else "plain")
+        subprocess.run([CLI, "decrypt", *KEY, "--force", "--output", "check", "out"], capture_output=True)
+        return read("check") == read("plain")
+
+    def without_memory_for_the_key(self):
+        write("out", b"precious")
+        done = subprocess.run([CLI, "encrypt", "--seal", "--password-file", "pw", "--force", "--output", "out", "plain"],
+                              capture_output=True,
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (200 << 20, 200 << 20)))
+        self.runs += 1
+        if done.returncode != FAILED or b"Cannot allocate memory (error: 5/4042)" not in done.stderr \
+                or read("out") != b"precious":
+            self.complaints += 1
+            print(f"without memory for the key: {done.returncode}, {done.stderr.decode()}")
 
     def sweep(self, job, call, error, codes):
         expected = codes if "wrong" not in job else {WRONG if code == OK else code for code in codes} | {WRONG}
@@ -105,6 +132,7 @@ class Sweep:
 with tempfile.TemporaryDirectory() as scratch:
     os.chdir(scratch)
     sweep = Sweep()
+    sweep.without_memory_for_the_key()
     for job in JOBS:
         for call, ways in CALLS.items():
             for error, codes in ways.items():

@@ -26,6 +26,9 @@ done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include[[:space:]]+"[a-z]+/' --inc
 hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+[<"](cryptopp|crypto\+\+)/' . | grep -v '^\./crypto/cryptopp/')
 [ -z "$hits" ] || complain "Crypto++ outside crypto/cryptopp" "$hits"
 
+hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+[<"]argon2\.h' . | grep -v '^\./crypto/sealed/Argon2\.cpp:')
+[ -z "$hits" ] || complain "Argon2 outside its one file" "$hits"
+
 hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+<Q[A-Za-z]+' lib io crypto cli | grep -v '^lib/i18n/')
 [ -z "$hits" ] || complain "Qt below ui" "$hits"
 

@@ -52,11 +52,14 @@ TEST_F(FileStream, ReadsUpToTheSizeAtOpening)
     EXPECT_TRUE(in.isAtEnd());
     EXPECT_EQ(readSome(in, 1), "!");
     EXPECT_TRUE(in.lastError().ok()) << "the end is no error";
+    EXPECT_TRUE(in.rewind().ok() && in.isAtStart());
+    EXPECT_EQ(readSome(in, 60), "0123456789");
 }
 
 TEST_F(FileStream, ReadingRefusesAndReports)
 {
     InFile in;
+    EXPECT_FALSE(in.rewind().ok());
     EXPECT_EQ(in.open(L""), err::library(err::NullArgument));
     EXPECT_EQ(in.open(folder.wide("absent")), err::system(ENOENT));
     EXPECT_EQ(in.open(folder.wide(".").append(1, L'\0')), err::system(ENOENT));

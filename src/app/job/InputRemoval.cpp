@@ -3,6 +3,7 @@
 #include "app/job/SEncryptData.h"
 #include "crypto/catalogue/AlgInfo.h"
 #include "crypto/format/FileHeader.h"
+#include "crypto/sealed/SealedFormat.h"
 #include "lib/platform/File.h"
 
 #include <QCoreApplication>
@@ -27,8 +28,10 @@ bool isUnchanged(const platform::FileStatus& now, const platform::FileStatus& as
 
 std::uint64_t expectedOutputSize(const SEncryptData& data)
 {
-    return crypto::encryptedSize(static_cast<std::uint64_t>(data.outcome.input.status.size),
-                                 crypto::AlgInfo().record(data.selection.algorithm).blockLength);
+    const std::uint64_t plain =
+        crypto::encryptedSize(static_cast<std::uint64_t>(data.outcome.input.status.size),
+                              crypto::AlgInfo().record(data.selection.algorithm).blockLength);
+    return data.outcome.sealed ? crypto::sealedSize(plain) : plain;
 }
 
 } // namespace

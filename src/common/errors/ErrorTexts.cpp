@@ -41,6 +41,7 @@ constexpr CodeText CodeTexts[] = {
     {KeyingFailed, QT_TRANSLATE_NOOP("CErrMsg", "Failed to calculate data hash"), CheckValueHashFailed},
     {CheckValueDiffers, QT_TRANSLATE_NOOP("CErrMsg", "Corrupted data"), InputTruncated},
     {EngineNotInitialized, QT_TRANSLATE_NOOP("CErrMsg", "Cryptographic engine is not initialized")},
+    {SealBroken, QT_TRANSLATE_NOOP("CErrMsg", "The file is damaged or has been changed")},
 };
 
 /// Null when the code has no text.

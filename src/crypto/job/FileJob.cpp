@@ -2,6 +2,8 @@
 
 #include "crypto/Guard.h"
 #include "crypto/format/FileHeader.h"
+#include "crypto/job/Conversion.h"
+#include "crypto/sealed/SealedFormat.h"
 #include "io/IStreamFile.h"
 #include "io/OutputFile.h"
 #include "lib/err/ErrorCodes.h"
@@ -16,49 +18,6 @@ namespace {
 using io::OutputFile;
 using platform::Access;
 
-/// Hands the engine's callbacks on to the job's observer.
-template <class Cipher>
-class EngineWatch final : public ICipherCallback
-{
-public:
-    EngineWatch(Cipher& cipher, FileJobRequest& request, IFileJobObserver& observer, std::int64_t total)
-        : m_cipher(cipher), m_request(request), m_observer(observer), m_total(total)
-    {
-    }
-
-    bool wasStopped() const { return m_stopped; }
-
-    void started(void*) override
-    {
-        m_request.password = {}; // the engine has its key
-        m_observer.jobStarted(m_total);
-        if (m_observer.isJobCancelled())
-            m_cipher.stop();
-    }
-    void progress(std::int64_t processed, float percent, void*) override
-    {
-        m_observer.jobProgress(processed, percent);
-    }
-    void finished(bool stopped, const CryptoResult&, void*) override { m_stopped = stopped; }
-
-private:
-    Cipher& m_cipher;
-    FileJobRequest& m_request;
-    IFileJobObserver& m_observer;
-    std::int64_t m_total;
-    bool m_stopped = false;
-};
-
-template <class... SaltFlag>
-CryptoResult process(ISymmetricCipher<SaltFlag...>& cipher, const FileJobRequest& request,
-                     io::IStreamBytes& in, io::OStreamBytes& out, ICipherCallback& callback)
-{
-    return request.passwordMode ? cipher.runWithPassword(&in, &out, request.password.c_str(),
-                                                         SaltFlag(request.useSalt)..., &callback, nullptr)
-                                : cipher.run(&in, &out, request.key, request.iv, SaltFlag(request.useSalt)...,
-                                             &callback, nullptr);
-}
-
 /// An encrypted file is for everybody who may read the plain one, a decrypted one for its owner.
 Access accessOf(const ISymmetricEncryptor&, const platform::FileStatus& input)
 {
@@ -70,16 +29,18 @@ Access accessOf(const ISymmetricDecryptor&, const platform::FileStatus&)
     return Access::ownerOnly();
 }
 
-/// Of the output in bytes; that of a decryption stands in the header, which is yet to be read.
-std::int64_t expectedSize(const ISymmetricEncryptor& encryptor, std::int64_t inputSize)
+/// Of the output in bytes, at the least; that of a decryption stands in the header, which is yet to be read.
+std::int64_t expectedSize(const ISymmetricEncryptor& encryptor, const io::IStreamBytes& in, bool seal)
 {
-    return static_cast<std::int64_t>(
-        encryptedSize(static_cast<std::uint64_t>(inputSize), encryptor.blockLength()));
+    const std::uint64_t plain = encryptedSize(static_cast<std::uint64_t>(in.size()), encryptor.blockLength());
+    return static_cast<std::int64_t>(seal ? sealedSize(plain) : plain);
 }
 
-std::int64_t expectedSize(const ISymmetricDecryptor&, std::int64_t inputSize)
+std::int64_t expectedSize(const ISymmetricDecryptor&, const io::IStreamBytes& in, bool)
 {
-    return std::max<std::int64_t>(inputSize - static_cast<std::int64_t>(HeaderSize), 0);
+    const auto whole = static_cast<std::uint64_t>(in.size());
+    const auto size = static_cast<std::int64_t>(innerSize(whole).value_or(whole));
+    return std::max<std::int64_t>(size - static_cast<std::int64_t>(HeaderSize), 0);
 }
 
 /// One job on its way through its steps; each notes itself in the outcome before it begins.
@@ -141,7 +102,7 @@ private:
         ResultCode result = place->open(m_request.output);
         if (result.ok())
             result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status),
-                                expectedSize(m_cipher, m_in.size()));
+                                expectedSize(m_cipher, m_in, m_request.seal));
         m_outcome.output = {place, m_out.status()};
         return result.ok() ? CryptoResult() : CryptoResult(err::WriteStreamFailed, result);
     }
@@ -149,10 +110,10 @@ private:
     CryptoResult encipher()
     {
         m_outcome.step = JobStep::Process;
-        EngineWatch<Cipher> watch(m_cipher, m_request, m_observer, m_in.size());
-        const CryptoResult result = process(m_cipher, m_request, m_in, m_out, watch);
-        m_outcome.cancelled = watch.wasStopped();
-        return result;
+        const Conversion conversion = convert(m_cipher, m_request, m_in, m_out, m_observer);
+        m_outcome.cancelled = conversion.cancelled;
+        m_outcome.sealed = conversion.sealed;
+        return conversion.result;
     }
 
     CryptoResult storeOutput()

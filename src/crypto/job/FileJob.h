@@ -2,6 +2,7 @@
 
 #include "crypto/CryptoResult.h"
 #include "crypto/cipher/ISymmetricCipher.h"
+#include "crypto/sealed/Argon2.h"
 #include "io/FilePlace.h"
 #include "lib/platform/File.h"
 #include "lib/secret/Secret.h"
@@ -26,10 +27,12 @@ struct FileJobRequest
     std::filesystem::path output;
     ExistingOutput existing = ExistingOutput::Keep;
     bool passwordMode = true;
-    bool useSalt = false; ///< encryption only
+    bool useSalt = false; ///< encryption only, and not of a sealed file, which has a salt of its own
+    bool seal = false;    ///< encryption only: makes a sealed file. Decryption finds out by itself
     SecretText password;  ///< password mode
     SecretBytes key;      ///< else
     SecretBytes iv;       ///< else
+    Argon2Cost cost = {}; ///< of a sealed file's password; another one makes a file of another format
 
     void wipeSecrets();
 };
@@ -49,6 +52,8 @@ struct FileJobOutcome
     CryptoResult result;
     /// The last one that was begun: after a failure the one that failed.
     JobStep step = JobStep::OpenInput;
+    /// The encrypted file, made or read, is a sealed one.
+    bool sealed = false;
     /// There was an output of this job, or a former one that it removed, and nothing of it is left.
     bool outputDeleted = false;
     JobFile input;
@@ -64,20 +69,26 @@ class IFileJobObserver
 {
 public:
     virtual ~IFileJobObserver() = default;
-    /// `total` is the size of the input in bytes.
+    /// The engine begins; `total` is the size of the input in bytes. Once more after jobDerivingKey when
+    /// the input has turned out to be no plain file.
     virtual void jobStarted(std::int64_t total) = 0;
+    /// A sealed file's key is being made of the password, which takes a second or more and cannot be
+    /// interrupted; a stop is heeded after it.
+    virtual void jobDerivingKey() {}
     /// Bytes of the plain file done so far, and the same from 0 to 100 per cent.
     virtual void jobProgress(std::int64_t processed, float percent) = 0;
     /// All is written; the disk is being waited for.
     virtual void jobFlushing() = 0;
-    /// Asked at the start and after the flush, for a stop that came when no engine was at work.
+    /// Asked at the start, around the making of a key and after the flush, for a stop that came when no
+    /// engine was at work.
     virtual bool isJobCancelled() = 0;
 };
 
 /// Enciphers or deciphers one file into a new one, from making room for it to its name: the output
-/// appears when it is whole and on the disk, or not at all. The password is wiped as soon as the key is
-/// made of it, the rest of the secret at the end. Blocks; to end it early call stop on the engine from
-/// another thread. No exception leaves it.
+/// appears when it is whole and on the disk, or not at all. A decryption takes its input for a plain file
+/// first; when the header does not verify and a sealed file can have that size, for a sealed one. The
+/// password is wiped as soon as the key is made of it, the rest of the secret at the end. Blocks; to end
+/// it early call stop on the engine from another thread. No exception leaves it.
 FileJobOutcome runFileJob(ISymmetricEncryptor& encryptor, FileJobRequest& request,
                           IFileJobObserver& observer) noexcept;
 FileJobOutcome runFileJob(ISymmetricDecryptor& decryptor, FileJobRequest& request,

@@ -53,6 +53,7 @@ enum Code : std::uint32_t {
     InputTooShort = 4004,
     InputTruncated = 4005,
     EngineNotInitialized = 4006,
+    SealBroken = 4010,
     ProcessingFailed = 4020,
     KeyLengthDiffers = 4040,
     IvLengthDiffers = 4041,

@@ -81,6 +81,7 @@ public:
     ResultCode read(void* buffer, std::size_t count, std::size_t& countRead) const;
     /// One write; may write less than asked, but on success never nothing.
     ResultCode write(const void* buffer, std::size_t count, std::size_t& countWritten) const;
+    ResultCode seekToStart() const;
     ResultCode seekToEnd() const;
     /// Sets room for `size` bytes aside; the size of the file stays. Fails only when there is no such
     /// room: a file system that cannot do it takes the bytes as they come.

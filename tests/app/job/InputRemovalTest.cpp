@@ -64,6 +64,15 @@ const Case Cases[] = {
      KeepReason::SymbolicLink},
     {"input with a twin", [](auto& dir, auto&) { fs::create_hard_link(dir / "in", dir / "twin"); },
      KeepReason::HardLinks},
+    {"sealed",
+     [](auto& dir, auto& data) {
+         dir.write("out", std::string(64 + 48, 'x'));
+         data.outcome.output = opened(dir.at("out"));
+         data.outcome.sealed = true;
+     },
+     {}},
+    {"sealed, without its tag", [](auto&, auto& data) { data.outcome.sealed = true; },
+     KeepReason::OutputDiffers},
     {"folder swapped", [](auto& dir, auto&) { swapFolder(dir); }, KeepReason::OutputDiffers},
 };
 

@@ -143,6 +143,11 @@ ResultCode File::write(const void* buffer, std::size_t count, std::size_t& count
     return outcome(put >= 0);
 }
 
+ResultCode File::seekToStart() const
+{
+    return outcome(::lseek(m_handle, 0, SEEK_SET) >= 0);
+}
+
 ResultCode File::seekToEnd() const
 {
     return outcome(::lseek(m_handle, 0, SEEK_END) >= 0);

@@ -1,0 +1,185 @@
+#include "crypto/Engine.h"
+#include "crypto/sealed/OpeningInput.h"
+#include "crypto/sealed/SealedFormat.h"
+#include "crypto/sealed/SealingOutput.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace test;
+using namespace tessaly::crypto;
+
+constexpr std::size_t Slot = PieceSize + TagSize;
+
+Bytes sealed(const Bytes& inner, const SecretBytes& tagKey, std::size_t atOnce = 100000)
+{
+    MemoryOutput out;
+    SealingOutput sealing(out, secret(noise(SealSaltSize, 9)));
+    EXPECT_TRUE(sealing.open(tagKey).ok());
+    for (std::size_t at = 0; at < inner.size(); at += atOnce) {
+        const auto count = static_cast<std::int64_t>(std::min(atOnce, inner.size() - at));
+        EXPECT_EQ(sealing.write(inner.data() + at, count), count);
+    }
+    EXPECT_TRUE(sealing.finish());
+    return out.bytes;
+}
+
+/// What is handed on, and with which error it ends.
+Outcome opened(MemoryInput in, const SecretBytes& tagKey, std::size_t atOnce = 100000)
+{
+    Bytes salt(SealSaltSize);
+    std::int64_t got = 0;
+    const auto inner = innerSize(static_cast<std::uint64_t>(in.size()));
+    if (!inner || !in.read(salt.data(), SealSaltSize, got))
+        return {err::InputTooShort, {}};
+    OpeningInput opening(in, *inner);
+    Outcome outcome{opening.open(tagKey), {}};
+    Bytes buffer(atOnce);
+    while (outcome.result.ok() && opening.read(buffer.data(), std::ssize(buffer), got))
+        outcome.bytes.insert(outcome.bytes.end(), buffer.begin(), buffer.begin() + got);
+    if (outcome.result.ok())
+        outcome.result = opening.lastError();
+    EXPECT_TRUE(!outcome.result.ok() || opening.isAtEnd());
+    return outcome;
+}
+
+class SealedStreams : public testing::Test
+{
+protected:
+    /// It ends with the error, and gives only whole pieces of the inner file before it.
+    void expectRefused(const Bytes& changed, std::size_t firstWrongPiece, const std::string& what)
+    {
+        const Outcome outcome = opened(changed, tagKey);
+        const bool isImpossible = !innerSize(changed.size());
+        ASSERT_EQ(outcome.result, CryptoResult(isImpossible          ? err::InputTooShort
+                                               : firstWrongPiece > 0 ? err::SealBroken
+                                                                     : err::CheckValueDiffers))
+            << what;
+        const std::size_t good = isImpossible ? 0 : firstWrongPiece * PieceSize;
+        ASSERT_EQ(outcome.bytes, Bytes(inner.begin(), inner.begin() + static_cast<std::ptrdiff_t>(good)))
+            << what;
+    }
+    Bytes slot(const Bytes& file, std::size_t index) const
+    {
+        const auto begin = file.begin() + static_cast<std::ptrdiff_t>(SealSaltSize + index * Slot);
+        return {begin, file.end() - begin > std::ssize(Bytes(Slot)) ? begin + Slot : file.end()};
+    }
+    /// The file with these of its pieces.
+    Bytes withPieces(const std::vector<Bytes>& pieces) const
+    {
+        Bytes made(whole.begin(), whole.begin() + SealSaltSize);
+        for (const Bytes& piece : pieces)
+            made.insert(made.end(), piece.begin(), piece.end());
+        return made;
+    }
+
+    const SecretBytes tagKey = secret(noise(TagKeySize, 5));
+    const Bytes inner = noise(2 * PieceSize + 90);
+    const Bytes whole = sealed(inner, tagKey);
+};
+
+TEST_F(SealedStreams, SizesAreThoseOfWholePieces)
+{
+    const struct
+    {
+        std::uint64_t inner;
+        std::uint64_t sealed;
+    } rows[] = {{0, 48},        {57, 105},        {65535, 65583},   {65536, 65584},
+                {65537, 65601}, {131072, 131136}, {131073, 131153}, {std::uint64_t{1} << 40, 1099780063264}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(sealedSize(row.inner), row.sealed);
+        EXPECT_EQ(innerSize(row.sealed), row.inner);
+    }
+    std::size_t possible = 0;
+    for (std::uint64_t size = 0; size <= sealedSize(3 * PieceSize); ++size)
+        if (const auto within = innerSize(size)) {
+            ++possible;
+            ASSERT_EQ(sealedSize(*within), size);
+        }
+    EXPECT_EQ(possible, 1 + 3 * PieceSize - 56) << "0, and all above the header's";
+}
+
+TEST_F(SealedStreams, EverySizeComesBackHoweverItIsCut)
+{
+    for (const std::size_t size : {0UL, 57UL, 65535UL, 65536UL, 65537UL, 131072UL, 131073UL, 200000UL})
+        for (const std::size_t atOnce : {1000UL, 65536UL, 70000UL}) {
+            SCOPED_TRACE(std::to_string(size) + ", " + std::to_string(atOnce));
+            const Bytes data = noise(size);
+            const Bytes file = sealed(data, tagKey, atOnce);
+            ASSERT_EQ(file.size(), sealedSize(size));
+            const Outcome outcome = opened({file, {.mostAtOnce = 30000}}, tagKey, atOnce);
+            ASSERT_EQ(outcome.result, CryptoResult());
+            ASSERT_EQ(outcome.bytes, data);
+        }
+}
+
+TEST_F(SealedStreams, EveryChangedByteAndEveryTruncationIsFound)
+{
+    Bytes changed = whole;
+    for (std::size_t at = SealSaltSize; at < whole.size(); ++at) {
+        changed[at] ^= static_cast<std::uint8_t>(1 << at % 8);
+        expectRefused(changed, (at - SealSaltSize) / Slot, "changed at " + std::to_string(at));
+        changed[at] = whole[at];
+    }
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        const std::size_t behindSlot = (size + Slot - SealSaltSize) % Slot;
+        if (size % 997 != 0 && behindSlot > 20 && behindSlot < Slot - 20)
+            continue;
+        const std::size_t pieces = size > SealSaltSize ? (size - SealSaltSize + Slot - 1) / Slot : 1;
+        expectRefused({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)}, pieces - 1,
+                      "cut at " + std::to_string(size));
+    }
+}
+
+TEST_F(SealedStreams, PiecesKeepTheirPlaces)
+{
+    const Bytes other = sealed(noise(inner.size(), 2), secret(noise(TagKeySize, 6)));
+    const Bytes a = slot(whole, 0);
+    const Bytes b = slot(whole, 1);
+    const Bytes c = slot(whole, 2);
+    const Bytes single = slot(sealed(Bytes(inner.begin(), inner.begin() + PieceSize), tagKey), 0);
+    ASSERT_EQ(withPieces({a, b, c}), whole);
+    const struct
+    {
+        const char* name;
+        std::vector<Bytes> pieces;
+        std::size_t firstWrong;
+    } rows[] = {
+        {"swapped", {b, a, c}, 0},
+        {"doubled", {a, a, b, c}, 1},
+        {"dropped", {a, c}, 1},
+        {"the first dropped", {b, c}, 0},
+        {"the last dropped", {a, b}, 1},
+        {"the last two dropped", {a}, 0},
+        {"the last doubled", {a, b, c, c}, 2},
+        {"of another file", {a, slot(other, 1), c}, 1},
+        {"all of another file", {slot(other, 0), slot(other, 1), slot(other, 2)}, 0},
+        {"a last piece in front", {single, b, c}, 0},
+        {"an empty piece behind", {a, b, slot(sealed({}, tagKey), 0)}, 1},
+    };
+    for (const auto& row : rows)
+        expectRefused(withPieces(row.pieces), row.firstWrong, row.name);
+}
+
+TEST_F(SealedStreams, FailuresOfTheFileAreTold)
+{
+    EXPECT_EQ(opened({whole, {.failAtCall = 2}}, tagKey).result,
+              CryptoResult(err::ReadStreamFailed, StreamFault));
+    EXPECT_EQ(opened({whole, {.failAtCall = 3}}, tagKey).result, CryptoResult(StreamFault));
+    EXPECT_EQ(opened({whole, {.endsAt = 70000}}, tagKey).result, CryptoResult(err::SealBroken))
+        << "it shrank";
+    EXPECT_EQ(opened({whole, {.miscount = 1}}, tagKey).result, CryptoResult(err::CheckValueDiffers));
+    for (const int failing : {1, 2, 3}) {
+        MemoryOutput out({.failAtCall = failing});
+        SealingOutput sealing(out, SecretBytes(SealSaltSize));
+        ASSERT_TRUE(sealing.open(tagKey).ok());
+        const auto size = static_cast<std::int64_t>(inner.size());
+        const std::int64_t taken = sealing.write(inner.data(), size);
+        EXPECT_EQ(taken, failing == 3 ? size : failing * static_cast<std::int64_t>(PieceSize));
+        EXPECT_TRUE(taken < size || !sealing.finish());
+        EXPECT_EQ(sealing.lastError(), StreamFault);
+    }
+}
+
+} // namespace
