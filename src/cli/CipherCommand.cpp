@@ -72,7 +72,8 @@ std::string checkSecretFiles(const FileJobRequest& request, const Arguments& arg
     const std::pair<const std::optional<std::string>&, const char*> secrets[] = {
         {arguments.passwordFile, "password"}, {arguments.keyFile, "key"}, {arguments.ivFile, "IV"}};
     for (const auto& [file, what] : secrets)
-        if (file && output.sameFile(platform::fileStatus(*file)))
+        if (file &&
+            output.sameFile(*file == "-" ? platform::standardInputStatus() : platform::fileStatus(*file)))
             return "output is the " + std::string(what) + " file: " + request.output.string();
     return {};
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "io/FilePlace.h"
+#include "io/HiddenName.h"
 #include "io/OStreamFile.h"
 #include "lib/platform/File.h"
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -37,6 +37,9 @@ public:
     ResultCode open(std::shared_ptr<const FilePlace> place, const platform::Access& access,
                     std::int64_t expectedSize = 0);
 
+    /// A file that is never given up for this one, though it may come to stand at the path: the input.
+    void protect(const platform::FileStatus& file) { m_protected = file; }
+
     [[nodiscard]] std::int64_t write(const void* buffer, std::int64_t count) override;
     ResultCode lastError() const override { return m_stream.lastError(); }
     /// Somebody has tried to write to it.
@@ -46,29 +49,28 @@ public:
     /// the flush may take long: (5, 1004) when the file is not wanted any more. (5, 203) when, at the
     /// end, the path does not name the file: its folder has been moved. After any failure all is as it
     /// was before: nothing of the file is left, and what it was to replace stands. (Where the file system
-    /// cannot exchange two files, a failure to flush the folder leaves the new one in its place.)
+    /// cannot exchange two files, a failure to flush the folder leaves the new one in its place.) What
+    /// others do to the path meanwhile stays as they did it.
     ResultCode commit(
         Existing existing, const std::function<bool()>& isWanted = [] { return true; });
-    /// True when nothing of the file is left, which only a failing disk prevents.
+    /// True when nothing of the file is left: nobody has given it another name, and the disk obeys.
     bool discard();
 
     /// The file itself, as it was created or, later, committed.
     const platform::FileStatus& status() const { return m_status; }
 
-    /// Removes the hidden names that are in use, for an end of the process in the middle of a job.
+    /// See HiddenName::removeAll.
     static void removeHiddenNames();
 
 private:
     ResultCode create(const platform::Access& access, platform::File& file);
     ResultCode createHidden(const platform::Access& access, platform::File& file);
     ResultCode publish(Existing existing);
-    ResultCode publishNew();
     ResultCode replaceFormer(const ResultCode& occupied);
     ResultCode nameHidden();
     ResultCode verify() const;
-    bool withdraw();
-    void removeHidden();
-    void setHiddenName(std::filesystem::path name);
+    void withdraw();
+    bool isNameless() const;
 
     /// Where the file is to be found.
     enum class State {
@@ -82,8 +84,10 @@ private:
     std::shared_ptr<const FilePlace> m_place;
     OStreamFile<wchar_t> m_stream;
     platform::FileStatus m_status;
-    std::filesystem::path m_hiddenName; ///< empty while the file has none
-    std::filesystem::path m_hiddenPath;
+    platform::FileStatus m_protected;
+    platform::File m_former; ///< held open while it stands under the hidden name
+    platform::FileStatus m_formerStatus;
+    HiddenName m_hidden;
     bool m_begun = false;
     State m_state = State::Unnamed;
 };

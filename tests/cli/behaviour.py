@@ -234,6 +234,13 @@ class Behaviour(unittest.TestCase):
         nohup.send_signal(signal.SIGHUP)
         self.assertEqual(nohup.wait(60), 0, "what was ignored stays ignored")
 
+    def test_the_secret_that_comes_from_standard_input_is_no_output(self):
+        with open("pw", "rb") as stdin:
+            done = subprocess.run([CLI, "encrypt", "--force", "--password-file", "-", "--output", "pw", "plain"],
+                                  stdin=stdin, capture_output=True, timeout=60)
+        self.assertEqual(done.returncode, 1)
+        self.assertTrue(self.read("pw").startswith(PASSWORD.encode()))
+
     def test_force_keeps_the_former_output_until_the_new_one_is_whole(self):
         self.encrypt("plain")
         self.write("empty.enc", "short")

@@ -120,12 +120,13 @@ TEST_F(FileJob, LeavesAndTellsWhatItShould)
 
 TEST_F(FileJob, AnEncryptedFileIsForNobodyWhoCouldNotReadThePlainOne)
 {
-    ::umask(0022);
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
     for (const unsigned mode : {0600U, 0640U, 0644U, 0666U, 0400U}) {
         fs::permissions(folder / "plain", fs::perms(mode));
         fs::remove(folder / "out");
         EXPECT_TRUE(encrypt("plain", "out").done());
-        EXPECT_EQ(fs::status(folder / "out").permissions(), fs::perms(mode & ~0022U));
+        EXPECT_EQ(fs::status(folder / "out").permissions(), fs::perms(mode & ~mask));
     }
 }
 

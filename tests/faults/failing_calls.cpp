@@ -1,6 +1,7 @@
 // Preloaded into a program, this makes one of its system calls fail: the FAIL_AT-th call of the function
 // FAIL_CALL, counted from main on, ends with the error number FAIL_ERROR, or does nothing and gives 0 when
-// that is 0. When FAIL_COUNT names a file, the number of calls is written there at the end.
+// that is 0. Before it, the shell command FAIL_FIRST is run. When FAIL_COUNT names a file, the number of
+// calls is written there at the end.
 
 #include <cerrno>
 #include <cstdarg>
@@ -26,8 +27,12 @@ int (*programMain)(int, char**, char**);
 
 bool isDue(const char* name)
 {
-    return inMain && std::strcmp(name, wanted) == 0 &&
-           __atomic_add_fetch(&calls, 1, __ATOMIC_RELAXED) == failAt;
+    const bool due =
+        inMain && std::strcmp(name, wanted) == 0 && __atomic_add_fetch(&calls, 1, __ATOMIC_RELAXED) == failAt;
+    const char* first = due ? std::getenv("FAIL_FIRST") : nullptr;
+    if (first != nullptr && std::system(first) != 0)
+        std::abort();
+    return due;
 }
 
 template <class Function>

@@ -47,6 +47,18 @@ JOBS = {
     "decrypt, wrong password": ("decrypt", "encrypted", ["--password-file", "wrong", "--force"], True),
 }
 
+# What others do just before the n-th flush, the second of which is that of the folder, and whether that flush then
+# fails. Afterwards these files must have these contents: "new" is the result of the job.
+OTHERS = [
+    ("encrypt --force", 2, "mv other out", errno.EIO, {"out": "other"}),
+    ("encrypt --force", 2, "mv out moved", errno.EIO, {"out": "precious", "moved": "new"}),
+    ("encrypt --force", 2, "$CLI encrypt --password-file pw --output moved --force other", errno.EIO,
+     {"out": "precious"}),
+    ("encrypt", 2, "mv out moved", errno.EIO, {"moved": "new"}),
+    ("encrypt", 2, "mv other out", errno.EIO, {"out": "other"}),
+    ("encrypt --force", 1, "mv plain out", errno.EINTR, {"out": "input"}),
+]
+
 
 def read(name):
     with open(name, "rb") as file:
@@ -116,6 +128,23 @@ class Sweep:
             self.complaints += 1
             print(f"without memory for the key: {done.returncode}, {done.stderr.decode()}")
 
+    def among_others(self, job, at, command, error, expected):
+        write("other", b"other")
+        plain = read("plain")
+        contents = {"other": b"other", "precious": b"precious", "new": read("encrypted"), "input": plain}
+        os.environ["FAIL_FIRST"] = f"unset LD_PRELOAD FAIL_FIRST; CLI={CLI}; {command}"
+        code, told = self.run(job, "fsync", at, error)
+        del os.environ["FAIL_FIRST"]
+        left = {name: read(name) for name in expected if os.path.exists(name)}
+        strange = [name for name in os.listdir() if name.startswith(".quillet")]
+        if code != FAILED or left != {name: contents[what] for name, what in expected.items()} or strange:
+            self.complaints += 1
+            print(f"{job}: {command} at flush {at}: {code}, {told.strip()}, left {sorted(os.listdir())}")
+        write("plain", plain)
+        for name in ("other", "moved"):
+            if os.path.exists(name):
+                os.remove(name)
+
     def sweep(self, job, call, error, codes):
         expected = codes if "wrong" not in job else {WRONG if code == OK else code for code in codes} | {WRONG}
         at, step = 1, EVERY if call == "malloc" else 1
@@ -133,6 +162,8 @@ with tempfile.TemporaryDirectory() as scratch:
     os.chdir(scratch)
     sweep = Sweep()
     sweep.without_memory_for_the_key()
+    for row in OTHERS:
+        sweep.among_others(*row)
     for job in JOBS:
         for call, ways in CALLS.items():
             for error, codes in ways.items():

@@ -125,10 +125,22 @@ ResultCode CFileJob::run(std::uint32_t, std::uintptr_t task)
         runCipher();
         deliver([this] { emit m_dispatcher.notifyEncryptFinished(); });
     } else {
-        m_inputRemoval.set(removeInput(m_data.get()));
+        removeJobInput();
         deliver([this] { emit m_dispatcher.notifyInputRemovalFinished(); });
     }
     return {};
+}
+
+/// No exception leaves it, as with the cipher.
+void CFileJob::removeJobInput()
+{
+    InputRemoval removal;
+    try {
+        removal = removeInput(m_data.get());
+    } catch (...) {
+        removal.error = err::library(err::RunnableThrew);
+    }
+    m_inputRemoval.set(removal);
 }
 
 /// No exception leaves it: whatever happens, the outcome says how the job ended.

@@ -80,6 +80,7 @@ private:
     bool isJobCancelled() override;
 
     void runCipher();
+    void removeJobInput();
     tessaly::crypto::FileJobOutcome execute(Operation operation, tessaly::crypto::FileJobRequest& request);
     tessaly::ResultCode startThread(std::uintptr_t task);
 

@@ -99,6 +99,7 @@ private:
     {
         m_outcome.step = JobStep::CreateOutput;
         const auto place = std::make_shared<io::FilePlace>();
+        m_out.protect(m_outcome.input.status);
         ResultCode result = place->open(m_request.output);
         if (result.ok())
             result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status),

@@ -26,7 +26,9 @@ struct FileStatus
     std::uint64_t hardLinks = 0;
     std::int64_t size = 0;
     std::int64_t modifiedNs = 0; ///< since the system's epoch, modulo 2^64: only to compare for equality
-    std::uint32_t mode = 0;      ///< who may do what with it, as the system keeps it
+    /// Who may do what with it, as the system keeps it; for an open file with an access list what its
+    /// owner may.
+    std::uint32_t mode = 0;
     std::uint32_t group = 0;
 
     bool exists() const { return kind != FileKind::Missing; }
@@ -38,6 +40,8 @@ struct FileStatus
 
 /// Never blocks, whatever the path names. A path that cannot be examined counts as missing.
 FileStatus fileStatus(const std::filesystem::path& path);
+/// What standard input is connected to.
+FileStatus standardInputStatus();
 
 ResultCode removeFile(const std::filesystem::path& path);
 

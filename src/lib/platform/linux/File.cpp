@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -32,22 +33,33 @@ FileStatus toFileStatus(const struct stat& info)
 
 FileStatus entryStatus(int folder, const char* name)
 {
-    struct stat link = {};
-    if (::fstatat(folder, name, &link, AT_SYMLINK_NOFOLLOW) != 0)
+    struct stat info = {};
+    if (::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
         return {};
-    struct stat target = {};
     FileStatus status;
-    if (::fstatat(folder, name, &target, 0) == 0)
-        status = toFileStatus(target);
-    else
+    const bool isLink = S_ISLNK(info.st_mode);
+    if (isLink && ::fstatat(folder, name, &info, 0) != 0)
         status.kind = FileKind::DanglingLink;
-    status.isLink = S_ISLNK(link.st_mode);
+    else
+        status = toFileStatus(info);
+    status.isLink = isLink;
     return status;
+}
+
+bool hasAccessList(int handle)
+{
+    return ::fgetxattr(handle, "system.posix_acl_access", nullptr, 0) > 0;
 }
 
 bool isUsable(const std::filesystem::path& path)
 {
     return !path.empty() && path.native().find('\0') == std::string::npos;
+}
+
+FileStatus standardInputStatus()
+{
+    struct stat info = {};
+    return ::fstat(STDIN_FILENO, &info) == 0 ? toFileStatus(info) : FileStatus{};
 }
 
 FileStatus fileStatus(const std::filesystem::path& path)
@@ -124,6 +136,8 @@ ResultCode File::status(FileStatus& status) const
     if (::fstat(m_handle, &info) != 0)
         return err::system(errno);
     status = toFileStatus(info);
+    if (hasAccessList(m_handle)) // the group's bits then are a mask over the list
+        status.mode &= 0700U;
     return {};
 }
 

@@ -24,22 +24,34 @@ std::string handlePath(int handle)
     return "/proc/self/fd/" + std::to_string(handle);
 }
 
+constexpr mode_t OwnerOnly = 0600;
+
 fs::path parentOf(const fs::path& path)
 {
     return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
-/// A file of another group than the one it was meant for gives that group no more than everybody.
-ResultCode restrictGroup(int handle, std::uint32_t group)
+/// What the umask leaves of every new file. Read before there are threads.
+const mode_t umaskAtStart = [] {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return mask;
+}();
+
+/// Gives a file, which until now is its owner's alone, the rest of its access. A file that has got another
+/// group than it is meant for gives that group no more than everybody, and one with a list of its own
+/// (acl(5)), whose entries nobody has asked for, stays its owner's.
+ResultCode grant(int handle, mode_t mode, bool forGroup, std::uint32_t group)
 {
     struct stat info = {};
     if (::fstat(handle, &info) != 0)
         return err::system(errno);
-    const mode_t others = info.st_mode & 07U;
-    const mode_t restricted = (info.st_mode & 0707U) | (info.st_mode & (others << 3U));
-    if (info.st_gid == group || restricted == (info.st_mode & 0777U))
-        return {};
-    return outcome(::fchmod(handle, restricted) == 0);
+    mode &= ~umaskAtStart;
+    if (forGroup && info.st_gid != group)
+        mode = (mode & 0707U) | (mode & (mode & 07U) << 3U);
+    if (forGroup && hasAccessList(handle))
+        mode &= 0700U;
+    return mode == (info.st_mode & 0777U) ? ResultCode{} : outcome(::fchmod(handle, mode) == 0);
 }
 
 } // namespace
@@ -122,34 +134,32 @@ ResultCode Folder::createNameless(const Access& access, File& file) const
 {
     File created;
     created.m_handle =
-        uninterrupted([&] { return ::openat(m_handle, ".", WritingFlags | O_TMPFILE, access.m_mode); });
+        uninterrupted([&] { return ::openat(m_handle, ".", WritingFlags | O_TMPFILE, OwnerOnly); });
     if (!created.isOpen()) // a kernel or file system that does not know the flag sees a folder to write to
         return err::system(errno == EISDIR || errno == ENOENT || errno == EINVAL ? EOPNOTSUPP : errno);
     // Without /proc the file could never get its name.
     if (::access(handlePath(created.m_handle).c_str(), F_OK) != 0)
         return err::system(EOPNOTSUPP);
-    if (access.m_forGroup)
-        if (const ResultCode restricted = restrictGroup(created.m_handle, access.m_group); !restricted.ok())
-            return restricted;
-    file = std::move(created);
-    return {};
+    const ResultCode granted = grant(created.m_handle, access.m_mode, access.m_forGroup, access.m_group);
+    if (granted.ok())
+        file = std::move(created);
+    return granted;
 }
 
 ResultCode Folder::createNew(const fs::path& name, const Access& access, File& file) const
 {
     File created;
     created.m_handle = uninterrupted([&] {
-        return ::openat(m_handle, name.c_str(), WritingFlags | O_CREAT | O_EXCL | O_NOFOLLOW, access.m_mode);
+        return ::openat(m_handle, name.c_str(), WritingFlags | O_CREAT | O_EXCL | O_NOFOLLOW, OwnerOnly);
     });
     if (!created.isOpen())
         return err::system(errno);
-    if (access.m_forGroup)
-        if (const ResultCode restricted = restrictGroup(created.m_handle, access.m_group); !restricted.ok()) {
-            (void)remove(name);
-            return restricted;
-        }
-    file = std::move(created);
-    return {};
+    const ResultCode granted = grant(created.m_handle, access.m_mode, access.m_forGroup, access.m_group);
+    if (granted.ok())
+        file = std::move(created);
+    else
+        (void)remove(name);
+    return granted;
 }
 
 ResultCode Folder::link(const File& file, const fs::path& name) const
@@ -169,10 +179,11 @@ ResultCode Folder::renameToNew(const fs::path& from, const fs::path& to) const
         return result;
     result = call([&] { return ::linkat(m_handle, from.c_str(), m_handle, to.c_str(), 0); });
     if (result.ok())
-        return remove(from);
-    if (!isUnsupported(result) && result != err::system(EPERM))
+        (void)remove(from); // the name is given; a second one can be removed later, too
+    if (result.ok() || (!isUnsupported(result) && result != err::system(EPERM)))
         return result;
-    // A file system with neither: an empty file keeps the place for the moment until the rename.
+    // A file system with neither: an empty file keeps the place until the rename. A process that is killed
+    // in this moment leaves it.
     File place;
     if (const ResultCode kept = createNew(to, Access::ownerOnly(), place); !kept.ok())
         return kept;
