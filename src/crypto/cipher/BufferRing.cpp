@@ -10,7 +10,7 @@ namespace tessaly::crypto {
 namespace {
 
 constexpr std::size_t Page = 4096;
-constexpr std::uint64_t SmallStream = 512 << 10;
+constexpr std::uint64_t SmallStream = 256 << 10;
 /// Long enough that handing over between threads costs nothing, short enough for a prompt stop.
 constexpr std::uint64_t PieceBytes = 256 << 10;
 /// Two such rings are the memory of an operation; the disk may pause for their length.
