@@ -26,6 +26,7 @@
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolTip>
 
 namespace {
 
@@ -61,6 +62,14 @@ public:
     {
         save(name, widget, [] {});
     }
+    void saveToolTip(const QString& name, QWidget& widget)
+    {
+        QToolTip::showText(widget.mapToGlobal({}), widget.toolTip(), &widget);
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->inherits("QTipLabel"))
+                save(name, *window);
+        QToolTip::hideText();
+    }
 
 private:
     QDir m_folder;
@@ -78,6 +87,13 @@ void savePasswordDialogs(Gallery& gallery)
                          QStringLiteral("TR0UB4DO"));
         encrypt.findChild<QWidget*>(QStringLiteral("labelAdvancedMode"))->setFocus();
     });
+    CSetPasswordDialog seal;
+    seal.setAlgorithmName(QStringLiteral("AES-256"));
+    seal.setSeal(true);
+    seal.setUseSalt(true);
+    gallery.save(QStringLiteral("password_seal"), seal);
+    gallery.saveToolTip(QStringLiteral("password_seal_tip"),
+                        *seal.findChild<QWidget*>(QStringLiteral("checkBoxSeal")));
     CSetPasswordDialog decrypt;
     decrypt.setEncryptMode(false);
     decrypt.setAlgorithmName(QStringLiteral("AES-256"));
@@ -94,6 +110,7 @@ void saveKeyDialogs(Gallery& gallery)
     CSetKeyAndIvDialog generated;
     generated.setAlgorithmName(QStringLiteral("Threefish-1024"));
     generated.setExpectedLengths(128, 128);
+    generated.setSeal(true);
     gallery.save(QStringLiteral("key_generated"), generated, [&generated] {
         generated.findChild<QPushButton*>(QStringLiteral("buttonGenerate"))->click();
     });

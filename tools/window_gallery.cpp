@@ -9,6 +9,7 @@
 #include <QDir>
 
 #include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -51,6 +52,21 @@ void saveAll(test::WindowHarness& w, const std::function<void(const char*)>& sav
     run(Qt::Key_F6, "wrong");
     (void)w.waitForEnd();
     save("wrong_password");
+
+    CAppSettings().setValue(QStringLiteral("SealFiles"), true);
+    const std::string sealedName = "sealed.enc";
+    w.window->processCommandLine({"-ifile", w.path(name), "-ofile", w.path(sealedName.c_str())});
+    run(Qt::Key_F5, "secret");
+    (void)QTest::qWaitFor([&w] { return !w.progress().message().isEmpty(); });
+    save("making_key");
+    (void)w.waitForEnd();
+    save("sealed");
+    std::fstream(w.folder / sealedName, std::ios::in | std::ios::out | std::ios::binary).seekp(100 << 20)
+        << "changed";
+    w.window->processCommandLine({"-ifile", w.path(sealedName.c_str()), "-ofile", w.path("opened")});
+    run(Qt::Key_F6, "secret");
+    (void)w.waitForEnd();
+    save("damaged");
 }
 
 } // namespace
@@ -72,7 +88,7 @@ int main(int argc, char** argv)
     if (arguments.contains(QStringLiteral("dark")))
         QApplication::setPalette(darkPalette());
 
-    test::WindowHarness harness;
+    test::WindowHarness harness(thisapp::lookAtInput, {});
     if (arguments.contains(QStringLiteral("narrow")))
         harness.window->resize(480, harness.window->height());
     saveAll(harness, [&](const char* name) {

@@ -188,6 +188,12 @@ void CFileJob::jobStarted(std::int64_t total)
     emit m_dispatcher.notifyEncryptStarted();
 }
 
+void CFileJob::jobDerivingKey()
+{
+    m_progress.with([](JobProgress& progress) { progress.phase = JobPhase::DerivingKey; });
+    emit m_dispatcher.notifyEncryptProgress();
+}
+
 void CFileJob::jobProgress(std::int64_t processed, float)
 {
     m_progress.with([processed](JobProgress& progress) { progress.processed = processed; });

@@ -75,6 +75,7 @@ public:
 private:
     tessaly::ResultCode run(std::uint32_t value, std::uintptr_t task) override;
     void jobStarted(std::int64_t total) override;
+    void jobDerivingKey() override;
     void jobProgress(std::int64_t processed, float percent) override;
     void jobFlushing() override;
     bool isJobCancelled() override;

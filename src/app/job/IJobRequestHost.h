@@ -18,6 +18,7 @@ struct PasswordEntry
 {
     Operation operation = Operation::Encrypt;
     AlgSelection selection;
+    bool seal = false;
     bool useSalt = false;
     bool rewriteOutput = false;
     bool showAdvancedOptions = true;
@@ -34,6 +35,7 @@ struct KeyEntry
     AlgSelection selection;
     std::uint32_t keyLength = 0;
     std::uint32_t ivLength = 0;
+    bool seal = false;
     bool useSalt = false;
     bool rewriteOutput = false;
     tessaly::SecretBytes key;

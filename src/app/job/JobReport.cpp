@@ -40,6 +40,17 @@ std::function<QString()> filesOf(const SEncryptData& data)
     };
 }
 
+/// A job that is done, and that the encrypted file is a sealed one.
+QString successText(const OperationTexts& texts, Operation operation, bool sealed)
+{
+    if (!sealed)
+        return translated(texts.succeeded);
+    //: Follows "File was encrypted successfully. " or "File was decrypted successfully. "
+    const QString seal = operation == Operation::Encrypt ? Text::tr("It is sealed.")
+                                                         : Text::tr("It was sealed and is unchanged.");
+    return translated(texts.succeeded) + QStringLiteral(". ") + seal;
+}
+
 /// What a failed job was doing to which file.
 std::function<QString()> failedStep(const SEncryptData& data)
 {
@@ -48,18 +59,28 @@ std::function<QString()> failedStep(const SEncryptData& data)
     };
 }
 
-/// The check value can't tell these causes apart, so name them all.
-void explainCorruptedData(const SEncryptData& data, IMessageAreas& areas)
+QString advice(const ResultCode& failure, bool passwordMode)
 {
-    if (data.operation != Operation::Decrypt ||
-        data.outcome.result.first() != err::library(err::CheckValueDiffers))
-        return;
-    areas.showMessage(Area::Input, {MessageKind::Plain,
-                                    [mode = data.request.passwordMode] {
-                                        return mode ? Text::tr("Check the password and the algorithm.")
-                                                    : Text::tr("Check the key, the IV and the algorithm.");
-                                    },
-                                    pathText(data.request.input)});
+    // The check value can't tell these causes apart, so name them all.
+    if (failure == err::library(err::CheckValueDiffers))
+        return passwordMode ? Text::tr("Check the password and the algorithm.")
+                            : Text::tr("Check the key, the IV and the algorithm.");
+    // The beginning of the file was as it should be.
+    if (failure == err::library(err::SealBroken))
+        return passwordMode
+                   ? Text::tr("The password and the algorithm are right. Try another copy of the file.")
+                   : Text::tr("The key, the IV and the algorithm are right. Try another copy of the file.");
+    return {};
+}
+
+void adviseOnInput(const SEncryptData& data, IMessageAreas& areas)
+{
+    const ResultCode failure = data.outcome.result.first();
+    const bool passwordMode = data.request.passwordMode;
+    if (data.operation == Operation::Decrypt && !advice(failure, passwordMode).isEmpty())
+        areas.showMessage(Area::Input, {MessageKind::Plain,
+                                        [failure, passwordMode] { return advice(failure, passwordMode); },
+                                        pathText(data.request.input)});
 }
 
 } // namespace
@@ -85,9 +106,12 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
             Area::Result,
             {MessageKind::Error, [&texts] { return translated(texts.cancelled); }, {}, filesOf(data)});
     } else if (outcome.result.ok()) {
-        areas.showMessage(
-            Area::Result,
-            {MessageKind::Success, [&texts] { return translated(texts.succeeded); }, {}, filesOf(data)});
+        areas.showMessage(Area::Result, {MessageKind::Success,
+                                         [&texts, operation = data.operation, sealed = outcome.sealed] {
+                                             return successText(texts, operation, sealed);
+                                         },
+                                         {},
+                                         filesOf(data)});
     } else {
         logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
         reportRemovedOutput(data, areas);
@@ -97,7 +121,7 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
                                          },
                                          {},
                                          failedStep(data)});
-        explainCorruptedData(data, areas);
+        adviseOnInput(data, areas);
     }
 }
 

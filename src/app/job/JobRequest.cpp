@@ -160,6 +160,7 @@ JobRequest::Verdict JobRequest::settingsAreRead()
     m_question.showAdvancedOptions = readSetting(settings, keys::ShowAdvancedPasswordOptions);
     m_question.showPassword = readSetting(settings, keys::ShowPassword);
     if (m_data.operation == Operation::Encrypt) {
+        m_question.seal = readSetting(settings, keys::SealFiles);
         m_question.useSalt = readSetting(settings, keys::UseSalt);
         m_question.useConfirmPassword = readSetting(settings, keys::UseConfirmPassword);
     }
@@ -177,6 +178,7 @@ JobRequest::Verdict JobRequest::secretIsEntered()
         m_question.switchToAdvanced = false;
         if (!m_host.enterPassword(m_question))
             return passwordNotDefined();
+        m_data.request.seal = keyEntry.seal = m_question.seal;
         m_data.request.useSalt = keyEntry.useSalt = m_question.useSalt;
         m_data.rewriteOutput = keyEntry.rewriteOutput = m_question.rewriteOutput;
         if (!m_question.switchToAdvanced) {
@@ -190,6 +192,7 @@ JobRequest::Verdict JobRequest::secretIsEntered()
         keyEntry.switchToNormal = false;
         if (!m_host.enterKeyAndIv(keyEntry))
             return passwordNotDefined();
+        m_data.request.seal = m_question.seal = keyEntry.seal;
         m_data.request.useSalt = m_question.useSalt = keyEntry.useSalt;
         m_data.rewriteOutput = m_question.rewriteOutput = keyEntry.rewriteOutput;
         if (!keyEntry.switchToNormal) {

@@ -27,6 +27,8 @@ QString speedText(double bytesPerSecond)
 
 QString stepText(Operation operation, JobPhase phase, const ProgressTracker& progress)
 {
+    if (phase == JobPhase::DerivingKey)
+        return Text::tr("Making the key of the password");
     if (phase == JobPhase::Flushing)
         return Text::tr("Waiting until the disk has stored the file");
     const QString step = translated(operationTexts(operation).step);

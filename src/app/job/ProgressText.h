@@ -14,6 +14,7 @@ class ProgressTracker;
 /// What a job is busy with.
 enum class JobPhase {
     Processing,
+    DerivingKey,   ///< of a sealed file; before the processing, or between two attempts at it
     Flushing,      ///< all is written, the disk has yet to store it
     RemovingInput, ///< after the end of the job proper
 };

@@ -135,6 +135,7 @@ void CMainWindow::requestJob(Operation operation)
     if (!job)
         return;
 
+    job->request.cost = m_services.cost;
     const QString input = pathText(job->request.input);
     const ResultCode started = m_job.start(std::move(*job));
     if (started.ok())

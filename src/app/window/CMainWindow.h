@@ -12,6 +12,7 @@
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
 #include "crypto/cipher/ICipherFactory.h"
+#include "crypto/sealed/Argon2.h"
 #include "ui/disk/CDiskWork.h"
 
 #include <QMainWindow>
@@ -31,6 +32,7 @@ struct WindowServices
     desktop::ITaskbarProgress& taskbar;
     desktop::INotifier& notifier;
     InputLook look = lookAtInput;
+    tessaly::crypto::Argon2Cost cost = {}; ///< see FileJobRequest
 };
 
 } // namespace thisapp

@@ -71,6 +71,7 @@ bool CRequestHost::enterPassword(PasswordEntry& entry)
     CSetPasswordDialog dialog(&m_window);
     dialog.setEncryptMode(entry.operation == Operation::Encrypt);
     dialog.setAlgorithmName(m_algorithms.displayName(entry.selection));
+    dialog.setSeal(entry.seal);
     dialog.setUseSalt(entry.useSalt);
     dialog.setRewriteOutputFile(entry.rewriteOutput);
     dialog.setShowAdvancedOptions(entry.showAdvancedOptions);
@@ -80,6 +81,7 @@ bool CRequestHost::enterPassword(PasswordEntry& entry)
     entry.switchToAdvanced = dialog.switchToAdvanced();
     if (!accepted && !entry.switchToAdvanced)
         return false;
+    entry.seal = dialog.seal();
     entry.useSalt = dialog.useSalt();
     entry.rewriteOutput = dialog.rewriteOutputFile();
     entry.password = dialog.password();
@@ -92,6 +94,7 @@ bool CRequestHost::enterKeyAndIv(KeyEntry& entry)
     dialog.setEncryptMode(entry.operation == Operation::Encrypt);
     dialog.setAlgorithmName(m_algorithms.displayName(entry.selection));
     dialog.setExpectedLengths(entry.keyLength, entry.ivLength);
+    dialog.setSeal(entry.seal);
     dialog.setUseSalt(entry.useSalt);
     dialog.setRewriteOutputFile(entry.rewriteOutput);
     dialog.setTyped({entry.typedIv, entry.typedKey});
@@ -99,6 +102,7 @@ bool CRequestHost::enterKeyAndIv(KeyEntry& entry)
     entry.switchToNormal = dialog.switchToNormal();
     if (!accepted && !entry.switchToNormal)
         return false;
+    entry.seal = dialog.seal();
     entry.useSalt = dialog.useSalt();
     entry.rewriteOutput = dialog.rewriteOutputFile();
     entry.typedIv = dialog.typed().iv;

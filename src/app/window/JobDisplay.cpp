@@ -25,6 +25,7 @@ void JobDisplay::begin(const QString& input, std::int64_t size)
 
 void JobDisplay::showStarted()
 {
+    m_progress.reset(m_progress.total(), m_clock.elapsed());
     m_taskbar.show();
     m_taskbar.setValue(0);
     m_form.progressFrame().setProgress(0, {MessageKind::Plain, startText});

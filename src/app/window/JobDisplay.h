@@ -24,6 +24,7 @@ public:
 
     /// A job over the file of `size` bytes has been started.
     void begin(const QString& input, std::int64_t size);
+    /// The engine begins; what took its time before that says nothing of its speed.
     void showStarted();
     void showProgress(Operation operation, const JobProgress& progress);
     void resetProgress() { m_progress.reset(); }

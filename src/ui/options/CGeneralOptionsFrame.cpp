@@ -3,6 +3,7 @@
 #include "common/settings/SAppOptions.h"
 #include "common/settings/TextRules.h"
 #include "ui/algorithms/AlgListFiller.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui_CGeneralOptionsFrame.h"
 
 #include <QDir>
@@ -34,7 +35,7 @@ CGeneralOptionsFrame::CGeneralOptionsFrame(QWidget* parent)
 {
     m_ui->setupUi(this);
     indentDependents();
-    fillShortcuts();
+    fillTexts();
 
     enableWith(*m_ui->checkUseDefaultAlgorithm, {m_ui->labelAlgorithm, m_ui->comboAlgorithm});
     enableWith(*m_ui->checkUseOutputDir, {m_ui->labelOutputDir, m_ui->editOutputDir, m_ui->buttonBrowse});
@@ -60,6 +61,7 @@ std::vector<CGeneralOptionsFrame::Box> CGeneralOptionsFrame::boxes() const
             {m_ui->checkShowPassword, &SAppOptions::showPassword},
             {m_ui->checkConfirmPassword, &SAppOptions::useConfirmPassword},
             {m_ui->checkAdvancedMode, &SAppOptions::showAdvancedPasswordOptions},
+            {m_ui->checkSeal, &SAppOptions::sealFiles},
             {m_ui->checkSalt, &SAppOptions::useSalt},
             {m_ui->checkShowConfirm, &SAppOptions::showConfirmDialog},
             {m_ui->checkRewrite, &SAppOptions::rewriteOutputFile},
@@ -135,8 +137,14 @@ void CGeneralOptionsFrame::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
-        fillShortcuts();
+        fillTexts();
     }
+}
+
+void CGeneralOptionsFrame::fillTexts()
+{
+    thisapp::showDescriptionAsToolTip(*m_ui->checkSeal);
+    fillShortcuts();
 }
 
 /// What depends on a check box starts below the box's text.

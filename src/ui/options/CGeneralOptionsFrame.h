@@ -60,6 +60,7 @@ private:
     struct Box;
     std::vector<Box> boxes() const;
     void indentDependents();
+    void fillTexts();
     void fillShortcuts();
 
     std::unique_ptr<Ui::CGeneralOptionsFrame> m_ui;

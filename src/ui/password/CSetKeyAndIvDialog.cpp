@@ -7,6 +7,7 @@
 #include "ui/password/HexCheck.h"
 #include "ui/password/KeyAndIvText.h"
 #include "ui/password/SecretFields.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
@@ -38,6 +39,7 @@ CSetKeyAndIvDialog::CSetKeyAndIvDialog(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->labelNormalMode->setLinkText(tr("Show simple options"));
     m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 90, 1).width());
+    thisapp::showDescriptionAsToolTip(*m_ui->checkBoxSeal);
     connectWidgets();
 }
 
@@ -54,6 +56,7 @@ void CSetKeyAndIvDialog::connectWidgets()
     connect(m_ui->buttonCopy, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiCopy);
     connect(m_ui->buttonSave, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiSave);
     connect(m_ui->labelNormalMode, &QLabel::linkActivated, this, &CSetKeyAndIvDialog::onUiSwitchToNormalMode);
+    connect(m_ui->checkBoxSeal, &QCheckBox::toggled, m_ui->checkBoxUseSalt, &QWidget::setDisabled);
     connect(m_ui->buttonOk, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiOk);
     connect(m_ui->buttonCancel, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiCancel);
 }
@@ -81,8 +84,10 @@ void CSetKeyAndIvDialog::hideEvent(QHideEvent* event)
 void CSetKeyAndIvDialog::prepare()
 {
     showTexts();
+    m_ui->checkBoxSeal->setVisible(m_encrypt);
     m_ui->checkBoxUseSalt->setVisible(m_encrypt);
     m_ui->frameTools->setVisible(m_encrypt);
+    m_ui->checkBoxSeal->setChecked(m_seal);
     m_ui->checkBoxUseSalt->setChecked(m_useSalt);
     m_ui->checkBoxRewrite->setChecked(m_rewriteOutputFile);
     m_ui->plainTextEditIv->setExpectedLength(m_ivLength);
@@ -159,6 +164,7 @@ void CSetKeyAndIvDialog::takeResults()
     m_typed = {thisapp::typedText(*m_ui->plainTextEditIv), thisapp::typedText(*m_ui->plainTextEditKey)};
     m_iv = decodeHex(m_typed.iv.view()).value_or(SecretBytes());
     m_key = decodeHex(m_typed.key.view()).value_or(SecretBytes());
+    m_seal = m_ui->checkBoxSeal->isChecked();
     m_useSalt = m_ui->checkBoxUseSalt->isChecked();
     m_rewriteOutputFile = m_ui->checkBoxRewrite->isChecked();
 }

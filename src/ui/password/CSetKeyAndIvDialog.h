@@ -31,6 +31,8 @@ public:
     void setEncryptMode(bool encrypt) { m_encrypt = encrypt; }
     /// In bytes.
     void setExpectedLengths(std::uint32_t keyLength, std::uint32_t ivLength);
+    /// The seal and the salt are only offered when encrypting; with a seal the salt makes no difference.
+    void setSeal(bool seal) { m_seal = seal; }
     void setUseSalt(bool use) { m_useSalt = use; }
     void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
     void setAlgorithmName(const QString& name) { m_algorithmName = name; }
@@ -42,6 +44,7 @@ public:
     const tessaly::SecretBytes& iv() const { return m_iv; }
     /// What the user had typed at OK or at the switch, for the next dialog of the same operation.
     const STyped& typed() const { return m_typed; }
+    bool seal() const { return m_seal; }
     bool useSalt() const { return m_useSalt; }
     bool rewriteOutputFile() const { return m_rewriteOutputFile; }
     bool switchToNormal() const { return m_switchToNormal; }
@@ -75,6 +78,7 @@ private:
     bool m_encrypt = true;
     std::uint32_t m_keyLength = 0;
     std::uint32_t m_ivLength = 0;
+    bool m_seal = false;
     bool m_useSalt = false;
     bool m_rewriteOutputFile = false;
     bool m_switchToNormal = false;

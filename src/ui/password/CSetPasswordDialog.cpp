@@ -5,6 +5,7 @@
 #include "ui/password/CapsLockWatcher.h"
 #include "ui/password/PasswordStrength.h"
 #include "ui/password/SecretFields.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetPasswordDialog.h"
 
@@ -17,6 +18,7 @@ CSetPasswordDialog::CSetPasswordDialog(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 56, 1).width());
     m_ui->labelAdvancedMode->setLinkText(tr("Show advanced options"));
+    thisapp::showDescriptionAsToolTip(*m_ui->checkBoxSeal);
     connectWidgets();
 }
 
@@ -34,6 +36,7 @@ void CSetPasswordDialog::connectWidgets()
             &CSetPasswordDialog::onUiShowPasswordToggled);
     connect(m_ui->labelAdvancedMode, &QLabel::linkActivated, this,
             &CSetPasswordDialog::onUiSwitchToAdvancedMode);
+    connect(m_ui->checkBoxSeal, &QCheckBox::toggled, m_ui->checkBoxUseSalt, &QWidget::setDisabled);
     connect(m_ui->buttonOk, &QPushButton::clicked, this, &CSetPasswordDialog::onUiOk);
     connect(m_ui->buttonCancel, &QPushButton::clicked, this, &CSetPasswordDialog::onUiCancel);
 
@@ -71,8 +74,10 @@ void CSetPasswordDialog::prepare()
 
     m_ui->frameConfirmPassword->setVisible(confirms());
     m_ui->labelStrength->setVisible(m_encrypt);
+    m_ui->checkBoxSeal->setVisible(m_encrypt);
     m_ui->checkBoxUseSalt->setVisible(m_encrypt);
     m_ui->labelAdvancedMode->setVisible(m_showAdvancedOptions);
+    m_ui->checkBoxSeal->setChecked(m_seal);
     m_ui->checkBoxUseSalt->setChecked(m_useSalt);
     m_ui->checkBoxRewrite->setChecked(m_rewriteOutputFile);
     m_ui->checkBoxShowPassword->setChecked(m_showPassword);
@@ -152,6 +157,7 @@ void CSetPasswordDialog::showStrength(const QString& password)
 
 void CSetPasswordDialog::storeOptions()
 {
+    m_seal = m_ui->checkBoxSeal->isChecked();
     m_useSalt = m_ui->checkBoxUseSalt->isChecked();
     m_rewriteOutputFile = m_ui->checkBoxRewrite->isChecked();
 }

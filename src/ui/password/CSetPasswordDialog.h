@@ -25,12 +25,15 @@ public:
     void setUseConfirmPassword(bool use) { m_useConfirmPassword = use; }
     void setShowPassword(bool show) { m_showPassword = show; }
     void setShowAdvancedOptions(bool show) { m_showAdvancedOptions = show; }
+    /// The seal and the salt are only offered when encrypting; with a seal the salt makes no difference.
+    void setSeal(bool seal) { m_seal = seal; }
     void setUseSalt(bool use) { m_useSalt = use; }
     void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
     void setAlgorithmName(const QString& name) { m_algorithmName = name; }
 
     /// UTF-8; empty unless accepted without a switch.
     const tessaly::SecretText& password() const { return m_password; }
+    bool seal() const { return m_seal; }
     bool useSalt() const { return m_useSalt; }
     bool rewriteOutputFile() const { return m_rewriteOutputFile; }
     bool switchToAdvanced() const { return m_switchToAdvanced; }
@@ -63,6 +66,7 @@ private:
     bool m_useConfirmPassword = true;
     bool m_showPassword = false;
     bool m_showAdvancedOptions = true;
+    bool m_seal = false;
     bool m_useSalt = false;
     bool m_rewriteOutputFile = false;
     bool m_switchToAdvanced = false;

@@ -10,4 +10,10 @@ void setPlainToolTip(QWidget& widget, const QString& text)
     widget.setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
+void showDescriptionAsToolTip(QWidget& widget)
+{
+    // Qt breaks only rich text into lines.
+    widget.setToolTip(Qt::convertFromPlainText(widget.accessibleDescription(), Qt::WhiteSpaceNormal));
+}
+
 } // namespace thisapp

@@ -180,6 +180,7 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
     int visits = 0;
     host.password = [&visits](PasswordEntry& entry) {
         EXPECT_EQ(entry.useSalt, visits == 1) << "what the other dialog left";
+        EXPECT_EQ(entry.seal, visits == 1);
         if (visits++ == 0)
             return entry.switchToAdvanced = true;
         entry.password = SecretText("secret");
@@ -187,12 +188,12 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
     };
     host.key = [](KeyEntry& entry) {
         EXPECT_TRUE(entry.keyLength == 32 && entry.ivLength == 16);
-        return entry.switchToNormal = entry.useSalt = true;
+        return entry.switchToNormal = entry.useSalt = entry.seal = true;
     };
     const auto request = JobRequest(GetParam(), host, host).run();
     ASSERT_TRUE(request);
     EXPECT_EQ(visits, 2);
-    EXPECT_TRUE(request->request.passwordMode && request->request.useSalt);
+    EXPECT_TRUE(request->request.passwordMode && request->request.useSalt && request->request.seal);
     EXPECT_EQ(request->request.existing, crypto::ExistingOutput::Keep);
     EXPECT_EQ(request->request.password.view(), "secret");
     EXPECT_TRUE(request->request.key.empty());
@@ -203,13 +204,14 @@ TEST_P(JobRequestTest, AsksAsTheSettingsSay)
     const bool encrypting = GetParam() == Operation::Encrypt;
     for (const bool value : {false, true}) {
         CAppSettings settings;
-        for (const char* key : {"UseSalt", "RewriteOutputFile", "ShowAdvancedPasswordOptions", "ShowPassword",
-                                "UseConfirmPassword"})
+        for (const char* key : {"SealFiles", "UseSalt", "RewriteOutputFile", "ShowAdvancedPasswordOptions",
+                                "ShowPassword", "UseConfirmPassword"})
             settings.setValue(key, value);
         settings.sync();
         host.input = path("in.txt");
         host.output = path("new");
         host.password = [&](PasswordEntry& entry) {
+            EXPECT_EQ(entry.seal, encrypting && value);
             EXPECT_EQ(entry.useSalt, encrypting && value);
             EXPECT_EQ(entry.rewriteOutput, value);
             EXPECT_EQ(entry.showAdvancedOptions, value);

@@ -110,6 +110,55 @@ TEST_F(MainWindowTest, RefusesAWrongPasswordBeforeItWrites)
     EXPECT_TRUE(fs::exists(folder() / "out"));
 }
 
+TEST_F(MainWindowTest, SealsAndOpensFiles)
+{
+    constexpr std::size_t Size = 200'000; // four pieces
+    set({{"SealFiles", true},
+         {"DeleteSourceFileAfterEncryption", true},
+         {"ConfirmDeleteSourceFileAfterEncryption", false}});
+    w.writeInput("in", Size);
+    const std::string plain = test::readFile(folder() / "in");
+    encrypt();
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File was encrypted successfully. It is sealed.");
+    EXPECT_EQ(fs::file_size(folder() / "out"), 32 + 200'064 + 4 * 16) << "salt, plain format, tags";
+    EXPECT_FALSE(fs::exists(folder() / "in")) << w.text("inputMessage");
+
+    run(Qt::Key_F6, w.path("out"), w.path("back"));
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File was decrypted successfully. It was sealed and is unchanged.");
+    EXPECT_EQ(test::readFile(folder() / "back"), plain);
+
+    std::string damaged = test::readFile(folder() / "out");
+    damaged[Size / 2] ^= 1;
+    folder().write("damaged", damaged);
+    run(Qt::Key_F6, w.path("damaged"), w.path("none"));
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "Failed to decrypt file. The file is damaged or has been changed (error: 5/4010)");
+    EXPECT_EQ(w.text("inputMessage"),
+              "The password and the algorithm are right. Try another copy of the file.");
+    EXPECT_FALSE(fs::exists(folder() / "none"));
+}
+
+/// At the cost that users have, to be in time.
+TEST(SealTest, StopsWhileTheKeyIsMade)
+{
+    CAppSettings().clear();
+    CAppSettings().setValue("SealFiles", true);
+    WindowHarness w(lookAtInput, {});
+    w.writeInput("in", 10);
+    w.input().setText(w.path("in"));
+    w.output().setText(w.path("out"));
+    w.answerPassword("secret");
+    QTest::keyClick(w.window.get(), Qt::Key_F5);
+    ASSERT_TRUE(QTest::qWaitFor([&w] { return w.progress().message() != ""; }));
+    EXPECT_EQ(w.progress().message(), "Making the key of the password. 0.000% processed");
+    QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File encryption was canceled");
+    EXPECT_FALSE(fs::exists(w.folder / "out"));
+}
+
 TEST_F(MainWindowTest, KeepsAnExistingOutputUnlessToldToRewrite)
 {
     w.writeInput("in", 1000);

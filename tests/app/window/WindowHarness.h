@@ -52,13 +52,17 @@ class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisap
 public:
     static constexpr int JobTimeoutMs = 60'000;
 
-    explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput)
+    /// The least that Argon2 takes.
+    static constexpr tessaly::crypto::Argon2Cost Cheap{1, 32, 4};
+
+    explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput,
+                           tessaly::crypto::Argon2Cost cost = Cheap)
         : translations(folder.wide("translations"), "Quillet"),
           translator(translations.bundle()),
           logging(folder / "quillet.log"),
           options({algorithms, translations, translator, logging, [](bool, bool) {}}),
           window(std::make_unique<CMainWindow>(thisapp::WindowServices{
-              encryptors, decryptors, algorithms, options, *this, *this, std::move(look)}))
+              encryptors, decryptors, algorithms, options, *this, *this, std::move(look), cost}))
     {
         window->show();
     }

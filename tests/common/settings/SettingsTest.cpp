@@ -78,7 +78,7 @@ TEST_F(Settings, DefaultsInTheOrderOfWriting)
               "EncFileNameAddSuffix=false EncFileNameAddPrefix=false EncFileNameAddDate=false "
               "EncFileNameExt=enc EncFileNameSuffix= EncFileNamePrefix= DecFileNameAddExt=true "
               "DecFileNameAddSuffix=false DecFileNameAddPrefix=false DecFileNameAddDate=false "
-              "DecFileNameExt=dec DecFileNameSuffix= DecFileNamePrefix= ");
+              "DecFileNameExt=dec DecFileNameSuffix= DecFileNamePrefix= SealFiles=false ");
     EXPECT_FALSE(QFile::exists(file())) << "reading writes nothing";
 }
 
@@ -86,7 +86,7 @@ TEST_F(Settings, WritingWithoutChangesStoresAllButLocaleAndAlgorithm)
 {
     CAppSettings settings;
     EXPECT_FALSE(thisapp::writeOptions(settings, read())) << "no change of the desktop integration";
-    EXPECT_EQ(settings.allKeys().size(), 30);
+    EXPECT_EQ(settings.allKeys().size(), 31);
     for (const char* key : {"LocaleId", "DefaultCryptoLibrary", "DefaultCryptoAlgorithm"})
         EXPECT_FALSE(settings.contains(key)) << key;
 

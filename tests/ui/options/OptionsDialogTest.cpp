@@ -105,6 +105,7 @@ TEST_F(OptionsDialog, EveryCheckBoxStandsForItsOption)
          &SAppOptions::confirmDeleteSourceFileAfterEncryption},
         {"frameGeneral", "Set default algorithm at starting of program",
          &SAppOptions::useDefaultAlgorithmAtStarting},
+        {"frameGeneral", "Seal encrypted files", &SAppOptions::sealFiles},
         {"frameGeneral", "Use salt", &SAppOptions::useSalt},
         {"frameGeneral", "Rewrite output file", &SAppOptions::rewriteOutputFile},
         {"frameGeneral", "Use advanced mode to enter key and IV", &SAppOptions::showAdvancedPasswordOptions},
@@ -368,8 +369,8 @@ TEST_F(OptionsDialog, KeyboardAlone)
     // Each control in the order of the page, scrolled into sight as it gets the focus.
     for (const char* name :
          {"checkContextMenu", "checkSendTo", "comboLanguage", "checkUseDefaultAlgorithm", "comboAlgorithm",
-          "checkShowPassword", "checkConfirmPassword", "checkAdvancedMode", "checkSalt", "checkShowConfirm",
-          "checkRewrite", "checkAutogenerate", "checkUseOutputDir"}) {
+          "checkShowPassword", "checkConfirmPassword", "checkAdvancedMode", "checkSeal", "checkSalt",
+          "checkShowConfirm", "checkRewrite", "checkAutogenerate", "checkUseOutputDir"}) {
         ASSERT_TRUE(tabTo(child(dialog, name))) << name;
         EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty()) << name << " is out of sight";
     }

@@ -88,6 +88,7 @@ TEST_F(KeyAndIvDialog, TakesNoMegabyteFromTheClipboard)
 
 TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
 {
+    dialog.setSeal(true);
     dialog.setUseSalt(true);
     open(dialog);
     EXPECT_EQ(message(), QString()) << "nothing to complain of yet";
@@ -96,10 +97,13 @@ TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     type("a1a2");
     press(Qt::Key_Return); // a line break in the key
     type("a3a4");
-    for (const char* name : {"buttonGenerate", "buttonCopy", "buttonSave", "checkBoxUseSalt"}) {
+    for (const char* name : {"buttonGenerate", "buttonCopy", "buttonSave", "checkBoxSeal"}) {
         press(Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), &child(dialog, name));
     }
+    press(Qt::Key_Space); // no seal, or there is no salt to choose
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &child(dialog, "checkBoxUseSalt"));
     press(Qt::Key_Space); // use salt
     press(Qt::Key_Tab);
     press(Qt::Key_Space); // rewrite
@@ -111,6 +115,7 @@ TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     EXPECT_FALSE(dialog.switchToNormal());
     EXPECT_EQ(dialog.iv(), bytes("0102"));
     EXPECT_EQ(dialog.key(), bytes("a1a2a3a4"));
+    EXPECT_FALSE(dialog.seal());
     EXPECT_FALSE(dialog.useSalt());
     EXPECT_TRUE(dialog.rewriteOutputFile());
     EXPECT_TRUE(key.document()->isEmpty());
@@ -128,8 +133,8 @@ TEST_F(KeyAndIvDialog, TitlesAndLabelsTellModeAndLengths)
     EXPECT_EQ(dialog.windowTitle(), "Key and IV to decrypt");
     EXPECT_EQ(child<QTextEdit>(dialog, "textEditInfo").toPlainText(),
               "Enter the key and IV to decrypt the file. \nSelected cryptographic algorithm: Toy.");
-    EXPECT_FALSE(child(dialog, "buttonGenerate").isVisible());
-    EXPECT_FALSE(child(dialog, "checkBoxUseSalt").isVisible());
+    for (const char* hidden : {"buttonGenerate", "checkBoxSeal", "checkBoxUseSalt"})
+        EXPECT_FALSE(child(dialog, hidden).isVisible()) << hidden;
 }
 
 TEST_F(KeyAndIvDialog, HandsOverToThePasswordDialogAndKeepsWhatWasTyped)
@@ -138,10 +143,13 @@ TEST_F(KeyAndIvDialog, HandsOverToThePasswordDialogAndKeepsWhatWasTyped)
     type("0102");
     press(Qt::Key_Tab);
     type("a1a2a");
+    press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_FALSE(child(dialog, "checkBoxUseSalt").isEnabled());
     child(dialog, "labelNormalMode").setFocus();
     press(Qt::Key_Space);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_TRUE(dialog.switchToNormal());
+    EXPECT_TRUE(dialog.seal());
     EXPECT_EQ(dialog.iv(), bytes("0102"));
     EXPECT_TRUE(dialog.key().empty()) << "half a byte is no key";
 

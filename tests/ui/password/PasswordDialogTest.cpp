@@ -76,6 +76,7 @@ TEST_F(PasswordDialog, RefusesCharactersThatNobodySees)
 
 TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
 {
+    dialog.setSeal(true);
     dialog.setUseSalt(true);
     open(dialog);
     type("p\xc3\xa4ss");
@@ -85,6 +86,9 @@ TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     EXPECT_EQ(password.echoMode(), QLineEdit::Password);
     press(Qt::Key_Space); // show password
     EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
+    press(Qt::Key_Tab);
+    EXPECT_FALSE(child(dialog, "checkBoxUseSalt").isEnabled()) << "a seal has one";
+    press(Qt::Key_Space); // no seal
     press(Qt::Key_Tab);
     press(Qt::Key_Space); // use salt
     press(Qt::Key_Tab);
@@ -97,6 +101,7 @@ TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.switchToAdvanced());
     EXPECT_EQ(dialog.password().view(), "p\xc3\xa4ss") << "in UTF-8";
+    EXPECT_FALSE(dialog.seal());
     EXPECT_FALSE(dialog.useSalt());
     EXPECT_TRUE(dialog.rewriteOutputFile());
 }
@@ -108,7 +113,8 @@ TEST_F(PasswordDialog, DecryptingAsksOnce)
     EXPECT_EQ(dialog.windowTitle(), "Password to decrypt");
     EXPECT_EQ(child<QTextEdit>(dialog, "textEditInfo").toPlainText(),
               "Enter the password to decrypt the file. \nSelected cryptographic algorithm: AES-256.");
-    for (const char* hidden : {"labelConfirmPassword", "lineEditConfirmPassword", "checkBoxUseSalt"})
+    for (const char* hidden :
+         {"labelConfirmPassword", "lineEditConfirmPassword", "checkBoxSeal", "checkBoxUseSalt"})
         EXPECT_FALSE(child(dialog, hidden).isVisible()) << hidden;
     EXPECT_TRUE(child(dialog, "checkBoxRewrite").isVisible());
     type("abc");
@@ -135,14 +141,17 @@ TEST_F(PasswordDialog, FollowsTheSettings)
 
 TEST_F(PasswordDialog, HandsOverToTheKeyDialogWithTheOptionsButNoPassword)
 {
+    dialog.setUseSalt(true);
     open(dialog);
     type("abc"); // not confirmed: no matter here
+    press(Qt::Key_E, Qt::AltModifier);
     press(Qt::Key_R, Qt::AltModifier);
     child(dialog, "labelAdvancedMode").setFocus();
     press(Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_TRUE(dialog.switchToAdvanced());
-    EXPECT_TRUE(dialog.rewriteOutputFile());
+    EXPECT_TRUE(dialog.seal() && dialog.rewriteOutputFile());
+    EXPECT_TRUE(dialog.useSalt()) << "disabled, but not forgotten";
     EXPECT_TRUE(dialog.password().empty());
 }
 
