@@ -3,6 +3,7 @@
 #include "common/settings/CAppSettings.h"
 #include "support/Environment.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/algorithms/CSetAlgDialog.h"
 #include "ui/options/COptionsDialog.h"
 
 #include <QCheckBox>
@@ -471,7 +472,7 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
     }
 }
 
-TEST_F(MainWindowTest, OptionsThatCannotBeSavedComeBackWithTheReason)
+TEST_F(MainWindowTest, TellsOfWhatCannotBeSaved)
 {
     folder().write("file", "");
     const test::Environment nowhere("XDG_CONFIG_HOME", (folder() / "file").c_str());
@@ -489,6 +490,13 @@ TEST_F(MainWindowTest, OptionsThatCannotBeSavedComeBackWithTheReason)
     ASSERT_EQ(messages.size(), 2);
     EXPECT_EQ(messages[0], "");
     EXPECT_TRUE(messages[1].startsWith("The options can't be saved in ")) << messages[1].toStdString();
+
+    w.onDialog<CSetAlgDialog>([](CSetAlgDialog& dialog) {
+        dialog.findChild<QCheckBox*>()->setChecked(true);
+        dialog.accept();
+    });
+    w.window->findChild<QAction*>("default-algorithm")->trigger();
+    EXPECT_EQ(w.result(), messages[1].toStdString());
 }
 
 } // namespace
