@@ -65,12 +65,12 @@ std::optional<RequestFacts> CRequestHost::look(const std::filesystem::path& inpu
 
 QString CRequestHost::chooseInput(const QString& title)
 {
-    return askFileToOpen(&m_window, title, {});
+    return askFileToOpen(&m_window, m_disk, title, {});
 }
 
 QString CRequestHost::chooseOutput(const QString& title)
 {
-    return askFileToSave(&m_window, title, m_form.inputText().trimmed());
+    return askFileToSave(&m_window, m_disk, title, m_form.inputText().trimmed());
 }
 
 bool CRequestHost::enterPassword(PasswordEntry& entry)
