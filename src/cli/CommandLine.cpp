@@ -19,6 +19,12 @@ struct Parsed
     std::string algorithm{tessaly::crypto::displayName(tessaly::crypto::DefaultAlgorithmId)};
 };
 
+/// What is wrong with the name of a file; empty when nothing is.
+std::string emptyNameProblem(const std::string& name)
+{
+    return name.empty() ? "the name is empty" : "";
+}
+
 CLI::App* addCipherCommand(CLI::App& app, Parsed& parsed, const char* name, const char* description,
                            const char* defaultOutput)
 {
@@ -34,7 +40,9 @@ CLI::App* addCipherCommand(CLI::App& app, Parsed& parsed, const char* name, cons
     password->type_name("FILE")->excludes(key)->excludes(iv);
     key->type_name("FILE")->needs(iv);
     iv->type_name("FILE")->needs(key);
-    command->add_option("--output", arguments.output, defaultOutput)->type_name("OUT");
+    command->add_option("--output", arguments.output, defaultOutput)
+        ->type_name("OUT")
+        ->check(emptyNameProblem);
     command->add_flag("--force", arguments.force, "replace an existing output");
     command->add_option("INPUT", arguments.input, "the file to read")->required()->type_name("");
     command->footer(Footer);

@@ -141,6 +141,7 @@ class Behaviour(unittest.TestCase):
         self.write("key", "00" * 32)
         self.write("iv", "00" * 15)
         for arguments in ([], ["encrypt"], ["frobnicate"], ["encrypt", "--nonsense", "plain"], ["encrypt", "plain"],
+                          ["encrypt", "--output", "", "--password-file", "pw", "plain"],
                           ["encrypt", "--algorithm", "ROT13", "--password-file", "pw", "plain"],
                           ["decrypt", "--salt", "plain"], ["decrypt", "--seal", "plain"], ["encrypt", "--seal", "--salt", "plain"], ["encrypt", "--key-file", "key", "plain"],
                           ["encrypt", "--key-file", "key", "--iv-file", "iv", "--password-file", "pw", "plain"]):

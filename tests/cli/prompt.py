@@ -16,34 +16,57 @@ PROMPT = b"Password: "
 SECRET = b"hunter2"
 
 
-def run_as_job(program):
-    """What a shell does with a command: a process group of its own in front; tells how it fares."""
+def run_as_job(program, in_front):
+    """What a shell does with a command: a process group of its own, in front or not; tells how it fares.
+    In front itself, it takes the keys one by one. SIGUSR1 and SIGUSR2 are its commands fg and bg."""
+    signal.signal(signal.SIGTTOU, signal.SIG_IGN)
+    settings = termios.tcgetattr(0)
+
+    def take_front():
+        os.tcsetpgrp(0, os.getpid())
+        keys = termios.tcgetattr(0)
+        keys[0] &= ~termios.ICRNL
+        keys[3] &= ~termios.ICANON
+        termios.tcsetattr(0, termios.TCSANOW, keys)
+
+    def continue_job(number, _):
+        if number == signal.SIGUSR1:
+            termios.tcsetattr(0, termios.TCSANOW, settings)
+            os.tcsetpgrp(0, job)
+        os.kill(job, signal.SIGCONT)
+
+    if not in_front:
+        take_front()
     job = os.fork()
     if job == 0:
         os.setpgid(0, 0)
-        signal.signal(signal.SIGTTOU, signal.SIG_IGN)
-        os.tcsetpgrp(0, os.getpid())
+        if in_front:
+            os.tcsetpgrp(0, os.getpid())
         signal.signal(signal.SIGTTOU, signal.SIG_DFL)
         os.execv(program[0], program)
+    for number in (signal.SIGUSR1, signal.SIGUSR2):
+        signal.signal(number, continue_job)
     os.write(1, b"job %d.\n" % job)
     while os.WIFSTOPPED(status := os.waitpid(job, os.WUNTRACED)[1]):
+        take_front()
         os.write(1, b"stopped.\n")
     os.write(1, b"ended with %d.\n" % os.waitstatus_to_exitcode(status))
 
 
 class Prompt(unittest.TestCase):
-    def start(self):
-        child, self.terminal = pty.fork()
-        if child == 0:
-            run_as_job([CLI, "decrypt", sys.argv[0]])
+    def start(self, in_front=True):
+        self.shell, self.terminal = pty.fork()
+        if self.shell == 0:
+            run_as_job([CLI, "decrypt", sys.argv[0]], in_front)
             os._exit(0)
-        self.addCleanup(os.waitpid, child, 0)
+        self.addCleanup(os.waitpid, self.shell, 0)
         self.addCleanup(os.close, self.terminal)
         self.unread = self.shown = b""
         self.wait_for(b"job ")
         self.job = int(self.wait_for(b"."))
-        self.wait_for(PROMPT)
-        self.assert_echo(False)
+        if in_front:
+            self.wait_for(PROMPT)
+            self.assert_echo(False)
 
     def wait_for(self, text):
         """Reads until the text comes; gives what came before it."""
@@ -60,13 +83,6 @@ class Prompt(unittest.TestCase):
             self.assertLess(time.monotonic(), wait_until, "the echo is " + ("off" if on else "on"))
             time.sleep(0.01)
 
-    def continue_with_echo(self):
-        """As shells do, which have settings of their own."""
-        settings = termios.tcgetattr(self.terminal)
-        settings[3] |= termios.ECHO
-        termios.tcsetattr(self.terminal, termios.TCSANOW, settings)
-        os.kill(self.job, signal.SIGCONT)
-
     def test_is_hidden_again_after_a_stop(self):
         self.start()
         for stop, gives_echo_back in ((lambda: os.write(self.terminal, SECRET + b"\x1a"), True),
@@ -74,13 +90,31 @@ class Prompt(unittest.TestCase):
             stop()
             self.wait_for(b"stopped.")
             self.assert_echo(gives_echo_back)
-            self.continue_with_echo()
+            os.kill(self.shell, signal.SIGUSR1)
             self.wait_for(PROMPT)
             self.assert_echo(False)
         os.write(self.terminal, SECRET + b"\n")
         self.wait_for(b"ended with 3.")
         self.assert_echo(True)
         self.assertNotIn(SECRET, self.shown)
+
+    def test_waits_in_the_background(self):
+        for in_front in (True, False):
+            with self.subTest(in_front=in_front):
+                self.start(in_front)
+                if in_front:
+                    os.write(self.terminal, b"\x1a")
+                    self.wait_for(b"stopped.")
+                    os.kill(self.shell, signal.SIGUSR2)
+                self.wait_for(b"stopped.")
+                os.kill(self.shell, signal.SIGUSR1)
+                self.wait_for(PROMPT)
+                self.assert_echo(False)
+                os.write(self.terminal, SECRET + b"\r")
+                self.wait_for(b"ended with 3.")
+                self.assert_echo(True)
+                settings = termios.tcgetattr(self.terminal)
+                self.assertTrue(settings[0] & termios.ICRNL and settings[3] & termios.ICANON)
 
     def test_ends_with_the_echo_back(self):
         for end, code in ((b"\x03", 130), (b"\x1c", -signal.SIGQUIT), (signal.SIGTERM, 130), (signal.SIGHUP, 130)):

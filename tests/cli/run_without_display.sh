@@ -14,14 +14,28 @@ unset DISPLAY WAYLAND_DISPLAY
 
 ./run.sh
 test -s build/console/README.md.enc
-echo secret | ./run.sh -start -ifile 'a letter' -algorithm AES-256
-test -s 'a letter.enc'
+./run.sh -start -ifile 'a letter' -algorithm AES-128 <<<secret
+./run.sh -DECRYPT -algorithm AES-128 -start -ifile 'a letter.enc' <<<secret
+cmp 'a letter' 'a letter.dec'
+./run.sh -ofile sealed 'a letter' <<<secret
+./run.sh -ofile opened -decrypt sealed <<<secret
+cmp 'a letter' opened
 rm -r build/console
-for arguments in nosuch.txt '-ifile nosuch.txt' 'README.md nosuch.txt'; do
+while IFS=: read -r arguments problem; do
   if told=$(./run.sh $arguments 2>&1 <<<secret); then
-    echo "$arguments passed for a file"
+    echo "$arguments passed"
     exit 1
   fi
-  grep -q 'no such file: nosuch.txt' <<<"$told"
+  grep -q "run.sh: $problem" <<<"$told"
   test ! -e build/console -a ! -e README.md.enc
-done
+done <<'END'
+nosuch.txt:no such file: nosuch.txt
+-ifile nosuch.txt:no such file: nosuch.txt
+README.md nosuch.txt:no such file: nosuch.txt
+-ifile:no file given
+-start:no file given
+-ofile out:no file given
+-algorithm AES-128:no file given
+-ofile:nothing given for -ofile
+-ofile out README.md sealed:-ofile takes one file only
+END

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 
 namespace thisapp {
@@ -60,8 +61,11 @@ public:
     virtual void setInputText(const QString& text) = 0;
     virtual void setOutputText(const QString& text) = 0;
 
-    /// A fresh look at what the fields hold; nothing when the file system doesn't answer.
-    virtual std::optional<RequestFacts> look() = 0;
+    /// Both give nothing when the file system doesn't answer. The path that a field's text means; a fresh
+    /// look at a job's files.
+    virtual std::optional<std::filesystem::path> resolve(const QString& text) = 0;
+    virtual std::optional<RequestFacts> look(const std::filesystem::path& input,
+                                             const std::filesystem::path& output) = 0;
 
     /// Both give an empty text when the user cancels.
     virtual QString chooseInput(const QString& title) = 0;

@@ -27,6 +27,7 @@ const JobRequest::Step JobRequest::Steps[] = {
     &JobRequest::ivFits,
     &JobRequest::keyFits,
     &JobRequest::engineIsReady,
+    &JobRequest::filesAreAsBefore,
     &JobRequest::outputMayBeWritten,
 };
 
@@ -71,58 +72,80 @@ JobRequest::Verdict JobRequest::algorithmIsChosen()
 
 JobRequest::Verdict JobRequest::inputIsDefined()
 {
-    if (m_host.inputText().trimmed().isEmpty()) {
+    std::filesystem::path& input = m_data.request.input;
+    if (Verdict refused = settle(Area::Input, m_host.inputText(), input))
+        return refused;
+    if (input.empty()) {
         const QString chosen = m_host.chooseInput(translated(m_texts.selectFile));
         if (!chosen.isEmpty())
             m_host.setInputText(QDir::toNativeSeparators(chosen));
+        if (Verdict refused = settle(Area::Input, m_host.inputText(), input))
+            return refused;
     }
-    if (m_host.inputText().trimmed().isEmpty())
+    if (input.empty())
         return refusal(Area::Input, m_texts.fileNotDefined);
+    return {};
+}
+
+JobRequest::Verdict JobRequest::settle(Area area, const QString& text, std::filesystem::path& file)
+{
+    const std::optional<std::filesystem::path> meant = m_host.resolve(text);
+    if (!meant)
+        return noAnswer(area);
+    file = *meant;
     return {};
 }
 
 JobRequest::Verdict JobRequest::look(Area area)
 {
-    const std::optional<RequestFacts> facts = m_host.look();
+    const std::optional<RequestFacts> facts = m_host.look(m_data.request.input, m_data.request.output);
     if (!facts)
-        return Refusal{area, [] { return tr("The file system does not answer."); }};
+        return noAnswer(area);
     m_facts = *facts;
-    m_data.request.input = m_facts.input;
-    m_data.request.output = m_facts.output;
     return {};
 }
 
 JobRequest::Verdict JobRequest::inputIsFound()
 {
-    if (Verdict noAnswer = look(Area::Input))
-        return noAnswer;
+    if (Verdict refused = look(Area::Input))
+        return refused;
+    return inputCanBeRead(Area::Input);
+}
+
+JobRequest::Verdict JobRequest::inputCanBeRead(Area area) const
+{
     switch (m_facts.inputCheck) {
     case io::InputCheck::Usable:
         break;
     case io::InputCheck::NotFound:
-        return refusal(Area::Input, m_texts.fileNotFound);
+        return refusal(area, m_texts.fileNotFound);
     case io::InputCheck::NotRegular:
-        return Refusal{Area::Input, [] { return tr("The input is not a regular file."); }};
+        return Refusal{area, [] { return tr("The input is not a regular file."); }};
     }
     return {};
 }
 
 JobRequest::Verdict JobRequest::outputIsDefined()
 {
-    if (m_host.outputText().trimmed().isEmpty()) {
+    std::filesystem::path& output = m_data.request.output;
+    if (Verdict refused = settle(Area::Output, m_host.outputText(), output))
+        return refused;
+    if (output.empty()) {
         const QString chosen = m_host.chooseOutput(tr("Define output file"));
         if (!chosen.isEmpty())
             m_host.setOutputText(QDir::toNativeSeparators(chosen));
+        if (Verdict refused = settle(Area::Output, m_host.outputText(), output))
+            return refused;
     }
-    if (m_host.outputText().trimmed().isEmpty())
+    if (output.empty())
         return Refusal{Area::Output, [] { return tr("Output file is not defined."); }};
     return {};
 }
 
 JobRequest::Verdict JobRequest::outputDiffersFromInput()
 {
-    if (Verdict noAnswer = look(Area::Result))
-        return noAnswer;
+    if (Verdict refused = look(Area::Result))
+        return refused;
     return outputCanBeMade();
 }
 
@@ -133,7 +156,7 @@ JobRequest::Verdict JobRequest::outputCanBeMade() const
     case io::OutputCheck::Exists:
         break;
     case io::OutputCheck::NoFolder:
-        return Refusal{Area::Result, [folder = pathText(m_facts.output.parent_path())] {
+        return Refusal{Area::Result, [folder = pathText(m_data.request.output.parent_path())] {
                            return tr("The output folder is not found: %1").arg(folder);
                        }};
     case io::OutputCheck::MatchesInput:
@@ -228,12 +251,19 @@ JobRequest::Verdict JobRequest::engineIsReady()
     return {};
 }
 
-/// Last of all: however long the questions took, the answer is of this moment. An existing output is
-/// only marked here; the worker removes it, as that may take its time.
+/// Looks last of all, at the same files: however long the questions took, the answer is of this moment.
+JobRequest::Verdict JobRequest::filesAreAsBefore()
+{
+    if (Verdict refused = look(Area::Result))
+        return refused;
+    if (Verdict refused = inputCanBeRead(Area::Result))
+        return refused;
+    return outputCanBeMade();
+}
+
+/// An existing output is only marked here; the worker removes it, as that may take its time.
 JobRequest::Verdict JobRequest::outputMayBeWritten()
 {
-    if (Verdict refused = outputDiffersFromInput())
-        return refused;
     if (m_facts.outputCheck == io::OutputCheck::Free)
         return {};
     if (!m_data.rewriteOutput)
@@ -247,6 +277,11 @@ JobRequest::Verdict JobRequest::outputMayBeWritten()
 JobRequest::Refusal JobRequest::refusal(Area area, const char* operationText) const
 {
     return {area, [operationText] { return translated(operationText); }};
+}
+
+JobRequest::Refusal JobRequest::noAnswer(Area area)
+{
+    return {area, [] { return tr("The file system does not answer."); }};
 }
 
 JobRequest::Refusal JobRequest::passwordNotDefined()

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 
 namespace thisapp {
@@ -37,13 +38,17 @@ private:
     using Step = Verdict (JobRequest::*)();
     static const Step Steps[];
 
-    /// Asks the disk anew; for the area that a missing answer is told in.
+    static Refusal noAnswer(Area area);
+    /// Settles which file a field's text means, for the area that a missing answer is told in.
+    Verdict settle(Area area, const QString& text, std::filesystem::path& file);
+    /// Asks the disk anew of the settled files.
     Verdict look(Area area);
     Verdict noJobRuns();
     Verdict libraryIsChosen();
     Verdict algorithmIsChosen();
     Verdict inputIsDefined();
     Verdict inputIsFound();
+    Verdict inputCanBeRead(Area area) const;
     Verdict outputIsDefined();
     Verdict outputDiffersFromInput();
     Verdict outputCanBeMade() const;
@@ -53,6 +58,7 @@ private:
     Verdict ivFits();
     Verdict keyFits();
     Verdict engineIsReady();
+    Verdict filesAreAsBefore();
     Verdict outputMayBeWritten();
 
     Refusal refusal(Area area, const char* operationText) const;

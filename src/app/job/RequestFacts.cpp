@@ -13,15 +13,13 @@ QString meantPath(const QString& text)
     return text != trimmed && platform::fileStatus(textPath(text)).exists() ? text : trimmed;
 }
 
-RequestFacts lookAtRequest(const QString& inputText, const QString& outputText)
+RequestFacts lookAtRequest(const std::filesystem::path& input, const std::filesystem::path& output)
 {
     RequestFacts facts;
-    facts.input = textPath(meantPath(inputText));
-    facts.output = textPath(meantPath(outputText));
-    facts.inputCheck = io::checkInput(facts.input);
-    facts.inputSize = platform::fileStatus(facts.input).size;
-    if (!facts.output.empty())
-        facts.outputCheck = io::checkOutput(facts.input, facts.output);
+    facts.inputCheck = io::checkInput(input);
+    facts.inputSize = platform::fileStatus(input).size;
+    if (!output.empty())
+        facts.outputCheck = io::checkOutput(input, output);
     return facts;
 }
 

@@ -43,7 +43,7 @@ CMainWindow::CMainWindow(const WindowServices& services)
       m_form(new CJobFrame),
       m_input(*m_form, m_disk, services.look),
       m_fields(*m_form, m_input, m_disk),
-      m_dialogs(*this, services.algorithms, services.options, m_form->algFrame(), *this),
+      m_dialogs(*this, services.algorithms, services.options, *m_form, *this),
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier),
       m_job(services.encryptors, services.decryptors, m_dispatcher)

@@ -4,6 +4,7 @@
 #include "app/window/CInputField.h"
 #include "app/window/CJobFrame.h"
 #include "app/window/FileDialogs.h"
+#include "common/path/PathText.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 #include "ui/disk/CDiskWork.h"
@@ -49,21 +50,27 @@ void CRequestHost::setOutputText(const QString& text)
     m_form.setOutputText(text);
 }
 
-std::optional<RequestFacts> CRequestHost::look()
+std::optional<std::filesystem::path> CRequestHost::resolve(const QString& text)
 {
-    const auto answer = m_disk.start<RequestFacts>(
-        [input = m_form.inputText(), output = m_form.outputText()] { return lookAtRequest(input, output); });
+    const auto answer = m_disk.start<std::filesystem::path>([text] { return textPath(meantPath(text)); });
+    return m_disk.wait(answer) ? std::optional(answer.get()) : std::nullopt;
+}
+
+std::optional<RequestFacts> CRequestHost::look(const std::filesystem::path& input,
+                                               const std::filesystem::path& output)
+{
+    const auto answer = m_disk.start<RequestFacts>([input, output] { return lookAtRequest(input, output); });
     return m_disk.wait(answer) ? std::optional(answer.get()) : std::nullopt;
 }
 
 QString CRequestHost::chooseInput(const QString& title)
 {
-    return askFileToOpen(&m_window, title, {});
+    return askFileToOpen(&m_window, m_disk, title, {});
 }
 
 QString CRequestHost::chooseOutput(const QString& title)
 {
-    return askFileToSave(&m_window, title, m_form.inputText().trimmed());
+    return askFileToSave(&m_window, m_disk, title, m_form.inputText().trimmed());
 }
 
 bool CRequestHost::enterPassword(PasswordEntry& entry)

@@ -26,7 +26,9 @@ public:
     QString outputText() const override;
     void setInputText(const QString& text) override;
     void setOutputText(const QString& text) override;
-    std::optional<RequestFacts> look() override;
+    std::optional<std::filesystem::path> resolve(const QString& text) override;
+    std::optional<RequestFacts> look(const std::filesystem::path& input,
+                                     const std::filesystem::path& output) override;
     QString chooseInput(const QString& title) override;
     QString chooseOutput(const QString& title) override;
     bool enterPassword(PasswordEntry& entry) override;

@@ -1,5 +1,6 @@
 #include "app/window/DialogCommands.h"
 
+#include "app/window/CJobFrame.h"
 #include "app/window/Commands.h"
 #include "app/window/OptionsHandler.h"
 #include "common/settings/IAppOptionsChanged.h"
@@ -13,12 +14,8 @@
 namespace thisapp {
 
 DialogCommands::DialogCommands(QWidget& window, const ICryptoAlgProvider& algorithms, OptionsHandler& options,
-                               CSelectAlgFrame& algorithm, IAppOptionsChanged& receiver)
-    : m_window(window),
-      m_algorithms(algorithms),
-      m_options(options),
-      m_algorithm(algorithm),
-      m_receiver(receiver)
+                               CJobFrame& form, IAppOptionsChanged& receiver)
+    : m_window(window), m_algorithms(algorithms), m_options(options), m_form(form), m_receiver(receiver)
 {
 }
 
@@ -47,16 +44,17 @@ void DialogCommands::onUiDefaultAlgorithmItem()
     const auto outcome = askDefaultAlgorithm(&m_window, m_algorithms, m_options.defaultAlgorithm());
     if (!outcome)
         return;
-    m_algorithm.setSelection(outcome->current);
-    if (outcome->storeAsDefault)
-        m_options.storeDefaultAlgorithm(outcome->current);
+    m_form.algFrame().setSelection(outcome->current);
+    if (outcome->storeAsDefault && !m_options.storeDefaultAlgorithm(outcome->current))
+        m_form.showMessage(Area::Result,
+                           {MessageKind::Error, [problem = m_options.problem()] { return problem; }});
 }
 
 void DialogCommands::onUiAlgorithmInfoItem()
 {
     CAlgInfoDialog dialog(&m_window);
     dialog.setProvider(m_algorithms);
-    dialog.setSelection(m_algorithm.selection());
+    dialog.setSelection(m_form.algFrame().selection());
     dialog.exec();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-class CSelectAlgFrame;
+class CJobFrame;
 class QWidget;
 
 namespace thisapp {
@@ -13,9 +13,9 @@ class OptionsHandler;
 class DialogCommands
 {
 public:
-    /// `algorithm` is what the user works with, `receiver` gets changed options.
+    /// `form` has the algorithm that the user works with, `receiver` gets changed options.
     DialogCommands(QWidget& window, const ICryptoAlgProvider& algorithms, OptionsHandler& options,
-                   CSelectAlgFrame& algorithm, IAppOptionsChanged& receiver);
+                   CJobFrame& form, IAppOptionsChanged& receiver);
 
     void onUiOptionsItem();
     void onUiDefaultAlgorithmItem();
@@ -27,7 +27,7 @@ private:
     QWidget& m_window;
     const ICryptoAlgProvider& m_algorithms;
     OptionsHandler& m_options;
-    CSelectAlgFrame& m_algorithm;
+    CJobFrame& m_form;
     IAppOptionsChanged& m_receiver;
 };
 

@@ -65,7 +65,7 @@ Message dropMessage(const DroppedFile& drop, io::InputCheck check)
     return {MessageKind::Warning, [drop, check] {
                 QStringList sentences{problemText(drop, check)};
                 if (drop.othersLeft)
-                    sentences += Text::tr("Only the first of the dropped files was taken.");
+                    sentences += Text::tr("Only one of the dropped files was taken.");
                 sentences.removeAll(QString());
                 return sentences.join(' ');
             }};

@@ -30,7 +30,7 @@ FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& dis
 void FieldCommands::onUiAddFileItem()
 {
     const QString chosen =
-        askFileToOpen(m_form.window(), Text::tr("Add file to encrypt/decrypt"), m_form.inputText());
+        askFileToOpen(m_form.window(), m_disk, Text::tr("Add file to encrypt/decrypt"), m_form.inputText());
     if (!chosen.isEmpty())
         m_input.set(QDir::toNativeSeparators(chosen));
 }
@@ -38,7 +38,7 @@ void FieldCommands::onUiAddFileItem()
 void FieldCommands::onUiBrowseOutput()
 {
     const QString near = m_form.outputText().isEmpty() ? m_form.inputText() : m_form.outputText();
-    const QString chosen = askFileToSave(m_form.window(), Text::tr("Define output file"), near);
+    const QString chosen = askFileToSave(m_form.window(), m_disk, Text::tr("Define output file"), near);
     if (!chosen.isEmpty())
         m_form.setOutputText(QDir::toNativeSeparators(chosen));
 }

@@ -1,5 +1,7 @@
 #include "app/window/FileDialogs.h"
 
+#include "ui/disk/CDiskWork.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -29,16 +31,27 @@ QString withoutScheme(const QString& path)
     return path.mid(scheme.size() - (QDir::rootPath() == QLatin1String("/") ? 1 : 0));
 }
 
-QString run(QWidget* parent, const QString& title, const QString& current, QFileDialog::AcceptMode mode)
+/// Empty when there is none, or none that answers.
+QString folderOf(const QString& file, CDiskWork& disk)
+{
+    if (file.isEmpty())
+        return {};
+    const auto folder = disk.start<QString>([file] {
+        const QDir found = QFileInfo(file).absoluteDir();
+        return found.exists() ? found.path() : QString();
+    });
+    return CDiskWork::waitBriefly(folder) ? folder.get() : QString();
+}
+
+QString run(QWidget* parent, const QString& title, const QString& folder, QFileDialog::AcceptMode mode)
 {
     QFileDialog dialog(parent, title, QString(), allFiles());
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    const QFileInfo file(current);
-    if (!current.isEmpty() && file.absoluteDir().exists())
-        dialog.setDirectory(file.absoluteDir());
+    if (!folder.isEmpty())
+        dialog.setDirectory(folder);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);
@@ -46,14 +59,14 @@ QString run(QWidget* parent, const QString& title, const QString& current, QFile
 
 } // namespace
 
-QString askFileToOpen(QWidget* parent, const QString& title, const QString& current)
+QString askFileToOpen(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current)
 {
-    return withoutScheme(run(parent, title, current, QFileDialog::AcceptOpen));
+    return withoutScheme(run(parent, title, folderOf(current, disk), QFileDialog::AcceptOpen));
 }
 
-QString askFileToSave(QWidget* parent, const QString& title, const QString& current)
+QString askFileToSave(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current)
 {
-    return run(parent, title, current, QFileDialog::AcceptSave);
+    return run(parent, title, folderOf(current, disk), QFileDialog::AcceptSave);
 }
 
 } // namespace thisapp

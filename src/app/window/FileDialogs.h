@@ -4,11 +4,14 @@
 
 class QWidget;
 
-/// The platform's file dialogs over all files. They give an empty text when the user cancels.
+class CDiskWork;
+
+/// The platform's file dialogs over all files. They begin in the folder of the current file, if the disk
+/// tells quickly that there is one, and give an empty text when the user cancels.
 namespace thisapp {
 
-QString askFileToOpen(QWidget* parent, const QString& title, const QString& current);
+QString askFileToOpen(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current);
 /// Doesn't ask before an existing file is chosen: the job decides about that.
-QString askFileToSave(QWidget* parent, const QString& title, const QString& current);
+QString askFileToSave(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current);
 
 } // namespace thisapp

@@ -80,10 +80,17 @@ std::optional<AlgSelection> OptionsHandler::defaultAlgorithm() const
     return stored && m_targets.algorithms.isValid(*stored) ? stored : std::nullopt;
 }
 
-void OptionsHandler::storeDefaultAlgorithm(const AlgSelection& selection) const
+bool OptionsHandler::storeDefaultAlgorithm(const AlgSelection& selection)
 {
     CAppSettings settings;
     writeDefaultAlgorithm(settings, selection);
+    return save(settings);
+}
+
+bool OptionsHandler::save(CAppSettings& settings)
+{
+    m_unsavedIn = settings.save() ? QString() : settings.fileName();
+    return m_unsavedIn.isEmpty();
 }
 
 SAppliedOptions OptionsHandler::apply(const SAppOptions& options,
@@ -101,7 +108,7 @@ SAppliedOptions OptionsHandler::apply(const SAppOptions& options,
         writeLocaleId(settings, options.localeId);
         installTranslator();
     }
-    m_unsavedIn = settings.save() ? QString() : settings.fileName();
+    save(settings);
     if (shellChanged)
         m_targets.updateShell(options.integrateToShellContextMenu, options.addToSendMenu);
     return {problem(), m_targets.translations.locale().lcid};

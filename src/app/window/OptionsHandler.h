@@ -13,6 +13,8 @@
 #include <optional>
 #include <vector>
 
+class CAppSettings;
+
 namespace tessaly::i18n {
 class TranslationManager;
 }
@@ -51,7 +53,8 @@ public:
     /// A sentence on what of the options is not in effect; empty when all is.
     QString problem() const;
     std::optional<AlgSelection> defaultAlgorithm() const;
-    void storeDefaultAlgorithm(const AlgSelection& selection) const;
+    /// False when it could not be saved; problem() tells of it then.
+    [[nodiscard]] bool storeDefaultAlgorithm(const AlgSelection& selection);
 
     /// Stores the options and makes them take effect at once; a change of the language reaches every
     /// window as a LanguageChange event. `select` gets the default algorithm when it is usable.
@@ -61,6 +64,7 @@ public:
     void applyAtStart();
 
 private:
+    bool save(CAppSettings& settings);
     void applyLogging(const SAppOptions& options);
     bool useLanguage(std::uint32_t localeId);
     void installTranslator();

@@ -3,7 +3,7 @@
 #include <QEventLoop>
 #include <QTimer>
 
-#include <system_error>
+#include <exception>
 #include <thread>
 
 namespace {
@@ -34,18 +34,19 @@ CDiskWork::~CDiskWork()
         work.wait_until(end);
 }
 
-void CDiskWork::run(std::function<void()> work)
+void CDiskWork::run(const std::function<void()>& work)
 {
-    std::erase_if(m_running, isDone);
-    auto task = std::make_shared<std::packaged_task<void()>>([work = std::move(work), news = m_news] {
-        work();
-        emit news->notifyAnswered();
-    });
-    m_running.push_back(task->get_future());
     try {
+        std::erase_if(m_running, isDone);
+        auto task = std::make_shared<std::packaged_task<void()>>([work, news = m_news] {
+            work();
+            emit news->notifyAnswered();
+        });
+        m_running.push_back(task->get_future());
         std::thread([task] { (*task)(); }).detach();
-    } catch (const std::system_error&) {
-        (*task)();
+    } catch (const std::exception&) { // no thread, or no memory for one
+        work();
+        emit m_news->notifyAnswered();
     }
 }
 

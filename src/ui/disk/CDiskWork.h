@@ -66,7 +66,7 @@ private:
     /// Too short to be felt.
     static constexpr std::chrono::milliseconds Moment{50};
 
-    void run(std::function<void()> work);
+    void run(const std::function<void()>& work);
     bool waitUntil(const std::function<bool()>& isReady);
 
     /// Shared with the threads, which may outlive this object.

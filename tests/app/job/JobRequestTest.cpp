@@ -31,9 +31,14 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     QString outputText() const override { return output; }
     void setInputText(const QString& text) override { input = text; }
     void setOutputText(const QString& text) override { output = text; }
-    std::optional<RequestFacts> look() override
+    std::optional<std::filesystem::path> resolve(const QString& text) override
     {
-        return answers ? std::optional(lookAtRequest(input, output)) : std::nullopt;
+        return answers ? std::optional(textPath(meantPath(text))) : std::nullopt;
+    }
+    std::optional<RequestFacts> look(const std::filesystem::path& in,
+                                     const std::filesystem::path& out) override
+    {
+        return answers ? std::optional(lookAtRequest(in, out)) : std::nullopt;
     }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
@@ -145,9 +150,13 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
 
-/// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one.
+/// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one. What a
+/// text means is settled once.
 TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)
 {
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.at(""));
+    folder.write("  ", "input");
     host.password = [](PasswordEntry& entry) {
         entry.rewriteOutput = true;
         entry.password = SecretText("secret");
@@ -162,15 +171,23 @@ TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)
         {"in.txt ", "out.txt ", "in.txt ", "out.txt "},
         {"in.txt  ", "out.txt  ", "in.txt", "out.txt"},
         {"in.txt", "new ", "in.txt", "new"},
+        {"  ", "new", "  ", "new"},
     };
     for (const auto& c : cases) {
-        host.input = path(c.inputText);
-        host.output = path(c.outputText);
+        host.input = c.inputText;
+        host.output = c.outputText;
         const auto data = JobRequest(GetParam(), host, host).run();
         ASSERT_TRUE(data) << host.message.second;
-        EXPECT_EQ(data->request.input, folder.at(c.input));
-        EXPECT_EQ(data->request.output, folder.at(c.output));
+        EXPECT_EQ(data->request.input, c.input);
+        EXPECT_EQ(data->request.output, c.output);
     }
+    host.password = [this, answer = host.password](PasswordEntry& entry) {
+        std::filesystem::rename(folder.at("in.txt "), folder.at("moved"));
+        return answer(entry);
+    };
+    host.input = "in.txt ";
+    expectRefusal(Area::Result, pick("File to encrypt is not found.", "File to decrypt is not found."));
+    std::filesystem::current_path(before);
 }
 
 TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)

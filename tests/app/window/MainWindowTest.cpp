@@ -3,6 +3,7 @@
 #include "common/settings/CAppSettings.h"
 #include "support/Environment.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/algorithms/CSetAlgDialog.h"
 #include "ui/options/COptionsDialog.h"
 
 #include <QCheckBox>
@@ -380,7 +381,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         {{base + "in"}, "in", ""},
         {{"https://example.org/x", base + "in", "file:///y"},
          "in",
-         "Only the first of the dropped files was taken."},
+         "Only one of the dropped files was taken."},
         {{"file://LocalHost" + w.path("in")}, "in", ""},
         {{base + "n%FF"}, QString("n") + QChar(0xdcff), ""},
         {{base + "in%20"}, "in ", ""}, // while there is an "in", too
@@ -396,7 +397,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         QMimeData files;
         files.setUrls(QUrl::fromStringList(urls));
         const QString path = name.isEmpty() ? QString() : w.path("") + name;
-        const bool usable = QString(message).startsWith("Only the first") || QString(message).isEmpty();
+        const bool usable = QString(message).startsWith("Only one") || QString(message).isEmpty();
         for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
             QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
             EXPECT_TRUE(drop(*target, files));
@@ -520,7 +521,7 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
     }
 }
 
-TEST_F(MainWindowTest, OptionsThatCannotBeSavedComeBackWithTheReason)
+TEST_F(MainWindowTest, TellsOfWhatCannotBeSaved)
 {
     folder().write("file", "");
     const test::Environment nowhere("XDG_CONFIG_HOME", (folder() / "file").c_str());
@@ -538,6 +539,13 @@ TEST_F(MainWindowTest, OptionsThatCannotBeSavedComeBackWithTheReason)
     ASSERT_EQ(messages.size(), 2);
     EXPECT_EQ(messages[0], "");
     EXPECT_TRUE(messages[1].startsWith("The options can't be saved in ")) << messages[1].toStdString();
+
+    w.onDialog<CSetAlgDialog>([](CSetAlgDialog& dialog) {
+        dialog.findChild<QCheckBox*>()->setChecked(true);
+        dialog.accept();
+    });
+    w.window->findChild<QAction*>("default-algorithm")->trigger();
+    EXPECT_EQ(w.result(), messages[1].toStdString());
 }
 
 } // namespace

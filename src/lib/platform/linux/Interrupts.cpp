@@ -16,7 +16,10 @@ constexpr std::array CaughtSignals{SIGINT, SIGTERM, SIGHUP};
 
 std::atomic<bool> interrupted = false;
 static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler writes it");
-sem_t wakeUp; // sem_post is one of the few calls that a signal handler may make
+/// sem_post is one of the few calls that a signal handler may make. Never destroyed: a handler may still
+/// be at work on another thread when its Interrupts has ended.
+sem_t wakeUp;
+[[maybe_unused]] const int wakeUpMade = ::sem_init(&wakeUp, 0, 0);
 
 void onSignal(int)
 {
@@ -59,7 +62,8 @@ struct Interrupts::Watcher
 Interrupts::Interrupts(std::function<void()> onInterrupt) : m_watcher(std::make_unique<Watcher>())
 {
     m_watcher->onInterrupt = std::move(onInterrupt);
-    ::sem_init(&wakeUp, 0, 0);
+    while (::sem_trywait(&wakeUp) == 0)
+        ; // what is left from before
     // The watching thread takes no signals: they are to interrupt the main thread's reads.
     sigset_t caught;
     sigset_t before;
@@ -89,7 +93,6 @@ Interrupts::~Interrupts()
     m_watcher->ending = true;
     ::sem_post(&wakeUp);
     m_watcher->thread.join();
-    ::sem_destroy(&wakeUp);
 }
 
 bool Interrupts::happened()

@@ -24,9 +24,29 @@ constexpr std::array CaughtSignals{SIGTSTP, SIGQUIT, SIGCONT};
 std::atomic<int> caughtSignal = 0;
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler writes it");
 
+bool isInBackground()
+{
+    const pid_t front = ::tcgetpgrp(STDIN_FILENO);
+    return front != -1 && front != ::getpgrp();
+}
+
+/// In the background the settings are the shell's own. There the call stops the process until it is in
+/// front. False when a signal came instead or there is nobody who could bring it there.
+bool awaitForeground()
+{
+    while (!Interrupts::happened()) {
+        if (::tcdrain(STDIN_FILENO) == 0)
+            return true;
+        if (errno != EINTR)
+            return false;
+    }
+    return false;
+}
+
 void setTerminal(const termios& settings)
 {
-    while (::tcsetattr(STDIN_FILENO, TCSAFLUSH, &settings) != 0 && errno == EINTR)
+    const auto isOver = [] { return Interrupts::happened() && isInBackground(); };
+    while (!isOver() && ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &settings) != 0 && errno == EINTR)
         ;
 }
 
@@ -36,22 +56,28 @@ class HiddenPrompt
 public:
     explicit HiddenPrompt(const char* prompt)
     {
+        const bool isInFront = awaitForeground();
         struct sigaction action = {};
         action.sa_handler = [](int signal) { caughtSignal = signal; };
         for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
             ::sigaction(CaughtSignals[i], &action, &m_handling[i]);
-        m_known = ::tcgetattr(STDIN_FILENO, &m_settings) == 0;
+        m_known = isInFront && ::tcgetattr(STDIN_FILENO, &m_settings) == 0;
+        if (!m_known)
+            return;
+        // Whatever was left behind, a line ends with Enter, and the keys for signals work.
         termios silent = m_settings;
+        silent.c_iflag |= ICRNL;
+        silent.c_lflag |= ICANON | ISIG;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        if (m_known)
-            setTerminal(silent);
+        setTerminal(silent);
         std::fputs(prompt, stderr);
     }
     ~HiddenPrompt()
     {
-        std::fputc('\n', stderr);
-        if (m_known)
+        if (m_known) {
+            std::fputc('\n', stderr);
             setTerminal(m_settings);
+        }
         for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
             ::sigaction(CaughtSignals[i], &m_handling[i], nullptr);
     }
