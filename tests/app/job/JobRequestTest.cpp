@@ -138,14 +138,16 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     host.engine = true;
     expectRefusal(Area::Result, "Output file already exists! A 'not rewrite' option has been selected.");
 
-    host.password = [](PasswordEntry& entry) { return entry.rewriteOutput = entry.switchToAdvanced = true; };
+    host.password = [](PasswordEntry& entry) {
+        return entry.seal = entry.rewriteOutput = entry.switchToAdvanced = true;
+    };
     const auto request = JobRequest(GetParam(), host, host).run();
     ASSERT_TRUE(request);
     EXPECT_EQ(request->operation, GetParam());
     EXPECT_EQ(request->request.input, folder.at("in.txt"));
     EXPECT_FALSE(request->request.passwordMode);
     EXPECT_EQ(request->request.key.size(), 32U);
-    EXPECT_TRUE(request->rewriteOutput);
+    EXPECT_TRUE(request->request.seal && request->rewriteOutput);
     EXPECT_EQ(request->request.existing, crypto::ExistingOutput::RemoveFirst);
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
@@ -197,7 +199,8 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
     int visits = 0;
     host.password = [&visits](PasswordEntry& entry) {
         EXPECT_EQ(entry.useSalt, visits == 1) << "what the other dialog left";
-        EXPECT_EQ(entry.seal, visits == 1);
+        EXPECT_FALSE(entry.seal);
+        entry.seal = true;
         if (visits++ == 0)
             return entry.switchToAdvanced = true;
         entry.password = SecretText("secret");
@@ -205,7 +208,9 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
     };
     host.key = [](KeyEntry& entry) {
         EXPECT_TRUE(entry.keyLength == 32 && entry.ivLength == 16);
-        return entry.switchToNormal = entry.useSalt = entry.seal = true;
+        EXPECT_TRUE(entry.seal);
+        entry.seal = false;
+        return entry.switchToNormal = entry.useSalt = true;
     };
     const auto request = JobRequest(GetParam(), host, host).run();
     ASSERT_TRUE(request);
