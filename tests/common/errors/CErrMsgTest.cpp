@@ -10,7 +10,7 @@ namespace {
 
 TEST(CErrMsg, KnowsItsCodesAndNoOthers)
 {
-    const std::set<std::uint32_t> known = {8,   17,  40,   41,   42,   43,   45,   60,   200,  201, 202,
+    const std::set<std::uint32_t> known = {8,   17,  40,   41,   42,   43,   45,   60,   200,  201,  202,
                                            203, 206, 1004, 4000, 4001, 4002, 4003, 4004, 4005, 4006, 4010};
     const thisapp::CErrMsg messages;
     std::string text;
