@@ -155,7 +155,7 @@ def measure_algorithm(bench, name, size, rounds):
     return {" ".join(key): size / seconds / 1e6 for key, seconds in best.items()}
 
 
-def measure_algorithms(bench, size_text, rounds):
+def measure_algorithms(bench, size_text, rounds, chosen):
     listed = subprocess.run([bench.programs / OURS, "algorithms", "--json"], check=True, capture_output=True)
     size = size_in_bytes(size_text)
     make_data(size)
@@ -163,7 +163,7 @@ def measure_algorithms(bench, size_text, rounds):
     say("| Algorithm | encrypt: cipher | file | ratio | decrypt: cipher | file | ratio |")
     say("|---|--:|--:|--:|--:|--:|--:|")
     rows = {}
-    for name in (row["name"] for row in json.loads(listed.stdout)):
+    for name in (row["name"] for row in json.loads(listed.stdout) if not chosen or row["name"] in chosen):
         rows[name] = row = measure_algorithm(bench, name, size, rounds)
         cells = []
         for direction in DIRECTIONS:
@@ -218,6 +218,7 @@ def main():
     parser.add_argument("--sizes", default="1K,10M,1G", help="of the peers' files")
     parser.add_argument("--cores-size", default="512M")
     parser.add_argument("--algorithms-size", default="256M")
+    parser.add_argument("--algorithms", help="only these, with commas between")
     parser.add_argument("--rounds", type=int, help="instead of what fits the size")
     parser.add_argument("--folder", default=".", help="where the files are made: the disk to measure")
     parser.add_argument("--write", action="store_true", help="put all of it into docs/PERFORMANCE.md, with a plot")
@@ -238,7 +239,8 @@ def main():
         if "cores" in wanted:
             measure_cores(bench, arguments.cores_size, arguments.rounds or 3)
         if "algorithms" in wanted:
-            numbers["algorithms"] = measure_algorithms(bench, arguments.algorithms_size, arguments.rounds or 3)
+            numbers["algorithms"] = measure_algorithms(bench, arguments.algorithms_size, arguments.rounds or 3,
+                                                       arguments.algorithms.split(",") if arguments.algorithms else [])
             say(f"Peak memory of quillet-cli in all of these runs: {bench.peak:.1f} MB.")
         subprocess.run(["gpgconf", "--homedir", "gnupg", "--kill", "all"], stderr=subprocess.DEVNULL)
         os.chdir("/")
