@@ -150,7 +150,8 @@ ResultCode OutputFile::nameHidden()
 bool OutputFile::discard()
 {
     withdraw();
-    m_hidden.remove(m_status);
+    if (m_state != State::Exchanged) // else the former file stands there, and could not be given back
+        m_hidden.remove(m_status);
     const bool gone = m_state == State::Unnamed && isNameless();
     static_cast<void>(m_stream.close());
     return gone;
