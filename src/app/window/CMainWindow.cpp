@@ -215,11 +215,11 @@ void CMainWindow::onUiQuitItem()
 
 void CMainWindow::run(const Command& command)
 {
-    if (const auto* windowSlot = std::get_if<void (CMainWindow::*)()>(&command.slot))
+    if (const auto* windowSlot = std::get_if<void (CMainWindow::*)()>(&command.slot.call))
         (this->**windowSlot)();
-    else if (const auto* fieldSlot = std::get_if<void (FieldCommands::*)()>(&command.slot))
+    else if (const auto* fieldSlot = std::get_if<void (FieldCommands::*)()>(&command.slot.call))
         (m_fields.**fieldSlot)();
-    else if (const auto* dialogSlot = std::get_if<void (DialogCommands::*)()>(&command.slot))
+    else if (const auto* dialogSlot = std::get_if<void (DialogCommands::*)()>(&command.slot.call))
         (m_dialogs.**dialogSlot)();
 }
 

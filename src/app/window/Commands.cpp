@@ -93,12 +93,6 @@ constexpr Command Table[] = {
      .role = QAction::AboutRole},
 };
 
-constexpr bool isConnected(const Command& command)
-{
-    return std::visit([](auto slot) { return slot != nullptr; }, command.slot);
-}
-static_assert(std::ranges::all_of(Table, isConnected));
-
 /// Function keys by their number, and then the others.
 int listRank(const Shortcut& shortcut)
 {

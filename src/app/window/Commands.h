@@ -27,6 +27,17 @@ struct CommandState
     bool hasOutput = false;
 };
 
+/// Who does a command. Has no default, so that no row of the table can go without.
+struct CommandSlot
+{
+    template <class Owner>
+    constexpr CommandSlot(void (Owner::*slot)()) : call(slot)
+    {
+    }
+
+    std::variant<void (CMainWindow::*)(), void (FieldCommands::*)(), void (DialogCommands::*)()> call;
+};
+
 /// One command of the main window. To add one is to add its row to the table, and to write its slot.
 struct Command
 {
@@ -34,7 +45,7 @@ struct Command
     const char* id;
     Menu menu;
     const char* text; ///< source text
-    std::variant<void (CMainWindow::*)(), void (FieldCommands::*)(), void (DialogCommands::*)()> slot;
+    CommandSlot slot;
     /// Each a Qt::Key or ctrl() of one; 0 for none. They work whether the command is offered or not.
     std::array<int, 2> keys = {};
     /// What the lists of shortcuts say of the keys; source text.
