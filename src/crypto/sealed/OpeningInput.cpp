@@ -16,14 +16,13 @@ constexpr ResultCode Broken = err::library(err::SealBroken);
 OpeningInput::OpeningInput(io::IStreamBytes& sealed, std::uint64_t innerSize)
     : m_sealed(sealed), m_size(innerSize)
 {
-    m_bytes.reserve(PieceSize + TagSize);
 }
 
 CryptoResult OpeningInput::open(const SecretBytes& tagKey)
 {
     if (const CryptoResult keyed = m_tagger.setKey(tagKey); !keyed.ok())
         return keyed;
-    const ResultCode result = nextPiece();
+    const ResultCode result = nextPieces(1);
     if (result.ok())
         return {};
     fail(result);
@@ -39,37 +38,47 @@ bool OpeningInput::read(void* buffer, std::int64_t count, std::int64_t& countRea
         return true;
     if (!lastError().ok() || isAtEnd())
         return false;
-    if (m_position == m_pieceEnd)
-        if (const ResultCode result = nextPiece(); !result.ok())
+    if (m_position == m_end)
+        if (const ResultCode result = nextPieces(PiecesAtOnce); !result.ok())
             return fail(result);
-    const std::uint64_t left = m_pieceEnd - m_position;
+    const std::uint64_t at = m_position - m_begin;
+    const std::uint64_t left = std::min(PieceSize - at % PieceSize, m_end - m_position);
     const std::uint64_t taken = std::min(static_cast<std::uint64_t>(count), left);
-    std::copy_n(m_bytes.data() + (m_bytes.size() - TagSize - left), taken,
-                static_cast<std::uint8_t*>(buffer));
+    std::copy_n(m_bytes.data() + at + at / PieceSize * TagSize, taken, static_cast<std::uint8_t*>(buffer));
     countRead = static_cast<std::int64_t>(taken);
     std::lock_guard guard(m_lock);
     m_position += taken;
     return true;
 }
 
-ResultCode OpeningInput::nextPiece()
+ResultCode OpeningInput::nextPieces(std::uint64_t most)
 {
-    const std::uint64_t count = std::min(PieceSize, m_size - m_pieceEnd);
-    m_bytes.resize(count + TagSize);
-    if (const ResultCode result = readPiece(); !result.ok())
+    const std::uint64_t count = std::min(most * PieceSize, m_size - m_end);
+    const std::uint64_t pieces = std::max<std::uint64_t>((count + PieceSize - 1) / PieceSize, 1);
+    m_bytes.resize(count + pieces * TagSize);
+    if (const ResultCode result = readPieces(); !result.ok())
         return result;
-    PieceTag tag;
-    const bool isLast = m_pieceEnd + count == m_size;
-    const CryptoResult tagged = m_tagger.tagNext({m_bytes.data(), count}, isLast, tag);
-    if (!tagged.ok())
-        return tagged.first();
-    if (!isEqualInConstantTime(tag.data(), m_bytes.data() + count, tag.size()))
-        return Broken;
-    m_pieceEnd += count;
+    if (const ResultCode result = verify({m_bytes, m_end / PieceSize, m_end + count == m_size}); !result.ok())
+        return result;
+    m_begin = m_end;
+    m_end += count;
     return {};
 }
 
-ResultCode OpeningInput::readPiece()
+ResultCode OpeningInput::verify(const SealedPieces& pieces)
+{
+    std::vector<PieceTag> tags;
+    if (const CryptoResult tagged = m_tagger.tag(pieces, tags); !tagged.ok())
+        return tagged.first();
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const std::span<const std::uint8_t> piece = pieces.piece(i);
+        if (!isEqualInConstantTime(tags[i].data(), piece.data() + piece.size(), TagSize))
+            return Broken;
+    }
+    return {};
+}
+
+ResultCode OpeningInput::readPieces()
 {
     for (std::size_t got = 0; got < m_bytes.size();) {
         const auto asked = static_cast<std::int64_t>(m_bytes.size() - got);

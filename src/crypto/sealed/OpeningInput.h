@@ -28,15 +28,18 @@ public:
     ResultCode lastError() const override;
 
 private:
-    ResultCode nextPiece();
-    ResultCode readPiece();
+    /// Reads and verifies so many pieces more, or what is left.
+    ResultCode nextPieces(std::uint64_t most);
+    ResultCode readPieces();
+    ResultCode verify(const SealedPieces& pieces);
     bool fail(ResultCode error);
 
     io::IStreamBytes& m_sealed;
     const std::uint64_t m_size;
     PieceTagger m_tagger;
-    std::vector<std::uint8_t> m_bytes; ///< the piece at hand and its tag
-    std::uint64_t m_pieceEnd = 0;      ///< in the inner file; 0 before the first piece
+    std::vector<std::uint8_t> m_bytes; ///< the pieces at hand and their tags
+    std::uint64_t m_begin = 0;         ///< of what is in it, in the inner file
+    std::uint64_t m_end = 0;           ///< likewise; 0 before the first piece
     mutable sync::Locker m_lock;
     std::uint64_t m_position = 0;
     ResultCode m_error;

@@ -9,21 +9,39 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <vector>
 
 namespace tessaly::crypto {
 
 using PieceTag = std::array<std::uint8_t, TagSize>;
 
-/// Makes the tags of an inner file's pieces, in their order. One thread at a time.
+/// So many pieces are tagged at a time: enough that threads for them pay.
+inline constexpr std::uint64_t PiecesAtOnce = 16;
+
+/// Consecutive pieces of a sealed file, each with its tag or room for it behind it. Only the last may be
+/// shorter than PieceSize.
+struct SealedPieces
+{
+    std::span<const std::uint8_t> bytes;
+    std::uint64_t firstIndex; ///< in the file
+    bool endsFile;
+
+    std::size_t count() const { return (bytes.size() + SealedPieceSize - 1) / SealedPieceSize; }
+    /// Where the piece's own bytes begin, and what they are.
+    static std::size_t begin(std::size_t i) { return i * SealedPieceSize; }
+    std::span<const std::uint8_t> piece(std::size_t i) const;
+};
+
+/// Makes the tags of pieces, on several threads where there are several pieces and cores. One caller at a
+/// time.
 class PieceTagger
 {
 public:
     CryptoResult setKey(const SecretBytes& tagKey);
-    CryptoResult tagNext(std::span<const std::uint8_t> piece, bool isLast, PieceTag& tag);
+    CryptoResult tag(const SealedPieces& pieces, std::vector<PieceTag>& tags);
 
 private:
-    std::unique_ptr<IHashEngine> m_hmac;
-    std::uint64_t m_index = 0;
+    std::vector<std::unique_ptr<IHashEngine>> m_hmacs; ///< one for each thread
 };
 
 } // namespace tessaly::crypto

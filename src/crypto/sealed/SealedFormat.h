@@ -13,6 +13,7 @@ namespace tessaly::crypto {
 inline constexpr std::uint64_t SealSaltSize = 32;
 inline constexpr std::uint64_t PieceSize = 65536;
 inline constexpr std::uint64_t TagSize = 16;
+inline constexpr std::uint64_t SealedPieceSize = PieceSize + TagSize;
 inline constexpr std::uint64_t TagKeySize = 32;
 
 /// Only an empty inner file has an empty piece.
@@ -28,7 +29,7 @@ constexpr std::optional<std::uint64_t> innerSize(std::uint64_t sealed)
     if (sealed < SealSaltSize + TagSize)
         return {};
     const std::uint64_t rest = sealed - SealSaltSize;
-    const std::uint64_t inner = rest - (rest - 1) / (PieceSize + TagSize) * TagSize - TagSize;
+    const std::uint64_t inner = rest - (rest - 1) / SealedPieceSize * TagSize - TagSize;
     const bool isPlainFormat = inner == 0 || inner > HeaderSize;
     return isPlainFormat && sealedSize(inner) == sealed ? std::optional(inner) : std::nullopt;
 }

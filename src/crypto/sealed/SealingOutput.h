@@ -8,8 +8,9 @@
 
 namespace tessaly::crypto {
 
-/// Takes an inner file and writes the sealed one: a piece with its tag as soon as more comes, the last
-/// one at the end. One thread at a time, whichever; lastError, with a lock of its own, may be asked from any.
+/// Takes an inner file and writes the sealed one: some pieces with their tags as soon as more comes, the
+/// last ones at the end. One thread at a time, whichever; lastError, with a lock of its own, may be asked
+/// from any.
 class SealingOutput final : public io::OStreamBytes
 {
 public:
@@ -20,15 +21,19 @@ public:
     [[nodiscard]] std::int64_t write(const void* buffer, std::int64_t count) override;
     ResultCode lastError() const override;
     /// Writes what is left; without it the file is not whole. False when lastError tells why.
-    [[nodiscard]] bool finish() { return putPiece(true); }
+    [[nodiscard]] bool finish() { return putPieces(true); }
 
 private:
-    bool putPiece(bool isLast);
+    /// Closes the piece at hand, if it is full; writes all when there are enough.
+    bool makeRoom();
+    bool putPieces(bool endsFile);
 
     io::OStreamBytes& m_sealed;
     PieceTagger m_tagger;
     std::vector<std::uint8_t> m_bytes; ///< what is yet to be written; the salt first
-    std::uint64_t m_begin;             ///< of the piece in it
+    std::uint64_t m_begin;             ///< of the pieces in it
+    std::uint64_t m_inPiece = 0;       ///< bytes in the last of them
+    std::uint64_t m_index = 0;         ///< of the first of them
     mutable sync::Locker m_lock;
     ResultCode m_tagError;
 };
