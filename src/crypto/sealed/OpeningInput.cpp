@@ -44,7 +44,8 @@ bool OpeningInput::read(void* buffer, std::int64_t count, std::int64_t& countRea
     const std::uint64_t at = m_position - m_begin;
     const std::uint64_t left = std::min(PieceSize - at % PieceSize, m_end - m_position);
     const std::uint64_t taken = std::min(static_cast<std::uint64_t>(count), left);
-    std::copy_n(m_bytes.data() + at + at / PieceSize * TagSize, taken, static_cast<std::uint8_t*>(buffer));
+    std::copy_n(m_bytes.data() + PieceAlignment + at + at / PieceSize * TagSize, taken,
+                static_cast<std::uint8_t*>(buffer));
     countRead = static_cast<std::int64_t>(taken);
     std::lock_guard guard(m_lock);
     m_position += taken;
@@ -55,10 +56,12 @@ ResultCode OpeningInput::nextPieces(std::uint64_t most)
 {
     const std::uint64_t count = std::min(most * PieceSize, m_size - m_end);
     const std::uint64_t pieces = std::max<std::uint64_t>((count + PieceSize - 1) / PieceSize, 1);
-    m_bytes.resize(count + pieces * TagSize);
+    m_bytes.resize(PieceAlignment + count + pieces * TagSize);
     if (const ResultCode result = readPieces(); !result.ok())
         return result;
-    if (const ResultCode result = verify({m_bytes, m_end / PieceSize, m_end + count == m_size}); !result.ok())
+    if (const ResultCode result =
+            verify({std::span(m_bytes).subspan(PieceAlignment), m_end / PieceSize, m_end + count == m_size});
+        !result.ok())
         return result;
     m_begin = m_end;
     m_end += count;
@@ -80,7 +83,7 @@ ResultCode OpeningInput::verify(const SealedPieces& pieces)
 
 ResultCode OpeningInput::readPieces()
 {
-    for (std::size_t got = 0; got < m_bytes.size();) {
+    for (std::size_t got = PieceAlignment; got < m_bytes.size();) {
         const auto asked = static_cast<std::int64_t>(m_bytes.size() - got);
         std::int64_t more = 0;
         const bool isRead = m_sealed.read(m_bytes.data() + got, asked, more);

@@ -37,7 +37,7 @@ private:
     io::IStreamBytes& m_sealed;
     const std::uint64_t m_size;
     PieceTagger m_tagger;
-    std::vector<std::uint8_t> m_bytes; ///< the pieces at hand and their tags
+    std::vector<std::uint8_t> m_bytes; ///< the pieces at hand and their tags, from PieceAlignment on
     std::uint64_t m_begin = 0;         ///< of what is in it, in the inner file
     std::uint64_t m_end = 0;           ///< likewise; 0 before the first piece
     mutable sync::Locker m_lock;

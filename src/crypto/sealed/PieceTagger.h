@@ -18,6 +18,10 @@ using PieceTag = std::array<std::uint8_t, TagSize>;
 /// So many pieces are tagged at a time: enough that threads for them pay.
 inline constexpr std::uint64_t PiecesAtOnce = 16;
 
+/// Where pieces shall begin in memory, beyond a multiple of 4: behind the 9 bytes that are hashed before a
+/// piece, SHA-256's blocks are then at the ends of words, without which Crypto++ copies each of them.
+inline constexpr std::size_t PieceAlignment = 1;
+
 /// Consecutive pieces of a sealed file, each with its tag or room for it behind it. Only the last may be
 /// shorter than PieceSize.
 struct SealedPieces

@@ -6,8 +6,9 @@
 namespace tessaly::crypto {
 
 SealingOutput::SealingOutput(io::OStreamBytes& sealed, const SecretBytes& salt)
-    : m_sealed(sealed), m_bytes(salt.begin(), salt.end()), m_begin(salt.size())
+    : m_sealed(sealed), m_bytes(PieceAlignment), m_begin(PieceAlignment + salt.size())
 {
+    m_bytes.insert(m_bytes.end(), salt.begin(), salt.end());
 }
 
 std::int64_t SealingOutput::write(const void* buffer, std::int64_t count)
@@ -49,10 +50,10 @@ bool SealingOutput::putPieces(bool endsFile)
         const std::size_t end = m_begin + pieces.begin(i) + pieces.piece(i).size();
         std::ranges::copy(tags[i], m_bytes.begin() + static_cast<std::ptrdiff_t>(end));
     }
-    const auto asked = static_cast<std::int64_t>(m_bytes.size());
-    const bool isWritten = m_sealed.write(m_bytes.data(), asked) == asked;
-    m_bytes.clear();
-    m_begin = 0;
+    const auto asked = static_cast<std::int64_t>(m_bytes.size() - PieceAlignment);
+    const bool isWritten = m_sealed.write(m_bytes.data() + PieceAlignment, asked) == asked;
+    m_bytes.resize(PieceAlignment);
+    m_begin = PieceAlignment;
     m_inPiece = 0;
     m_index += tags.size();
     return isWritten;

@@ -30,7 +30,7 @@ private:
 
     io::OStreamBytes& m_sealed;
     PieceTagger m_tagger;
-    std::vector<std::uint8_t> m_bytes; ///< what is yet to be written; the salt first
+    std::vector<std::uint8_t> m_bytes; ///< what is yet to be written, the salt first, from PieceAlignment on
     std::uint64_t m_begin;             ///< of the pieces in it
     std::uint64_t m_inPiece = 0;       ///< bytes in the last of them
     std::uint64_t m_index = 0;         ///< of the first of them
