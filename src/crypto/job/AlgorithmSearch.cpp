@@ -7,6 +7,7 @@
 #include "crypto/sealed/PieceTagger.h"
 #include "crypto/sealed/SealedFormat.h"
 #include "io/IStreamFile.h"
+#include "io/NullOutput.h"
 
 #include <algorithm>
 #include <memory>
@@ -44,13 +45,6 @@ public:
 private:
     std::span<const std::uint8_t> m_bytes;
     std::span<const std::uint8_t> m_left;
-};
-
-class Nowhere final : public io::OStreamBytes
-{
-public:
-    [[nodiscard]] std::int64_t write(const void*, std::int64_t count) override { return count; }
-    ResultCode lastError() const override { return {}; }
 };
 
 std::unique_ptr<ISymmetricDecryptor> decryptorOf(std::uint32_t algorithmId)
@@ -168,7 +162,7 @@ bool AlgorithmSearch::fitsPlain(std::uint32_t algorithmId) const
     if (!decryptor)
         return false;
     HeadInput in({m_head.data(), std::min(m_head.size(), PlainHeadSize)});
-    Nowhere out;
+    io::NullOutput out;
     const CryptoResult result =
         m_request.passwordMode
             ? decryptor->runWithPassword(&in, &out, m_request.password.c_str(), nullptr, nullptr)

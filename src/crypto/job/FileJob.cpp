@@ -87,7 +87,7 @@ private:
     {
         m_outcome.step = JobStep::OpenInput;
         if (m_request.source)
-            return {};
+            return m_request.source->rewind();
         const auto place = std::make_shared<io::FilePlace>();
         platform::File file;
         ResultCode result = place->open(m_request.input);
