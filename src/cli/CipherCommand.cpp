@@ -88,7 +88,15 @@ private:
         return result.ok();
     }
 
-    bool spool() { return !m_request.source || fail(spoolStandardInput(m_spool), JobStep::Process); }
+    bool spool()
+    {
+        if (!m_request.source || fail(spoolStandardInput(m_spool), JobStep::Process))
+            return true;
+        if (m_result.outcome.failedAtOutput())
+            m_result.failedStep =
+                "Standard input could not be kept in the folder " + temporaryFolder().string() + '.';
+        return false;
+    }
 
     bool findAlgorithm()
     {

@@ -53,9 +53,9 @@ std::string reasonOf(const FileJobOutcome& outcome, const Arguments& arguments)
                                  : ": wrong password, key or IV, or a damaged or foreign file";
 }
 
-ExitCode reportFailure(const FileJobRequest& request, const FileJobOutcome& outcome,
-                       const Arguments& arguments)
+ExitCode reportFailure(const FileJobRequest& request, const FileResult& result, const Arguments& arguments)
 {
+    const FileJobOutcome& outcome = result.outcome;
     // Whoever closed the pipe has what he wanted.
     if (request.sink && platform::isClosedPipe(outcome.result.second()))
         return Failed;
@@ -63,7 +63,7 @@ ExitCode reportFailure(const FileJobRequest& request, const FileJobOutcome& outc
                            : arguments.command == Command::Decrypt ? "Failed to decrypt file."
                                                                    : "Failed to verify file.";
     complain(errorLine(sentence, outcome.result) + reasonOf(outcome, arguments) + ". " +
-             stepSentence(request, outcome));
+             (result.failedStep.empty() ? stepSentence(request, outcome) : result.failedStep));
     return exitCodeOf(outcome.result);
 }
 
@@ -88,7 +88,7 @@ ExitCode report(const FileJobRequest& request, const FileResult& result, const A
         return Interrupted;
     }
     if (!outcome.done())
-        return reportFailure(request, outcome, arguments);
+        return reportFailure(request, result, arguments);
     if (arguments.quiet)
         return Done;
     if (arguments.command == Command::Verify)

@@ -18,6 +18,8 @@ struct FileResult
     std::optional<std::uint32_t> algorithmId;
     std::string input; ///< as it is shown
     bool isEmpty = false;
+    /// What could not be done, where that was no step of a job on its files.
+    std::string failedStep = {};
 };
 
 /// The failure in one line on standard error, or the command's success where there is something to tell:

@@ -3,7 +3,7 @@
 #include "lib/platform/StandardStreams.h"
 #include "lib/secret/Secret.h"
 
-#include <filesystem>
+#include <cstdlib>
 #include <system_error>
 
 namespace cli {
@@ -17,13 +17,17 @@ constexpr std::size_t AtOnce = 256 << 10;
 
 } // namespace
 
-CryptoResult spoolStandardInput(crypto::Spool& spool)
+std::filesystem::path temporaryFolder()
 {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
-    if (error)
-        return {err::WriteStreamFailed, err::system(error.value())};
-    if (const CryptoResult opened = spool.open(folder); !opened.ok())
+    const char* wished = std::getenv("TMPDIR");
+    return !error ? folder : wished ? wished : "/tmp";
+}
+
+CryptoResult spoolStandardInput(crypto::Spool& spool)
+{
+    if (const CryptoResult opened = spool.open(temporaryFolder()); !opened.ok())
         return {err::WriteStreamFailed, opened.first()};
     SecretBytes bytes(AtOnce);
     for (;;) {

@@ -214,6 +214,12 @@ class Behaviour(unittest.TestCase):
         self.assertEqual(self.decrypt("-o", "-", "encrypted").encode(), plain.decode(errors="replace").encode())
         self.assert_files("encrypted")
 
+        self.assertIn("could not be kept in the folder /nowhere",
+                      self.run_cli("encrypt", "--password-file", "pw", "-", code=1, env={"TMPDIR": "/nowhere"}))
+        shown, code = self.on_terminal(["encrypt", "-o", "-", "plain"], [])
+        self.assertIn("not written to a terminal", shown)
+        self.assertEqual(code, 1)
+
         reader, writer = os.pipe()
         os.close(reader)
         for words in (["algorithms"], ["decrypt", "--password-file", "pw", "-q", "-o", "-", "encrypted"]):

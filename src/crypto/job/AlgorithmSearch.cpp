@@ -1,9 +1,12 @@
 #include "crypto/job/AlgorithmSearch.h"
 
 #include "crypto/Guard.h"
+#include "crypto/catalogue/AlgInfo.h"
+#include "crypto/cipher/CipherRun.h"
 #include "crypto/cryptopp/CCipherFactory.h"
 #include "crypto/job/RootOfRequest.h"
 #include "crypto/key/Hmac.h"
+#include "crypto/key/KeyMaterial.h"
 #include "crypto/sealed/PieceTagger.h"
 #include "crypto/sealed/SealedFormat.h"
 #include "io/IStreamFile.h"
@@ -163,10 +166,16 @@ bool AlgorithmSearch::fitsPlain(std::uint32_t algorithmId) const
         return false;
     HeadInput in({m_head.data(), std::min(m_head.size(), PlainHeadSize)});
     io::NullOutput out;
+    SecretBytes key = m_request.key;
+    SecretBytes iv = m_request.iv;
+    if (m_request.passwordMode) {
+        const std::uint32_t hash = keyDerivationHash(decryptor->keyLength(), decryptor->ivLength());
+        if (!deriveKey(key, decryptor->keyLength(), hash, m_request.password.c_str()).ok())
+            return false;
+        iv = SecretBytes(decryptor->ivLength());
+    }
     const CryptoResult result =
-        m_request.passwordMode
-            ? decryptor->runWithPassword(&in, &out, m_request.password.c_str(), nullptr, nullptr)
-            : decryptor->run(&in, &out, m_request.key, m_request.iv, nullptr, nullptr);
+        decryptor->run(&in, &out, key, iv, HeaderSize, DefaultProgressInterval, nullptr, nullptr);
     // Of most files the head alone is cut short, and that is told once the check value fits.
     return result.ok() || result == CryptoResult(err::InputTruncated);
 }

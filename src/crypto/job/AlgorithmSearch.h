@@ -18,7 +18,7 @@ namespace tessaly::crypto {
 /// some algorithm's with a chance below 2^-121. What lies behind the beginning is not looked at.
 ///
 /// By password all algorithms are tried, by key and IV those that take keys and IVs of that length. The
-/// plain headers take less than a millisecond together, the tags a few. May throw when the memory is
+/// plain headers take about a millisecond together, the tags about ten. May throw when the memory is
 /// short. One thread.
 class AlgorithmSearch
 {
