@@ -12,6 +12,7 @@
 #include "crypto/job/AlgorithmSearch.h"
 #include "io/NullOutput.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/StandardStreams.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 
@@ -59,6 +60,9 @@ public:
             m_result.outcome = m_arguments.command == Command::Encrypt
                                    ? runWith<cryptopp::CEncryptorFactory, crypto::ISymmetricEncryptor>()
                                    : runWith<cryptopp::CDecryptorFactory, crypto::ISymmetricDecryptor>();
+        if (m_request.sink == &m_standardOutput && m_result.outcome.done())
+            if (const ResultCode closed = platform::closeStandardOutput(); !closed.ok())
+                m_result.outcome.result = {err::WriteStreamFailed, closed};
         return std::move(m_result);
     }
 
@@ -162,7 +166,8 @@ std::optional<ExitCode> prepareSecret(const Arguments& arguments, FileJobRequest
 ExitCode runTask(const Arguments& arguments, const Item& item, FileJobRequest secret, std::string label,
                  Stop& stop)
 {
-    std::optional<ProgressLine> progress(std::in_place, std::move(label), !arguments.quiet);
+    const bool isInTheWay = item.output == StandardStream && platform::isOutputTerminal();
+    std::optional<ProgressLine> progress(std::in_place, std::move(label), !arguments.quiet && !isInTheWay);
     Task task(arguments, item, std::move(secret), *progress, stop);
     const FileResult result = task.run();
     progress.reset(); // its line is gone before another comes

@@ -69,6 +69,7 @@ ProgressLine::~ProgressLine()
 void ProgressLine::jobStarted(std::int64_t)
 {
     m_start = std::chrono::steady_clock::now();
+    show({}); // the key is made
 }
 
 void ProgressLine::jobDerivingKey()

@@ -48,7 +48,8 @@ std::string reasonOf(const FileJobOutcome& outcome, const Arguments& arguments)
     if (outcome.result != CryptoResult(err::CheckValueDiffers))
         return {};
     if (outcome.fittingAlgorithm)
-        return ": the file was encrypted with " + nameOf(*outcome.fittingAlgorithm);
+        return ": the file was encrypted with " + nameOf(*outcome.fittingAlgorithm) + ", not with " +
+               nameOf(arguments.algorithmId.value_or(0));
     return arguments.algorithmId ? ": wrong password, key, IV or algorithm, or a damaged or foreign file"
                                  : ": wrong password, key or IV, or a damaged or foreign file";
 }

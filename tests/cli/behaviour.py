@@ -162,7 +162,7 @@ class Behaviour(unittest.TestCase):
                 files = sorted(os.listdir())
                 self.assertEqual(self.run_cli("verify", *opened, "out"), f"out: {verdict}\n")
                 self.assertEqual(self.run_cli("verify", "-q", *opened, "out"), "")
-                self.assertIn(": the file was encrypted with Serpent-256. The file out could",
+                self.assertIn(": the file was encrypted with Serpent-256, not with AES-256. The file out could",
                               self.run_cli("decrypt", *opened, "-a", "AES-256", "-fo", "opened", "out", code=3))
                 self.assertEqual(sorted(os.listdir()), files)
                 self.run_cli("decrypt", *opened, "-fo", "opened", "out", lines=1)

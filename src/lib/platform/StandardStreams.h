@@ -14,6 +14,9 @@ ResultCode readStandardInput(void* buffer, std::size_t count, std::size_t& count
 /// One write; on success never nothing. (1, EPIPE) when nobody reads it any more.
 ResultCode writeStandardOutput(const void* buffer, std::size_t count, std::size_t& countWritten);
 
+/// Some file systems tell only now that what was written is lost.
+ResultCode closeStandardOutput();
+
 /// What standard input is connected to.
 FileStatus standardInputStatus();
 bool isOutputTerminal();

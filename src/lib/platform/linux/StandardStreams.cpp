@@ -71,6 +71,11 @@ ResultCode writeStandardOutput(const void* buffer, std::size_t count, std::size_
     }
 }
 
+ResultCode closeStandardOutput()
+{
+    return outcome(::close(STDOUT_FILENO) == 0 || errno == EINTR);
+}
+
 FileStatus standardInputStatus()
 {
     return statusOf(STDIN_FILENO);
