@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the release, and opens Quillet's window with the arguments given.
-# The first argument encrypt, decrypt or algorithms starts the console program instead. Without a
+# The first argument encrypt, decrypt, verify or algorithms starts the console program instead. Without a
 # display the job runs in the console: each file given is encrypted, and what comes out of the
 # decryption is compared with it; with -decrypt each is decrypted. Without any argument README.md is
 # encrypted.
@@ -35,7 +35,7 @@ console_run() {
     fi
     sealed=${output:-$file.enc}
     cipher encrypt --output "$sealed" "$file" <<<"$password"
-    cipher decrypt --force --output "$scratch/opened" "$sealed" <<<"$password"
+    cipher decrypt --quiet --force --output "$scratch/opened" "$sealed" <<<"$password"
     cmp "$file" "$scratch/opened"
     echo "$file: encrypted into $sealed, which decrypts to the same file"
   done
@@ -55,7 +55,7 @@ cipher() {
 )
 
 case ${1-} in
-  encrypt | decrypt | algorithms) exec "$programs/quillet-cli" "$@" ;;
+  encrypt | decrypt | verify | algorithms) exec "$programs/quillet-cli" "$@" ;;
   --help | --version) exec "$programs/quillet" "$@" ;;
 esac
 if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then

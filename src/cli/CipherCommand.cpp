@@ -1,18 +1,22 @@
 #include "cli/CipherCommand.h"
 
-#include "cli/DefaultOutput.h"
 #include "cli/Message.h"
+#include "cli/Plan.h"
 #include "cli/ProgressLine.h"
+#include "cli/Report.h"
 #include "cli/Secrets.h"
-#include "common/errors/JobStepText.h"
+#include "cli/StandardInput.h"
+#include "cli/StandardOutput.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "crypto/cryptopp/CCipherFactory.h"
-#include "io/PathCheck.h"
-#include "lib/platform/File.h"
+#include "crypto/job/AlgorithmSearch.h"
+#include "io/NullOutput.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/StandardStreams.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -23,155 +27,173 @@ namespace cli {
 
 using namespace tessaly;
 using crypto::CryptoResult;
-using crypto::ExistingOutput;
 using crypto::FileJobOutcome;
 using crypto::FileJobRequest;
+using crypto::JobStep;
 
 namespace {
 
 /// What Ctrl-C stops: the engine at work, if there is one.
 using Stop = sync::internal::SafeData<sync::Locker, std::function<void()>>;
 
-std::string folderText(const std::filesystem::path& path)
+/// One file of the command on its way.
+class Task
 {
-    return path.has_parent_path() ? path.parent_path().string() : ".";
-}
-
-/// Empty when the paths can be used.
-std::string checkPaths(const FileJobRequest& request, bool force)
-{
-    const std::string input = request.input.string();
-    const std::string output = request.output.string();
-    switch (io::checkInput(request.input)) {
-    case io::InputCheck::NotFound:
-        return "input not found: " + input;
-    case io::InputCheck::NotRegular:
-        return "input is not a regular file: " + input;
-    case io::InputCheck::Usable:
-        break;
-    }
-    switch (io::checkOutput(request.input, request.output)) {
-    case io::OutputCheck::MatchesInput:
-        return "output is the input itself: " + output + "; name another with --output";
-    case io::OutputCheck::NotRegular:
-        return "output is not a regular file: " + output;
-    case io::OutputCheck::NoFolder:
-        return "output folder not found: " + folderText(request.output);
-    case io::OutputCheck::Exists:
-        return force ? "" : "output exists: " + output + "; --force replaces it";
-    case io::OutputCheck::Free:
-        break;
-    }
-    return {};
-}
-
-/// Empty unless the output would take the place of the secret that opens it.
-std::string checkSecretFiles(const FileJobRequest& request, const Arguments& arguments)
-{
-    const platform::FileStatus output = platform::fileStatus(request.output);
-    const std::pair<const std::optional<std::string>&, const char*> secrets[] = {
-        {arguments.passwordFile, "password"}, {arguments.keyFile, "key"}, {arguments.ivFile, "IV"}};
-    for (const auto& [file, what] : secrets)
-        if (file &&
-            output.sameFile(*file == "-" ? platform::standardInputStatus() : platform::fileStatus(*file)))
-            return "output is the " + std::string(what) + " file: " + request.output.string();
-    return {};
-}
-
-ExitCode exitCodeOf(const CryptoResult& result)
-{
-    if (result.module != err::CategoryLibrary)
-        return Failed;
-    switch (result.code) {
-    case err::CheckValueDiffers:
-    case err::InputTooShort:
-    case err::InputTruncated:
-    case err::SealBroken:
-        return WrongKeyOrDamaged;
-    default:
-        return Failed;
-    }
-}
-
-/// What was being done to which file.
-std::string stepSentence(const FileJobRequest& request, const FileJobOutcome& outcome)
-{
-    std::string text = thisapp::failedStepText(outcome);
-    return text.replace(text.find("%1"), 2, thisapp::failedFile(outcome, request).string());
-}
-
-ExitCode report(const FileJobRequest& request, const FileJobOutcome& outcome, Command command)
-{
-    if (outcome.done())
-        return Done;
-    if (outcome.cancelled) {
-        complain("interrupted");
-        return Interrupted;
-    }
-    std::string line = errorLine(
-        command == Command::Encrypt ? "Failed to encrypt file." : "Failed to decrypt file.", outcome.result);
-    if (outcome.result == CryptoResult(err::CheckValueDiffers))
-        line += ": wrong password, key, IV or algorithm, or a damaged or foreign file";
-    complain(line + ". " + stepSentence(request, outcome));
-    return exitCodeOf(outcome.result);
-}
-
-template <class Factory, class Cipher>
-ExitCode runWith(FileJobRequest& request, const Arguments& arguments, Stop& stop)
-{
-    std::unique_ptr<Cipher> cipher;
-    const CryptoResult made = Factory().create(crypto::CryptoPPLibraryId, arguments.algorithmId, &cipher);
-    if (!made.ok()) {
-        complain(errorLine("Failed to prepare the engine.", made));
-        return Failed;
-    }
-    stop.set([&cipher] { cipher->stop(); });
-    FileJobOutcome outcome;
+public:
+    Task(const Arguments& arguments, const Item& item, FileJobRequest request, ProgressLine& progress,
+         Stop& stop)
+        : m_arguments(arguments), m_request(std::move(request)), m_progress(progress), m_stop(stop)
     {
-        ProgressLine progress;
-        outcome = crypto::runFileJob(*cipher, request, progress);
+        m_request.input = item.input;
+        m_request.output = item.output;
+        m_request.useSalt = arguments.salt;
+        m_request.seal = arguments.seal;
+        m_request.existing =
+            arguments.force ? crypto::ExistingOutput::ReplaceAtEnd : crypto::ExistingOutput::Keep;
+        m_result.input = item.input;
+        useStreams(item);
     }
-    stop.set({});
-    return report(request, outcome, arguments.command);
-}
 
-/// Usage errors apart, everything that keeps the job from its start is told here.
-std::optional<ExitCode> prepare(FileJobRequest& request, const Arguments& arguments)
-{
-    std::string problem = checkPaths(request, arguments.force);
-    if (problem.empty())
-        problem = checkSecretFiles(request, arguments);
-    if (!problem.empty()) {
-        complain(problem);
-        return Failed;
+    FileResult run()
+    {
+        if (spool() && findAlgorithm())
+            m_result.outcome = m_arguments.command == Command::Encrypt
+                                   ? runWith<cryptopp::CEncryptorFactory, crypto::ISymmetricEncryptor>()
+                                   : runWith<cryptopp::CDecryptorFactory, crypto::ISymmetricDecryptor>();
+        if (m_request.sink == &m_standardOutput && m_result.outcome.done())
+            if (const ResultCode closed = platform::closeStandardOutput(); !closed.ok())
+                m_result.outcome.result = {err::WriteStreamFailed, closed};
+        return std::move(m_result);
     }
-    const SecretOutcome secret = gatherSecret(arguments, request, problem);
-    if (secret == SecretOutcome::Interrupted || platform::Interrupts::happened()) {
+
+    /// Without its secrets after the run.
+    const FileJobRequest& request() const { return m_request; }
+
+private:
+    /// Where a stream has no name, its path tells what it is.
+    void useStreams(const Item& item)
+    {
+        if (item.input == StandardStream) {
+            m_request.source = &m_spool;
+            m_request.input = m_result.input = "(standard input)";
+        }
+        if (item.output == StandardStream) {
+            m_request.sink = &m_standardOutput;
+            m_request.output = "(standard output)";
+        } else if (item.output.empty()) {
+            m_request.sink = &m_nowhere;
+        }
+    }
+
+    bool fail(const CryptoResult& result, JobStep step)
+    {
+        m_result.outcome.result = result;
+        m_result.outcome.step = step;
+        return result.ok();
+    }
+
+    bool spool()
+    {
+        if (!m_request.source || fail(spoolStandardInput(m_spool), JobStep::Process))
+            return true;
+        if (m_result.outcome.failedAtOutput())
+            m_result.failedStep =
+                "Standard input could not be kept in the folder " + temporaryFolder().string() + '.';
+        return false;
+    }
+
+    bool findAlgorithm()
+    {
+        m_result.algorithmId = m_arguments.algorithmId;
+        if (m_result.algorithmId)
+            return true;
+        crypto::FoundAlgorithm found = crypto::findAlgorithm(m_request, m_progress);
+        m_result.outcome.cancelled = found.cancelled;
+        m_result.isEmpty = found.result.ok() && !found.cancelled && !found.algorithmId;
+        m_result.algorithmId = found.algorithmId;
+        m_request.root = std::move(found.root);
+        const bool isOpened = found.result.module != err::CategorySystem;
+        return fail(found.result, isOpened ? JobStep::Process : JobStep::OpenInput) && !found.cancelled;
+    }
+
+    template <class Factory, class Cipher>
+    FileJobOutcome runWith()
+    {
+        std::unique_ptr<Cipher> cipher;
+        const CryptoResult made = Factory().create(
+            crypto::CryptoPPLibraryId, m_result.algorithmId.value_or(crypto::DefaultAlgorithmId), &cipher);
+        FileJobOutcome outcome;
+        outcome.step = JobStep::Process;
+        outcome.result = made;
+        if (!made.ok())
+            return outcome;
+        m_stop.set([&cipher] { cipher->stop(); });
+        outcome = crypto::runFileJob(*cipher, m_request, m_progress);
+        m_stop.set({});
+        return outcome;
+    }
+
+    const Arguments& m_arguments;
+    FileJobRequest m_request;
+    ProgressLine& m_progress;
+    Stop& m_stop;
+    crypto::Spool m_spool;
+    StandardOutput m_standardOutput;
+    io::NullOutput m_nowhere;
+    FileResult m_result;
+};
+
+/// Usage errors apart, everything that keeps the work from its start is told here.
+std::optional<ExitCode> prepareSecret(const Arguments& arguments, FileJobRequest& secret)
+{
+    std::string problem;
+    const SecretOutcome outcome = gatherSecret(arguments, secret, problem);
+    if (outcome == SecretOutcome::Interrupted || platform::Interrupts::happened()) {
         complain("interrupted");
         return Interrupted;
     }
-    if (secret == SecretOutcome::NotAsked) {
+    if (outcome == SecretOutcome::NotAsked) {
         complain("no password: name --password-file, or --key-file and --iv-file, or run it on a terminal");
         return Usage;
     }
-    if (secret == SecretOutcome::Unusable) {
+    if (outcome == SecretOutcome::Unusable) {
         complain(problem);
         return Failed;
     }
     return {};
+}
+
+ExitCode runTask(const Arguments& arguments, const Item& item, FileJobRequest secret, std::string label,
+                 Stop& stop)
+{
+    const bool isInTheWay = item.output == StandardStream && platform::isOutputTerminal();
+    std::optional<ProgressLine> progress(std::in_place, std::move(label), !arguments.quiet && !isInTheWay);
+    Task task(arguments, item, std::move(secret), *progress, stop);
+    const FileResult result = task.run();
+    progress.reset(); // its line is gone before another comes
+    return report(task.request(), result, arguments);
+}
+
+ExitCode runItems(const Arguments& arguments, const std::vector<Item>& items, Stop& stop)
+{
+    FileJobRequest secret;
+    if (const std::optional<ExitCode> ended = prepareSecret(arguments, secret))
+        return *ended;
+    ExitCode worst = Done;
+    for (std::size_t i = 0; i < items.size() && worst != Interrupted; ++i) {
+        const bool isLast = i + 1 == items.size();
+        std::string label =
+            items.size() > 1 ? progressLabel(i + 1, items.size(), items[i].input) : std::string();
+        worst = std::max(
+            worst, runTask(arguments, items[i], isLast ? std::move(secret) : secret, std::move(label), stop));
+    }
+    return worst;
 }
 
 } // namespace
 
 ExitCode runCipherCommand(const Arguments& arguments)
 {
-    FileJobRequest request;
-    request.input = arguments.input;
-    request.output = arguments.output.value_or(defaultOutput(arguments.input, arguments.command));
-    request.useSalt = arguments.salt;
-    request.seal = arguments.seal;
-    request.existing = arguments.force ? ExistingOutput::ReplaceAtEnd : ExistingOutput::Keep;
-
     Stop stop;
     const platform::Interrupts interrupts([&stop] {
         stop.with([](const std::function<void()>& stopEngine) {
@@ -179,11 +201,11 @@ ExitCode runCipherCommand(const Arguments& arguments)
                 stopEngine();
         });
     });
-    if (const std::optional<ExitCode> ended = prepare(request, arguments))
-        return *ended;
-    return arguments.command == Command::Encrypt
-               ? runWith<cryptopp::CEncryptorFactory, crypto::ISymmetricEncryptor>(request, arguments, stop)
-               : runWith<cryptopp::CDecryptorFactory, crypto::ISymmetricDecryptor>(request, arguments, stop);
+    const Plan plan = makePlan(arguments);
+    for (const std::string& problem : plan.problems)
+        complain(problem);
+    const ExitCode left = plan.problems.empty() ? Done : Failed;
+    return plan.items.empty() ? left : std::max(left, runItems(arguments, plan.items, stop));
 }
 
 } // namespace cli

@@ -1,107 +1,98 @@
 #include "cli/CommandLine.h"
 
+#include "cli/HelpText.h"
+#include "cli/Suggestion.h"
+#include "cli/WordReader.h"
 #include "crypto/catalogue/Catalogue.h"
 
-#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
 
 namespace cli {
 
 namespace {
 
-constexpr const char* Footer = R"(
-Without a password file or key files, the password is asked for on the terminal.
-Exit status: 0 done, 1 failed, 2 wrong usage, 3 wrong password, key, IV or algorithm or
-a damaged file, 130 interrupted.)";
+using tessaly::crypto::catalogue;
 
-struct Parsed
+std::string commandProblem(int argc, char** argv)
 {
-    Arguments arguments;
-    std::string algorithm{tessaly::crypto::displayName(tessaly::crypto::DefaultAlgorithmId)};
-};
-
-/// What is wrong with the name of a file; empty when nothing is.
-std::string emptyNameProblem(const std::string& name)
-{
-    return name.empty() ? "the name is empty" : "";
+    std::vector<std::string> names;
+    for (const CommandRow& row : commandRows())
+        names.emplace_back(row.name);
+    if (argc < 2)
+        return "no command given; see --help";
+    const std::string word = argv[1];
+    if (word.starts_with('-') || findCommand(word))
+        return {};
+    return withSuggestion("unknown command " + word, word, names, "see --help");
 }
 
-CLI::App* addCipherCommand(CLI::App& app, Parsed& parsed, const char* name, const char* description,
-                           const char* defaultOutput)
+/// What the words of a command cannot mean together; empty when they can.
+std::string contradiction(const Arguments& arguments)
 {
-    Arguments& arguments = parsed.arguments;
-    CLI::App* command = app.add_subcommand(name, description);
-    command->add_option("--algorithm", parsed.algorithm, "as listed by `algorithms`, letter case ignored")
-        ->type_name("NAME")
-        ->capture_default_str();
-    CLI::Option* password = command->add_option("--password-file", arguments.passwordFile,
-                                                "the password is its first line; - is standard input");
-    CLI::Option* key = command->add_option("--key-file", arguments.keyFile, "the key in hexadecimal");
-    CLI::Option* iv = command->add_option("--iv-file", arguments.ivFile, "the IV in hexadecimal");
-    password->type_name("FILE")->excludes(key)->excludes(iv);
-    key->type_name("FILE")->needs(iv);
-    iv->type_name("FILE")->needs(key);
-    command->add_option("--output", arguments.output, defaultOutput)
-        ->type_name("OUT")
-        ->check(emptyNameProblem);
-    command->add_flag("--force", arguments.force, "replace an existing output");
-    command->add_option("INPUT", arguments.input, "the file to read")->required()->type_name("");
-    command->footer(Footer);
-    return command;
+    const std::vector<std::string>& inputs = arguments.inputs;
+    if (arguments.command == Command::Algorithms)
+        return {};
+    if (inputs.empty())
+        return "no file given; see --help";
+    if (std::ranges::count(inputs, "") > 0)
+        return "the name of a file is empty";
+    const bool readsInput = std::ranges::count(inputs, StandardStream) > 0;
+    if (inputs.size() > 1 && arguments.output)
+        return "--output " + *arguments.output + " names one file, and there are " +
+               std::to_string(inputs.size()) + " to write; without it each gets a name of its own";
+    if (inputs.size() > 1 && readsInput)
+        return "- is standard input and cannot stand among other files";
+    if (readsInput && arguments.passwordFile == StandardStream)
+        return "--password-file -: standard input is the file already";
+    return {};
 }
 
-/// CLI11's messages can span lines; ours are one line each.
-std::string oneLine(std::string text)
+std::string algorithmProblem(Arguments& arguments)
 {
-    if (const auto end = text.find('\n'); end != std::string::npos)
-        text.resize(end);
-    return text;
+    if (!arguments.algorithm) {
+        if (arguments.command == Command::Encrypt)
+            arguments.algorithmId = tessaly::crypto::DefaultAlgorithmId;
+        return {};
+    }
+    const auto* entry = tessaly::crypto::findAlgorithm(std::string_view(*arguments.algorithm));
+    if (entry) {
+        arguments.algorithmId = entry->id;
+        return {};
+    }
+    std::vector<std::string> names;
+    for (const auto& one : catalogue())
+        names.emplace_back(one.name);
+    return withSuggestion("unknown algorithm \"" + *arguments.algorithm + '"', *arguments.algorithm, names,
+                          "see quillet-cli algorithms");
 }
 
 } // namespace
 
 ParseOutcome parseCommandLine(int argc, char** argv)
 {
-    Parsed parsed;
-    CLI::App app("Encrypts and decrypts single files with any of " +
-                     std::to_string(tessaly::crypto::catalogue().size()) + " symmetric algorithms.",
-                 "quillet-cli");
-    app.set_version_flag("--version", "quillet-cli " QUILLET_VERSION);
-    app.require_subcommand(1);
-    app.footer(Footer);
+    Arguments arguments;
+    if (std::string problem = commandProblem(argc, argv); !problem.empty())
+        return {{}, {}, std::move(problem)};
+    const CommandRow* row = findCommand(argv[1]);
+    const std::vector<std::string> rest(argv + (row ? 2 : 1), argv + argc);
+    std::string problem = readWords(rest, row, arguments);
+    if (arguments.help)
+        return {{}, helpText(row ? std::optional(row->command) : std::nullopt), {}};
+    if (arguments.version)
+        return {{}, "quillet-cli " QUILLET_VERSION "\n", {}};
+    if (row)
+        arguments.command = row->command;
+    else if (problem.empty())
+        problem = "no command given; see --help";
 
-    CLI::App* encrypt = addCipherCommand(app, parsed, "encrypt", "Encrypt one file", "instead of INPUT.enc");
-    CLI::Option* salt =
-        encrypt->add_flag("--salt", parsed.arguments.salt, "make equal files encrypt differently");
-    encrypt
-        ->add_flag("--seal", parsed.arguments.seal,
-                   "make guessing the password expensive and any change of the file evident;\n"
-                   "takes 256 MiB of memory and a moment; a sealed file is always salted")
-        ->excludes(salt);
-    CLI::App* decrypt = addCipherCommand(app, parsed, "decrypt", "Decrypt one file, sealed or not",
-                                         "instead of INPUT.dec without the .enc");
-    CLI::App* algorithms = app.add_subcommand("algorithms", "List the algorithms with their sizes in bytes");
-    algorithms->add_flag("--json", parsed.arguments.json, "as a JSON array");
-
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::CallForHelp&) {
-        return {{}, app.help(), {}};
-    } catch (const CLI::CallForVersion&) {
-        return {{}, app.version() + "\n", {}};
-    } catch (const CLI::ParseError& error) {
-        return {{}, {}, oneLine(error.what())};
-    }
-
-    if (algorithms->parsed()) {
-        parsed.arguments.command = Command::Algorithms;
-        return {parsed.arguments, {}, {}};
-    }
-    parsed.arguments.command = decrypt->parsed() ? Command::Decrypt : Command::Encrypt;
-    const auto* entry = tessaly::crypto::findAlgorithm(std::string_view(parsed.algorithm));
-    if (entry == nullptr)
-        return {{}, {}, "unknown algorithm \"" + parsed.algorithm + "\"; see quillet-cli algorithms"};
-    parsed.arguments.algorithmId = entry->id;
-    return {parsed.arguments, {}, {}};
+    if (problem.empty())
+        problem = contradiction(arguments);
+    if (problem.empty())
+        problem = algorithmProblem(arguments);
+    if (!problem.empty())
+        return {{}, {}, std::move(problem)};
+    return {std::move(arguments), {}, {}};
 }
 
 } // namespace cli

@@ -1,28 +1,23 @@
 #pragma once
 
+#include "cli/CommandTable.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 
 namespace cli {
 
-enum class Command { Encrypt, Decrypt, Algorithms };
-
-/// A command line that makes sense. Paths are as the user gave them.
-struct Arguments
+/// A command line that makes sense.
+struct Arguments : Words
 {
     Command command = Command::Algorithms;
-    std::uint32_t algorithmId = 0;
-    std::optional<std::string> passwordFile; ///< "-" is standard input
-    std::optional<std::string> keyFile;
-    std::optional<std::string> ivFile;
-    std::optional<std::string> output;
-    std::string input;
-    bool salt = false;
-    bool seal = false;
-    bool force = false;
-    bool json = false;
+    /// Nothing when it is to be found out; encryption always has one.
+    std::optional<std::uint32_t> algorithmId;
 };
+
+/// The name that stands for standard input or output.
+inline constexpr const char* StandardStream = "-";
 
 /// One of the three is there.
 struct ParseOutcome

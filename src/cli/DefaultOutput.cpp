@@ -1,21 +1,52 @@
 #include "cli/DefaultOutput.h"
 
 #include "common/naming/OutputNaming.h"
+#include "common/settings/AppSettings.h"
+#include "common/settings/Product.h"
 
 #include <filesystem>
 
 namespace cli {
 
-std::string defaultOutput(const std::string& input, Command command)
+namespace {
+
+using thisapp::NamingDirection;
+using thisapp::NamingSettings;
+
+/// Scripts rely on the defaults; of the user's settings only the extension of encrypted files counts.
+NamingSettings namingOf(const QString& encrypted)
 {
-    const auto direction = command == Command::Encrypt ? thisapp::NamingDirection::Encryption
-                                                       : thisapp::NamingDirection::Decryption;
+    NamingSettings naming;
+    if (thisapp::namingDirection(encrypted, naming) == NamingDirection::Decryption)
+        return naming;
+    const QString extension =
+        thisapp::readNamingSettings(tessaly::AppSettings(tessaly::QuilletProductId)).encryption.ext;
+    if (!extension.isEmpty())
+        naming.encryption.ext = extension;
+    return naming;
+}
+
+} // namespace
+
+std::string defaultOutput(const std::string& input, Command command,
+                          const std::function<bool(const std::string&)>& isFree)
+{
     const std::filesystem::path path = input;
     // Latin-1 both ways keeps every byte of a name that is not UTF-8; the rules look at ASCII only.
     const QString name = QString::fromLatin1(path.filename().c_str());
-    const QString output =
-        thisapp::outputFileName(name, direction, thisapp::NamingSettings(), QDate::currentDate());
-    return path.parent_path() / output.toLatin1().toStdString();
+    const auto beside = [&](const QString& output) {
+        return (path.parent_path() / output.toLatin1().toStdString()).string();
+    };
+    if (command == Command::Encrypt)
+        return beside(thisapp::outputFileName(name, NamingDirection::Encryption, NamingSettings(),
+                                              QDate::currentDate()));
+    const NamingSettings naming = namingOf(name);
+    if (thisapp::namingDirection(name, naming) == NamingDirection::Decryption) {
+        const QString stem = name.left(name.lastIndexOf(QLatin1Char('.')));
+        if (!stem.isEmpty() && isFree(beside(stem)))
+            return beside(stem);
+    }
+    return beside(thisapp::outputFileName(name, NamingDirection::Decryption, naming, QDate::currentDate()));
 }
 
 } // namespace cli

@@ -1,14 +1,20 @@
 #include "cli/ProgressLine.h"
 
+#include "lib/logger/LogText.h"
 #include "lib/platform/Interrupts.h"
 #include "lib/platform/Terminal.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
+#include <utility>
 
 namespace cli {
 
 namespace {
+
+constexpr std::size_t LongestName = 32; ///< in bytes
 
 std::string duration(double seconds)
 {
@@ -33,7 +39,25 @@ std::string progressText(std::int64_t processed, double percent, double seconds)
     return line;
 }
 
-ProgressLine::ProgressLine() : m_visible(tessaly::platform::isErrorTerminal())
+std::string progressLabel(std::size_t number, std::size_t count, const std::string& name)
+{
+    std::string shown;
+    tessaly::logger::appendOneLine(shown, std::filesystem::path(name).filename().string());
+    if (shown.size() > LongestName) {
+        const auto isWithinLetter = [&](std::size_t at) { return (shown[at] & 0xC0) == 0x80; };
+        std::size_t end = LongestName / 2;
+        std::size_t begin = shown.size() - LongestName / 2;
+        while (end > 0 && isWithinLetter(end))
+            --end;
+        while (begin < shown.size() && isWithinLetter(begin))
+            ++begin;
+        shown.replace(end, begin - end, "...");
+    }
+    return std::to_string(number) + '/' + std::to_string(count) + ' ' + shown;
+}
+
+ProgressLine::ProgressLine(std::string label, bool isWanted)
+    : m_label(std::move(label)), m_visible(isWanted && tessaly::platform::isErrorTerminal())
 {
 }
 
@@ -45,6 +69,7 @@ ProgressLine::~ProgressLine()
 void ProgressLine::jobStarted(std::int64_t)
 {
     m_start = std::chrono::steady_clock::now();
+    show({}); // the key is made
 }
 
 void ProgressLine::jobDerivingKey()
@@ -72,7 +97,8 @@ void ProgressLine::show(const std::string& text)
 {
     if (!m_visible || (text.empty() && m_shown == 0))
         return;
-    std::string line = text.substr(0, tessaly::platform::errorTerminalWidth() - 1);
+    std::string line = m_label.empty() || text.empty() ? text : m_label + "  " + text;
+    line.resize(std::min<std::size_t>(line.size(), tessaly::platform::errorTerminalWidth() - 1));
     const std::size_t columns = line.size();
     if (columns < m_shown)
         line.append(m_shown - columns, ' ');

@@ -9,12 +9,12 @@
 
 namespace cli {
 
-/// Percent, speed and remaining time, rewritten in place on standard error when that is a terminal;
-/// nothing otherwise.
+/// Percent, speed and remaining time, behind the label if there is one, rewritten in place on standard error
+/// when that is a terminal; nothing otherwise.
 class ProgressLine final : public tessaly::crypto::IFileJobObserver
 {
 public:
-    ProgressLine();
+    ProgressLine(std::string label, bool isWanted);
     ~ProgressLine() override;
 
     void jobStarted(std::int64_t total) override;
@@ -26,10 +26,14 @@ public:
 private:
     void show(const std::string& text);
 
-    bool m_visible;
+    const std::string m_label;
+    const bool m_visible;
     std::size_t m_shown = 0; ///< columns to blank
     std::chrono::steady_clock::time_point m_start;
 };
+
+/// "2/11 report.txt", with a long name shortened in the middle.
+std::string progressLabel(std::size_t number, std::size_t count, const std::string& name);
 
 /// For example "41.3%  512.0 MB/s  3 s left".
 std::string progressText(std::int64_t processed, double percent, double seconds);

@@ -6,8 +6,10 @@
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace cli {
@@ -48,23 +50,26 @@ bool readSecretFile(const std::string& path, bool firstLineOnly, SecretBytes& by
     return std::ferror(file.get()) == 0;
 }
 
-bool acceptPassword(const SecretBytes& bytes, SecretText& password, std::string& problem)
+/// `source` begins the problem: where the password came from.
+bool acceptPassword(const SecretBytes& bytes, const std::string& source, SecretText& password,
+                    std::string& problem)
 {
     if (bytes.size() == 0) {
-        problem = "the password is empty";
+        problem = source + "the password is empty";
         return false;
     }
     const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     if (const char* found = thisapp::passwordProblem(text)) {
-        problem = found;
+        problem = source + found;
         return false;
     }
     password = SecretText(text);
     return true;
 }
 
-bool readHexFile(const std::string& path, const char* what, std::uint32_t length, SecretBytes& bytes,
-                 std::string& problem)
+/// Without a length any will do.
+bool readHexFile(const std::string& path, const char* what, std::optional<std::uint32_t> length,
+                 SecretBytes& bytes, std::string& problem)
 {
     SecretBytes text;
     if (!readSecretFile(path, false, text)) {
@@ -73,12 +78,12 @@ bool readHexFile(const std::string& path, const char* what, std::uint32_t length
     }
     auto decoded = tessaly::decodeHex({reinterpret_cast<const char*>(text.data()), text.size()});
     if (!decoded) {
-        problem = "the " + std::string(what) + " is not hexadecimal";
+        problem = "the " + std::string(what) + " file " + path + " is not hexadecimal";
         return false;
     }
-    if (decoded->size() != length) {
-        problem = "the " + std::string(what) + " has " + std::to_string(decoded->size()) +
-                  " bytes, the algorithm takes " + std::to_string(length);
+    if (length && decoded->size() != *length) {
+        problem = "the " + std::string(what) + " in " + path + " has " + std::to_string(decoded->size()) +
+                  " bytes, the algorithm takes " + std::to_string(*length);
         return false;
     }
     bytes = std::move(*decoded);
@@ -88,7 +93,7 @@ bool readHexFile(const std::string& path, const char* what, std::uint32_t length
 SecretOutcome askForPassword(bool twice, SecretText& password, std::string& problem)
 {
     using tessaly::platform::readHiddenLine;
-    if (!tessaly::platform::isInputTerminal())
+    if (!tessaly::platform::canAsk())
         return SecretOutcome::NotAsked;
     SecretBytes first;
     SecretBytes second;
@@ -99,7 +104,30 @@ SecretOutcome askForPassword(bool twice, SecretText& password, std::string& prob
         problem = "the passwords do not match";
         return SecretOutcome::Unusable;
     }
-    return acceptPassword(first, password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+    return acceptPassword(first, "", password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+}
+
+bool readKeyAndIv(const Arguments& arguments, tessaly::crypto::FileJobRequest& request, std::string& problem)
+{
+    using namespace tessaly::crypto;
+    std::optional<std::uint32_t> keyLength;
+    std::optional<std::uint32_t> ivLength;
+    if (arguments.algorithmId) {
+        const auto& record = findAlgorithm(*arguments.algorithmId)->record;
+        keyLength = record.keyLength;
+        ivLength = record.ivLength;
+    }
+    if (!readHexFile(*arguments.keyFile, "key", keyLength, request.key, problem) ||
+        !readHexFile(*arguments.ivFile, "IV", ivLength, request.iv, problem))
+        return false;
+    const bool isTaken = std::ranges::any_of(catalogue(), [&](const CatalogueEntry& entry) {
+        return entry.record.keyLength == request.key.size() && entry.record.ivLength == request.iv.size();
+    });
+    if (!isTaken)
+        problem = "no algorithm takes a key of " + std::to_string(request.key.size()) + " bytes (" +
+                  *arguments.keyFile + ") with an IV of " + std::to_string(request.iv.size()) + " bytes (" +
+                  *arguments.ivFile + ')';
+    return isTaken;
 }
 
 } // namespace
@@ -108,13 +136,8 @@ SecretOutcome gatherSecret(const Arguments& arguments, tessaly::crypto::FileJobR
                            std::string& problem)
 {
     request.passwordMode = !arguments.keyFile;
-    if (arguments.keyFile) {
-        const auto& record = tessaly::crypto::findAlgorithm(arguments.algorithmId)->record;
-        return readHexFile(*arguments.keyFile, "key", record.keyLength, request.key, problem) &&
-                       readHexFile(*arguments.ivFile, "IV", record.ivLength, request.iv, problem)
-                   ? SecretOutcome::Ready
-                   : SecretOutcome::Unusable;
-    }
+    if (arguments.keyFile)
+        return readKeyAndIv(arguments, request, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
     if (!arguments.passwordFile)
         return askForPassword(arguments.command == Command::Encrypt, request.password, problem);
     SecretBytes line;
@@ -122,7 +145,9 @@ SecretOutcome gatherSecret(const Arguments& arguments, tessaly::crypto::FileJobR
         problem = "cannot read the password file " + *arguments.passwordFile;
         return SecretOutcome::Unusable;
     }
-    return acceptPassword(line, request.password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+    const std::string source = "password file " + *arguments.passwordFile + ": ";
+    return acceptPassword(line, source, request.password, problem) ? SecretOutcome::Ready
+                                                                   : SecretOutcome::Unusable;
 }
 
 } // namespace cli

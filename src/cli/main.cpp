@@ -4,32 +4,24 @@
 #include "cli/Message.h"
 #include "lib/platform/Interrupts.h"
 #include "lib/platform/Process.h"
+#include "lib/platform/StandardStreams.h"
 
 #include <cstdio>
 #include <exception>
 
 namespace {
 
-/// A closed pipe or a full disk must not pass for success.
-cli::ExitCode print(const std::string& text)
-{
-    const bool written = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
-    if (!written)
-        cli::complain("cannot write to standard output");
-    return written ? cli::Done : cli::Failed;
-}
-
 cli::ExitCode run(int argc, char** argv)
 {
     const cli::ParseOutcome parsed = cli::parseCommandLine(argc, argv);
     if (!parsed.arguments) {
         if (!parsed.answer.empty())
-            return print(parsed.answer);
-        cli::complain(parsed.problem + "; see quillet-cli --help");
+            return cli::print(parsed.answer);
+        cli::complain(parsed.problem);
         return cli::Usage;
     }
     if (parsed.arguments->command == cli::Command::Algorithms)
-        return print(parsed.arguments->json ? cli::algorithmJson() : cli::algorithmTable());
+        return cli::print(parsed.arguments->json ? cli::algorithmJson() : cli::algorithmTable());
     return cli::runCipherCommand(*parsed.arguments);
 }
 
@@ -37,6 +29,7 @@ cli::ExitCode run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    tessaly::platform::holdStandardStreams();
     tessaly::platform::ignoreWriteSignals();
     tessaly::platform::disableCoreDumps();
     // The last resort: neither memory nor a thread may be had. It needs neither itself.

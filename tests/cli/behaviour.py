@@ -34,21 +34,22 @@ class Behaviour(unittest.TestCase):
         with open(name, "rb") as file:
             return file.read()
 
-    def run_cli(self, *arguments, code=0, stdin=b"", **options):
-        done = subprocess.run([CLI, *arguments], input=stdin, capture_output=True, timeout=120, **options)
+    def run_cli(self, *arguments, code=0, stdin=b"", lines=None, **options):
+        """What it tells: on standard output, or after a failure on standard error."""
+        done = subprocess.run([CLI, *arguments], input=stdin, capture_output=True, timeout=120, start_new_session=True,
+                              **options)
         error = done.stderr.decode()
         self.assertEqual(done.returncode, code, error)
-        if code:
-            self.assertRegex(error, r"\Aquillet-cli: [^\n]+\n\Z", "one line")
-        else:
-            self.assertEqual(error, "", "no progress without a terminal")
-        return done.stdout.decode() if code == 0 else error
+        lines = (1 if code else 0) if lines is None else lines
+        self.assertRegex(error, r"\A(quillet-cli: [^\n]+\n){%d}\Z" % lines, "no progress without a terminal")
+        self.told = error
+        return done.stdout.decode(errors="replace") if code == 0 else error
 
     def encrypt(self, *arguments, **options):
         return self.run_cli("encrypt", "--password-file", "pw", *arguments, **options)
 
     def decrypt(self, *arguments, **options):
-        return self.run_cli("decrypt", "--password-file", "pw", *arguments, **options)
+        return self.run_cli("decrypt", "--quiet", "--password-file", "pw", *arguments, **options)
 
     def assert_files(self, *names):
         self.assertEqual(sorted(os.listdir()), sorted(("pw", "plain") + names))
@@ -76,6 +77,14 @@ class Behaviour(unittest.TestCase):
         self.assertNotEqual(self.read("plain.enc"), self.read("salted"))
         self.assertEqual(stat.S_IMODE(os.stat("plain.enc").st_mode), 0o644)
         self.assertEqual(stat.S_IMODE(os.stat("plain.dec").st_mode), 0o600)
+
+    def test_knows_the_extension_of_the_settings(self):
+        os.makedirs("config/Tessaly")
+        self.write("config/Tessaly/Quillet.conf", "[General]\nEncFileNameExt=secret\n")
+        self.encrypt("-o", "new.Secret", "plain")
+        self.decrypt("new.Secret", env={"XDG_CONFIG_HOME": os.path.abspath("config")})
+        self.decrypt("new.Secret")
+        self.assert_files("config", "new", "new.Secret", "new.Secret.dec")
 
     def test_empty_file_whose_name_is_not_utf8(self):
         name = b"caf\xe9 \xff"
@@ -137,16 +146,127 @@ class Behaviour(unittest.TestCase):
         self.assertIn("File too large (error: 1/27)", error)
         self.assert_files()
 
-    def test_usage(self):
+    def test_finds_the_algorithm(self):
+        self.write("key", "5a" * 32)
+        self.write("iv", "a5" * 16)
+        self.write("short", "5a" * 31)
+        key = ["--key-file", "key", "--iv-file", "iv"]
+        password = ["--password-file", "pw"]
+        fits = "the password fits, the algorithm is Serpent-256, "
+        for name, made, opened, verdict in (
+                ("plain", password, password, fits + "the length is right; the plain format cannot tell whether the data was changed"),
+                ("sealed", ["-s", *password], password, fits + "the file is sealed, whole and unchanged"),
+                ("by key", ["-s", *key], key, "key and IV fit, the algorithm is Serpent-256, the file is sealed, whole and unchanged")):
+            with self.subTest(name):
+                self.run_cli("encrypt", *made, "-a", "serpent-256", "-fo", "out", "plain")
+                files = sorted(os.listdir())
+                self.assertEqual(self.run_cli("verify", *opened, "out"), f"out: {verdict}\n")
+                self.assertEqual(self.run_cli("verify", "-q", *opened, "out"), "")
+                self.assertIn(": the file was encrypted with Serpent-256, not with AES-256. The file out could",
+                              self.run_cli("decrypt", *opened, "-a", "AES-256", "-fo", "opened", "out", code=3))
+                self.assertEqual(sorted(os.listdir()), files)
+                self.run_cli("decrypt", *opened, "-fo", "opened", "out", lines=1)
+                self.assertEqual(self.told, "quillet-cli: out was encrypted with Serpent-256\n")
+                self.assertEqual(self.read("opened"), self.read("plain"))
+        self.assertIn("no algorithm takes a key of 31 bytes (short)",
+                      self.run_cli("verify", "--key-file", "short", "--iv-file", "iv", "out", code=1))
+        self.write("changed", self.read("out")[:-1] + b"x")
+        self.run_cli("verify", *key, "changed", code=3)
+        self.write("empty", "")
+        self.assertIn("empty: the file is empty", self.run_cli("verify", *password, "empty"))
+
+    def test_several_files(self):
+        os.mkdir("folder")
+        names = ["plain", "[a,b]", "-dash", "c.txt"]
+        for name in names[1:]:
+            self.write(name, name)
+        error = self.encrypt("-a", "XTEA", "plain", "folder", "[a,b]", "missing", "c.txt", "--", "-dash", code=1, lines=2)
+        self.assertIn("input is a folder: folder", error)
+        os.remove("c.txt")
+        os.remove("[a,b]")
+        self.write("plain.enc", b"x" * 64)
+        error = self.decrypt("plain.enc", "[a,b].enc", "c.txt.enc", "./-dash.enc", "missing", code=3, lines=2)
+        self.assertRegex(error, r"(?s)missing.*plain\.enc")
+        self.assertEqual([self.read(name) for name in ("[a,b]", "c.txt", "-dash.dec")], [b"[a,b]", b"c.txt", b"-dash"])
+        os.rename("c.txt.enc", "d.ENC")
+        self.decrypt("d.ENC")
+        for arguments, word in ((["--force", "plain", "./plain"], "that of another input already: ./plain.enc"),
+                                (["--force", "d", "d.enc"], "output is another input: d.enc")):
+            self.write("d.enc", "precious")
+            self.assertIn(word, self.encrypt(*arguments, code=1, lines=2 if "d" in arguments else 1))
+            self.assertEqual(self.read("d.enc"), b"precious")
+
+    def test_streams(self):
+        plain = self.read("plain")
+        run = lambda *words, stdin: subprocess.run([CLI, *words, "--password-file", "pw", "-q"], input=stdin,
+                                                           capture_output=True, timeout=60)
+        for options in (["encrypt"], ["encrypt", "--seal"]):
+            encrypted = run(*options, "-", stdin=plain).stdout
+            self.assertGreater(len(encrypted), len(plain))
+            self.assertEqual(run("decrypt", "-", stdin=encrypted).stdout, plain)
+        self.assertEqual(run("verify", "-", stdin=encrypted).returncode, 0)
+        self.encrypt("plain", "--output", "-")
+        for damaged in (encrypted[:-1] + b"x", b"x" + encrypted[1:]):
+            done = run("decrypt", "-", stdin=damaged)
+            self.assertEqual((done.returncode, plain.startswith(done.stdout)), (3, True))
+        self.assertIn("(standard input)", done.stderr.decode())
+        self.write("encrypted", encrypted)
+        self.assertEqual(self.decrypt("-o", "-", "encrypted").encode(), plain.decode(errors="replace").encode())
+        self.assert_files("encrypted")
+
+        self.assertIn("could not be kept in the folder /nowhere",
+                      self.run_cli("encrypt", "--password-file", "pw", "-", code=1, env={"TMPDIR": "/nowhere"}))
+        shown, code = self.on_terminal(["encrypt", "-o", "-", "plain"], [])
+        self.assertIn("not written to a terminal", shown)
+        self.assertEqual(code, 1)
+
+        reader, writer = os.pipe()
+        os.close(reader)
+        for words in (["algorithms"], ["decrypt", "--password-file", "pw", "-q", "-o", "-", "encrypted"]):
+            done = subprocess.run([CLI, *words], stdout=writer, stderr=subprocess.PIPE, timeout=60)
+            self.assertEqual((done.returncode, done.stderr), (1, b""), "ends silently")
+        os.close(writer)
+        for closed in (0, 1):
+            done = subprocess.run([CLI, "decrypt", "--password-file", "pw", "-q", "-o", "-", "-" if closed == 0 else "encrypted"],
+                                  stderr=subprocess.PIPE, timeout=60, preexec_fn=lambda: os.close(closed))
+            self.assertEqual(done.returncode, 1)
+
+        waiting = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "-o", "out", "-"], stdin=subprocess.PIPE,
+                                   stderr=subprocess.PIPE)
+        waiting.stdin.write(b"x")
+        waiting.stdin.flush()
+        time.sleep(0.3)
+        waiting.send_signal(signal.SIGTERM)
+        self.assertEqual(waiting.wait(60), 130)
+        self.assertEqual(waiting.communicate()[1], b"quillet-cli: interrupted\n")
+
+    def test_advice(self):
+        for line, word in {
+            "encrpyt x": "did you mean encrypt?", "help": "unknown command help; see --help",
+            "encrypt --algoritm AES-256 x": "unknown option --algoritm; did you mean --algorithm?",
+            "encrypt -a Serpent x": "did you mean Serpent-128, Serpent-192 or Serpent-256?",
+            "encrypt -a aes265 x": "did you mean AES-256?", "encrypt -a ROT13 x": '"ROT13"; see quillet-cli algorithms',
+            "encrypt -fz x": "unknown option -z", "encrypt --force=7 x": "--force takes no value",
+            "encrypt -o": "-o needs a value: FILE", "encrypt -o --force x": "-o needs a value",
+            "encrypt -ox -o y z": "-o is given twice", "algorithms x": "unexpected argument x", "": "no command",
+            "encrypt": "no file", "encrypt -o z x y": "--output z names one file, and there are 2",
+            "decrypt - x": "cannot stand among other files", "encrypt --password-file - -": "standard input is the file",
+            "encrypt --key-file k x": "--key-file needs --iv-file", "decrypt --salt x": "unknown option --salt",
+            "encrypt --seal --salt x": "--salt cannot go with --seal", "encrypt plain": "no password",
+            "encrypt --key-file k --iv-file i --password-file p x": "--password-file cannot go with --key-file",
+        }.items():
+            with self.subTest(line):
+                self.assertIn(word, self.run_cli(*line.split(), code=2))
+        for arguments in (["-h"], ["encrypt", "--help"], ["verify", "-qh"]):
+            shown = self.run_cli(*arguments)
+            self.assertIn("Usage: quillet-cli", shown)
+            self.assertLessEqual(max(map(len, shown.splitlines())), 80)
+        self.assertRegex(self.run_cli("-V"), r"^quillet-cli \d")
+
+    def test_unusable_secrets(self):
         self.write("key", "00" * 32)
         self.write("iv", "00" * 15)
-        for arguments in ([], ["encrypt"], ["frobnicate"], ["encrypt", "--nonsense", "plain"], ["encrypt", "plain"],
-                          ["encrypt", "--output", "", "--password-file", "pw", "plain"],
-                          ["encrypt", "--algorithm", "ROT13", "--password-file", "pw", "plain"],
-                          ["decrypt", "--salt", "plain"], ["decrypt", "--seal", "plain"], ["encrypt", "--seal", "--salt", "plain"], ["encrypt", "--key-file", "key", "plain"],
-                          ["encrypt", "--key-file", "key", "--iv-file", "iv", "--password-file", "pw", "plain"]):
-            with self.subTest(arguments):
-                self.run_cli(*arguments, code=2)
+        self.run_cli("encrypt", "--output", "", "--password-file", "pw", "plain", code=2)
         self.assertIn("has 15 bytes", self.run_cli("encrypt", "--key-file", "key", "--iv-file", "iv", "plain", code=1))
         for password, word in (("", "empty"), ("zero\0byte", "control character"), ("a\rb", "line break"), ("\t", "tab")):
             self.write("pw", password)
@@ -171,7 +291,6 @@ class Behaviour(unittest.TestCase):
         for prompt, answer in answers:
             while not shown.endswith(prompt):
                 shown += os.read(terminal, 1024)
-            time.sleep(0.05)  # the echo goes off just after the prompt
             os.write(terminal, answer() if callable(answer) else answer)
         try:
             while piece := os.read(terminal, 1024):

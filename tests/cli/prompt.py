@@ -16,7 +16,7 @@ PROMPT = b"Password: "
 SECRET = b"hunter2"
 
 
-def run_as_job(program, in_front):
+def run_as_job(program, in_front, stdin):
     """What a shell does with a command: a process group of its own, in front or not; tells how it fares.
     In front itself, it takes the keys one by one. SIGUSR1 and SIGUSR2 are its commands fg and bg."""
     signal.signal(signal.SIGTTOU, signal.SIG_IGN)
@@ -43,6 +43,8 @@ def run_as_job(program, in_front):
         if in_front:
             os.tcsetpgrp(0, os.getpid())
         signal.signal(signal.SIGTTOU, signal.SIG_DFL)
+        if stdin:
+            os.dup2(os.open(stdin, os.O_RDONLY), 0)
         os.execv(program[0], program)
     for number in (signal.SIGUSR1, signal.SIGUSR2):
         signal.signal(number, continue_job)
@@ -54,10 +56,10 @@ def run_as_job(program, in_front):
 
 
 class Prompt(unittest.TestCase):
-    def start(self, in_front=True):
+    def start(self, in_front=True, stdin=None):
         self.shell, self.terminal = pty.fork()
         if self.shell == 0:
-            run_as_job([CLI, "decrypt", sys.argv[0]], in_front)
+            run_as_job([CLI, "decrypt", sys.argv[0]], in_front, stdin)
             os._exit(0)
         self.addCleanup(os.waitpid, self.shell, 0)
         self.addCleanup(os.close, self.terminal)
@@ -66,7 +68,7 @@ class Prompt(unittest.TestCase):
         self.job = int(self.wait_for(b"."))
         if in_front:
             self.wait_for(PROMPT)
-            self.assert_echo(False)
+            self.assertFalse(self.has_echo(), "off before the prompt is shown")
 
     def wait_for(self, text):
         """Reads until the text comes; gives what came before it."""
@@ -77,9 +79,12 @@ class Prompt(unittest.TestCase):
         self.shown += before + text
         return before
 
+    def has_echo(self):
+        return bool(termios.tcgetattr(self.terminal)[3] & termios.ECHO)
+
     def assert_echo(self, on):
         wait_until = time.monotonic() + 5
-        while bool(termios.tcgetattr(self.terminal)[3] & termios.ECHO) != on:
+        while self.has_echo() != on:
             self.assertLess(time.monotonic(), wait_until, "the echo is " + ("off" if on else "on"))
             time.sleep(0.01)
 
@@ -123,6 +128,13 @@ class Prompt(unittest.TestCase):
                 os.write(self.terminal, end) if isinstance(end, bytes) else os.kill(self.job, end)
                 self.wait_for(b"ended with %d." % code)
                 self.assert_echo(True)
+
+    def test_asks_at_the_terminal_when_standard_input_is_something_else(self):
+        for stdin in ("/dev/null", sys.argv[0]):
+            self.start(stdin=stdin)
+            os.write(self.terminal, SECRET + b"\n")
+            self.wait_for(b"ended with 3.")
+            self.assertNotIn(SECRET, self.shown)
 
     def test_takes_every_character_for_what_it_is(self):
         self.start()

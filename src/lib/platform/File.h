@@ -40,8 +40,6 @@ struct FileStatus
 
 /// Never blocks, whatever the path names. A path that cannot be examined counts as missing.
 FileStatus fileStatus(const std::filesystem::path& path);
-/// What standard input is connected to.
-FileStatus standardInputStatus();
 
 ResultCode removeFile(const std::filesystem::path& path);
 
@@ -78,6 +76,9 @@ public:
     ResultCode openForReading(const std::filesystem::path& path);
     /// Creates it when it is missing.
     ResultCode openForWriting(const std::filesystem::path& path);
+    /// Creates one for reading and writing in the folder, which no name leads to and only this user can
+    /// open, and which ends with its handle.
+    ResultCode openTemporary(const std::filesystem::path& folder);
     bool isOpen() const { return m_handle >= 0; }
 
     ResultCode status(FileStatus& status) const;

@@ -3,6 +3,7 @@
 #include "lib/platform/linux/FileStatus.h"
 #include "lib/platform/linux/SystemCall.h"
 
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -54,12 +55,6 @@ bool hasAccessList(int handle)
 bool isUsable(const std::filesystem::path& path)
 {
     return !path.empty() && path.native().find('\0') == std::string::npos;
-}
-
-FileStatus standardInputStatus()
-{
-    struct stat info = {};
-    return ::fstat(STDIN_FILENO, &info) == 0 ? toFileStatus(info) : FileStatus{};
 }
 
 FileStatus fileStatus(const std::filesystem::path& path)
@@ -128,6 +123,19 @@ ResultCode File::openForWriting(const std::filesystem::path& path)
         return err::system(ENOENT);
     m_handle = uninterrupted([&] { return ::open(path.c_str(), WritingFlags | O_CREAT, 0666); });
     return outcome(isOpen());
+}
+
+ResultCode File::openTemporary(const std::filesystem::path& folder)
+{
+    (void)close();
+    m_handle = uninterrupted(
+        [&] { return ::open(folder.c_str(), O_RDWR | O_CLOEXEC | O_TMPFILE | O_EXCL, S_IRUSR | S_IWUSR); });
+    if (isOpen() || (errno != EISDIR && errno != ENOENT && errno != EINVAL && errno != EOPNOTSUPP))
+        return outcome(isOpen());
+    // A kernel or file system that does not know the flag. The name is gone before the first byte comes.
+    std::string name = (folder / ".quillet-XXXXXX").string();
+    m_handle = ::mkostemp(name.data(), O_CLOEXEC);
+    return outcome(isOpen() && ::unlink(name.c_str()) == 0);
 }
 
 ResultCode File::status(FileStatus& status) const

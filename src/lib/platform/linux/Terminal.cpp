@@ -7,8 +7,11 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <optional>
 #include <poll.h>
+#include <string>
+#include <string_view>
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
@@ -24,18 +27,48 @@ constexpr std::array CaughtSignals{SIGTSTP, SIGQUIT, SIGCONT};
 std::atomic<int> caughtSignal = 0;
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler writes it");
 
-bool isInBackground()
+/// The terminal to ask at, while it lives.
+class Device
 {
-    const pid_t front = ::tcgetpgrp(STDIN_FILENO);
+public:
+    Device() : m_handle(::open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY))
+    {
+        if (m_handle < 0 && ::isatty(STDIN_FILENO) == 1)
+            m_handle = ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    }
+    ~Device()
+    {
+        if (isOpen())
+            ::close(m_handle);
+    }
+    Device(const Device&) = delete;
+    Device& operator=(const Device&) = delete;
+
+    bool isOpen() const { return m_handle >= 0; }
+    int handle() const { return m_handle; }
+    void show(std::string_view text) const
+    {
+        // Standard input may be one that is open for reading alone.
+        if (::write(m_handle, text.data(), text.size()) < 0)
+            std::fputs(std::string(text).c_str(), stderr);
+    }
+
+private:
+    int m_handle;
+};
+
+bool isInBackground(int terminal)
+{
+    const pid_t front = ::tcgetpgrp(terminal);
     return front != -1 && front != ::getpgrp();
 }
 
 /// In the background the settings are the shell's own. There the call stops the process until it is in
 /// front. False when a signal came instead or there is nobody who could bring it there.
-bool awaitForeground()
+bool awaitForeground(int terminal)
 {
     while (!Interrupts::happened()) {
-        if (::tcdrain(STDIN_FILENO) == 0)
+        if (::tcdrain(terminal) == 0)
             return true;
         if (errno != EINTR)
             return false;
@@ -43,10 +76,10 @@ bool awaitForeground()
     return false;
 }
 
-void setTerminal(const termios& settings)
+void setTerminal(int terminal, const termios& settings)
 {
-    const auto isOver = [] { return Interrupts::happened() && isInBackground(); };
-    while (!isOver() && ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &settings) != 0 && errno == EINTR)
+    const auto isOver = [&] { return Interrupts::happened() && isInBackground(terminal); };
+    while (!isOver() && ::tcsetattr(terminal, TCSAFLUSH, &settings) != 0 && errno == EINTR)
         ;
 }
 
@@ -54,14 +87,14 @@ void setTerminal(const termios& settings)
 class HiddenPrompt
 {
 public:
-    explicit HiddenPrompt(const char* prompt)
+    HiddenPrompt(const Device& device, const char* prompt) : m_device(device)
     {
-        const bool isInFront = awaitForeground();
+        const bool isInFront = awaitForeground(device.handle());
         struct sigaction action = {};
         action.sa_handler = [](int signal) { caughtSignal = signal; };
         for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
             ::sigaction(CaughtSignals[i], &action, &m_handling[i]);
-        m_known = isInFront && ::tcgetattr(STDIN_FILENO, &m_settings) == 0;
+        m_known = isInFront && ::tcgetattr(device.handle(), &m_settings) == 0;
         if (!m_known)
             return;
         // Whatever was left behind, a line ends with Enter, and the keys for signals work.
@@ -69,14 +102,14 @@ public:
         silent.c_iflag |= ICRNL;
         silent.c_lflag |= ICANON | ISIG;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        setTerminal(silent);
-        std::fputs(prompt, stderr);
+        setTerminal(device.handle(), silent);
+        device.show(prompt);
     }
     ~HiddenPrompt()
     {
         if (m_known) {
-            std::fputc('\n', stderr);
-            setTerminal(m_settings);
+            m_device.show("\n");
+            setTerminal(m_device.handle(), m_settings);
         }
         for (std::size_t i = 0; i < CaughtSignals.size(); ++i)
             ::sigaction(CaughtSignals[i], &m_handling[i], nullptr);
@@ -85,23 +118,24 @@ public:
     HiddenPrompt& operator=(const HiddenPrompt&) = delete;
 
 private:
+    const Device& m_device;
     std::array<struct sigaction, CaughtSignals.size()> m_handling = {};
     termios m_settings = {};
     bool m_known = false;
 };
 
 /// Waits a moment for input. A signal that comes just before the wait is seen after it.
-bool hasInput()
+bool hasInput(int terminal)
 {
-    pollfd input{STDIN_FILENO, POLLIN, 0};
+    pollfd input{terminal, POLLIN, 0};
     return ::poll(&input, 1, 100) > 0;
 }
 
 } // namespace
 
-bool isInputTerminal()
+bool canAsk()
 {
-    return ::isatty(STDIN_FILENO) == 1;
+    return Device().isOpen();
 }
 
 bool isErrorTerminal()
@@ -118,19 +152,22 @@ unsigned errorTerminalWidth()
 bool readHiddenLine(const char* prompt, SecretBytes& line)
 {
     line.clear();
-    std::optional<HiddenPrompt> shown(std::in_place, prompt);
+    const Device device;
+    if (!device.isOpen())
+        return false;
+    std::optional<HiddenPrompt> shown(std::in_place, device, prompt);
     while (!Interrupts::happened()) {
         if (const int signal = caughtSignal.exchange(0)) {
             line.clear();
             shown.reset();
             if (signal != SIGCONT)
                 ::raise(signal);
-            shown.emplace(prompt);
+            shown.emplace(device, prompt);
         }
-        if (!hasInput())
+        if (!hasInput(device.handle()))
             continue;
         std::uint8_t byte = 0;
-        const ssize_t count = ::read(STDIN_FILENO, &byte, 1);
+        const ssize_t count = ::read(device.handle(), &byte, 1);
         if (count == 1 && byte == '\n')
             return true;
         if (count == 1)

@@ -1,0 +1,53 @@
+#include "crypto/job/Spool.h"
+
+#include "crypto/Engine.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace {
+
+using namespace test;
+namespace fs = std::filesystem;
+
+/// What the nameless file in that folder holds, through this process's own handle.
+std::string contentsIn(const fs::path& folder)
+{
+    for (const auto& handle : fs::directory_iterator("/proc/self/fd")) {
+        std::error_code gone;
+        if (fs::read_symlink(handle, gone).string().starts_with(folder.string() + '/'))
+            return readFile(handle.path());
+    }
+    return {};
+}
+
+TEST(Spool, GivesBackWhatTheDiskNeverSees)
+{
+    const TempFolder folder;
+    tessaly::crypto::Spool spool;
+    ASSERT_TRUE(spool.open(folder.path()).ok());
+    std::string whole;
+    for (const std::size_t count : {1UL, 15UL, 70000UL, 4096UL}) {
+        std::string piece(count, 'x');
+        whole += piece;
+        ASSERT_TRUE(spool.append(reinterpret_cast<std::uint8_t*>(piece.data()), count).ok());
+    }
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+    const std::string onDisk = contentsIn(folder.path());
+    EXPECT_EQ(onDisk.size(), whole.size());
+    EXPECT_EQ(onDisk.find("xxxxxxxx"), std::string::npos);
+    for (const std::int64_t atOnce : {7L, 100000L}) {
+        ASSERT_TRUE(spool.rewind().ok() && spool.isAtStart());
+        std::string read;
+        std::string piece(static_cast<std::size_t>(atOnce), ' ');
+        for (std::int64_t got = 0; spool.read(piece.data(), atOnce, got);)
+            read.append(piece, 0, static_cast<std::size_t>(got));
+        EXPECT_TRUE(read == whole && spool.isAtEnd() && spool.lastError().ok());
+        EXPECT_EQ(spool.size(), std::ssize(whole));
+    }
+    EXPECT_FALSE(tessaly::crypto::Spool().open(folder / "missing").ok());
+}
+
+} // namespace
