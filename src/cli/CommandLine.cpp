@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "common/version/Version.h"
 #include "crypto/catalogue/Catalogue.h"
 
 #include <CLI/CLI.hpp>
@@ -65,7 +66,7 @@ ParseOutcome parseCommandLine(int argc, char** argv)
     CLI::App app("Encrypts and decrypts single files with any of " +
                      std::to_string(tessaly::crypto::catalogue().size()) + " symmetric algorithms.",
                  "quillet-cli");
-    app.set_version_flag("--version", "quillet-cli " QUILLET_VERSION);
+    app.set_version_flag("--version", std::string("quillet-cli ") + tessaly::versionText());
     app.require_subcommand(1);
     app.footer(Footer);
 
