@@ -5,10 +5,11 @@ check_cxx_compiler_flag(-fcf-protection=full QUILLET_HAS_CF_PROTECTION)
 check_cxx_compiler_flag(-fstack-clash-protection QUILLET_HAS_STACK_CLASH_PROTECTION)
 
 add_library(quillet_hardening INTERFACE)
-target_compile_definitions(quillet_hardening INTERFACE
-  _GLIBCXX_ASSERTIONS
-  $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=3>)
+target_compile_definitions(quillet_hardening INTERFACE _GLIBCXX_ASSERTIONS)
 target_compile_options(quillet_hardening INTERFACE
+  # Needs optimisation; some compilers bring a lower level of their own.
+  $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
+  $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=3>
   -fPIC # as Qt asks; whatever is linked into a position-independent program must be so
   -fstack-protector-strong
   $<$<BOOL:${QUILLET_HAS_CF_PROTECTION}>:-fcf-protection=full>
