@@ -30,8 +30,8 @@ void BusNotifier::notify(const QString& summary, const QString& body)
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
-    call << QCoreApplication::applicationName() << ReplacesNothing << QString::fromLatin1(tessaly::QuilletIconName)
-         << summary << escaped(body) << QStringList()
+    call << QCoreApplication::applicationName() << ReplacesNothing
+         << QString::fromLatin1(tessaly::QuilletIconName) << summary << escaped(body) << QStringList()
          << QVariantMap{{QStringLiteral("desktop-entry"), QString::fromLatin1(tessaly::QuilletDesktopId)}}
          << ServersOwnTimeout;
     m_bus.send(call);
