@@ -5,15 +5,19 @@ target_compile_options(quillet_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
   -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wundef -Wnull-dereference
   $<$<BOOL:${QUILLET_WERROR}>:-Werror>)
-target_compile_definitions(quillet_options INTERFACE
-  QUILLET_VERSION="${PROJECT_VERSION}"
-  $<$<NOT:$<CONFIG:Debug>>:_FORTIFY_SOURCE=2>)
+target_compile_definitions(quillet_options INTERFACE QUILLET_VERSION="${PROJECT_VERSION}")
 target_include_directories(quillet_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+
+# What users get is the same in whatever folder it was built.
+target_compile_options(quillet_options INTERFACE
+  $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>
+  $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>)
 
 if(QUILLET_SANITIZERS)
   target_compile_options(quillet_options INTERFACE
     -fsanitize=${QUILLET_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(quillet_options INTERFACE -fsanitize=${QUILLET_SANITIZERS})
 else()
-  target_compile_options(quillet_options INTERFACE -fstack-protector-strong)
+  include(QuilletHardening)
+  target_link_libraries(quillet_options INTERFACE quillet_hardening)
 endif()

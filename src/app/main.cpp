@@ -9,6 +9,7 @@
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "common/settings/Product.h"
+#include "common/version/Version.h"
 #include "crypto/cryptopp/CCipherFactory.h"
 #include "io/OutputFile.h"
 #include "lib/i18n/TranslationManager.h"
@@ -60,7 +61,7 @@ bool answerOnTerminal(std::span<char*> arguments)
     if (has("--help"))
         std::fputs(Usage, stdout);
     else if (has("--version"))
-        std::printf("%s %s\n", QuilletName, QUILLET_VERSION);
+        std::printf("%s %s\n", QuilletName, versionText());
     else
         return false;
     return true;
@@ -93,7 +94,7 @@ void prepareApplication()
     QCoreApplication::setApplicationName(QString::fromLatin1(QuilletName));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
     QCoreApplication::setOrganizationName(QString::fromLatin1(OrganisationName));
-    QGuiApplication::setDesktopFileName(QString::fromLatin1(desktop::DesktopId));
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(QuilletDesktopId));
     CAppSettings::setApplicationProductId(QuilletProductId);
 }
 

@@ -3,6 +3,7 @@
 #include "cli/HelpText.h"
 #include "cli/Suggestion.h"
 #include "cli/WordReader.h"
+#include "common/version/Version.h"
 #include "crypto/catalogue/Catalogue.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ ParseOutcome parseCommandLine(int argc, char** argv)
     if (arguments.help)
         return {{}, helpText(row ? std::optional(row->command) : std::nullopt), {}};
     if (arguments.version)
-        return {{}, "quillet-cli " QUILLET_VERSION "\n", {}};
+        return {{}, std::string("quillet-cli ") + tessaly::versionText() + "\n", {}};
     if (row)
         arguments.command = row->command;
     else if (problem.empty())

@@ -7,9 +7,6 @@
 
 namespace thisapp::desktop {
 
-/// The name of the program's desktop entry, without ".desktop"; also that of its icon.
-inline constexpr const char* DesktopId = "quillet";
-
 /// Whether windows can be shown here: a server answers, or the chosen platform needs none. To be asked before
 /// the application object is made, which ends the process where they can't.
 bool isDisplayThere();

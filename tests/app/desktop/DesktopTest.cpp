@@ -85,9 +85,10 @@ TEST_F(DesktopTest, TellsTheSessionBus)
         Desktop desktop;
         use(desktop);
     } // a bar still visible is taken down
-    const QString app = "application://quillet.desktop ";
+    const QString app = "application://org.quillet.Quillet.desktop ";
     const QStringList expected = {app + "0.1 1", app + "0.4 1", app + "1 1",
-                                  "quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|quillet|-1", app + "1 0"};
+                                  "quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|org.quillet.Quillet|-1",
+                                  app + "1 0"};
     EXPECT_TRUE(QTest::qWaitFor([&] { return observer.seen.size() >= expected.size(); }));
     EXPECT_EQ(observer.seen, expected) << observer.seen.join('\n').toStdString();
 

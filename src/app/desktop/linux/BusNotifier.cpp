@@ -1,7 +1,7 @@
 #include "app/desktop/linux/BusNotifier.h"
 
-#include "app/desktop/Desktop.h"
 #include "app/desktop/linux/SessionBus.h"
+#include "common/settings/Product.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -30,9 +30,10 @@ void BusNotifier::notify(const QString& summary, const QString& body)
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
-    const QString id = QLatin1String(DesktopId);
-    call << QCoreApplication::applicationName() << ReplacesNothing << id << summary << escaped(body)
-         << QStringList() << QVariantMap{{QStringLiteral("desktop-entry"), id}} << ServersOwnTimeout;
+    call << QCoreApplication::applicationName() << ReplacesNothing
+         << QString::fromLatin1(tessaly::QuilletIconName) << summary << escaped(body) << QStringList()
+         << QVariantMap{{QStringLiteral("desktop-entry"), QString::fromLatin1(tessaly::QuilletDesktopId)}}
+         << ServersOwnTimeout;
     m_bus.send(call);
 }
 

@@ -1,7 +1,7 @@
 #include "app/desktop/linux/LauncherProgress.h"
 
-#include "app/desktop/Desktop.h"
 #include "app/desktop/linux/SessionBus.h"
+#include "common/settings/Product.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -46,7 +46,7 @@ void LauncherProgress::send()
         QStringLiteral("/com/canonical/unity/launcherentry/%1").arg(QCoreApplication::applicationPid());
     QDBusMessage update = QDBusMessage::createSignal(
         path, QStringLiteral("com.canonical.Unity.LauncherEntry"), QStringLiteral("Update"));
-    update << QStringLiteral("application://%1.desktop").arg(QLatin1String(DesktopId))
+    update << QStringLiteral("application://%1.desktop").arg(QLatin1String(tessaly::QuilletDesktopId))
            << QVariantMap{{QStringLiteral("progress"), m_percent / 100.0},
                           {QStringLiteral("progress-visible"), m_visible}};
     m_bus.send(update);

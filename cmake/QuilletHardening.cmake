@@ -1,0 +1,20 @@
+# What makes a fault in our programs hard to use, in the one interface target that everything of ours links.
+# tests/packaging/hardening.sh reads from the programs whether it is there.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection=full QUILLET_HAS_CF_PROTECTION)
+check_cxx_compiler_flag(-fstack-clash-protection QUILLET_HAS_STACK_CLASH_PROTECTION)
+
+add_library(quillet_hardening INTERFACE)
+target_compile_definitions(quillet_hardening INTERFACE _GLIBCXX_ASSERTIONS)
+target_compile_options(quillet_hardening INTERFACE
+  # Needs optimisation; some compilers bring a lower level of their own.
+  $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
+  $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=3>
+  -fPIC # as Qt asks; whatever is linked into a position-independent program must be so
+  -fstack-protector-strong
+  $<$<BOOL:${QUILLET_HAS_CF_PROTECTION}>:-fcf-protection=full>
+  $<$<BOOL:${QUILLET_HAS_STACK_CLASH_PROTECTION}>:-fstack-clash-protection>)
+target_link_options(quillet_hardening INTERFACE
+  $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>
+  LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
+set(CMAKE_SKIP_RPATH ON)
