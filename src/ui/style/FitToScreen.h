@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace thisapp {
+
+/// Gives a dialog that is about to be shown the size that it wants, but never more than its screen has
+/// room for. Every dialog calls it.
+void fitToScreen(QWidget& dialog);
+
+} // namespace thisapp
