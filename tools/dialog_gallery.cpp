@@ -66,9 +66,9 @@ public:
     void saveToolTip(const QString& name, QWidget& widget)
     {
         QToolTip::showText(widget.mapToGlobal({}), widget.toolTip(), &widget);
-        for (QWidget* window : QApplication::topLevelWidgets())
+        for (QWidget* window : QApplication::topLevelWidgets()) // at once: it may go at any time
             if (window->inherits("QTipLabel"))
-                save(name, *window);
+                window->grab().save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
         QToolTip::hideText();
     }
 

@@ -18,7 +18,8 @@ CScrollPage::CScrollPage(QWidget* parent) : QScrollArea(parent)
 
 QSize CScrollPage::sizeHint() const
 {
-    return widget() != nullptr ? widget()->sizeHint() : QScrollArea::sizeHint();
+    return widget() != nullptr ? widget()->sizeHint().expandedTo(widget()->minimumSize())
+                               : QScrollArea::sizeHint();
 }
 
 /// As wide as it takes to scroll up and down only, unless that is wider than a small screen.
@@ -27,7 +28,8 @@ QSize CScrollPage::minimumSizeHint() const
     constexpr int Lines = 5;
     constexpr int MostCharacters = 60;
     const QFontMetrics metrics = fontMetrics();
-    const int wanted = widget() != nullptr ? widget()->minimumSizeHint().width() : 0;
+    const int wanted =
+        widget() != nullptr ? std::max(widget()->minimumSizeHint().width(), widget()->minimumWidth()) : 0;
     return {std::min(wanted + verticalScrollBar()->sizeHint().width(),
                      metrics.averageCharWidth() * MostCharacters),
             std::min(metrics.lineSpacing() * Lines, sizeHint().height())};

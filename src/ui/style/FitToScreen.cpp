@@ -19,14 +19,18 @@ QSize decoration(const QWidget& dialog)
 
 } // namespace
 
-void fitToScreen(QWidget& dialog)
+void fitToScreen(QWidget& dialog, QSize wanted)
 {
-    const QWidget* place = dialog.parentWidget() != nullptr ? dialog.parentWidget() : &dialog;
     dialog.ensurePolished();
     if (dialog.layout() != nullptr)
         dialog.layout()->activate();
-    const QSize wanted = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
-    dialog.resize(wanted.boundedTo(place->screen()->availableSize() - decoration(dialog)));
+    if (!wanted.isValid())
+        wanted = dialog.sizeHint();
+    const QWidget* place = dialog.parentWidget() != nullptr ? dialog.parentWidget() : &dialog;
+    const QSize room = place->screen()->availableSize() - decoration(dialog);
+    if (wanted.height() > room.height()) // it will scroll
+        wanted.rwidth() += dialog.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &dialog);
+    dialog.resize(wanted.boundedTo(room));
 }
 
 } // namespace thisapp
