@@ -46,6 +46,7 @@ std::array<int, AlgColumnCount> algColumnWidths(const QFontMetrics& metrics)
         widen(at, titles[at]);
     for (const auto& entry : crypto::catalogue()) {
         widen(0, QString::fromLatin1(entry.name.data()));
+        widen(AlgColumnCount - 2, QString::fromLatin1(crypto::modeName(entry.record.mode).data()));
         widen(AlgColumnCount - 1, algAdvice(entry.advice).remark);
     }
     return widths;

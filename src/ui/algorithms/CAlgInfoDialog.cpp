@@ -36,6 +36,7 @@ CAlgInfoDialog::CAlgInfoDialog(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->frameList->list().setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_ui->splitterPanes->setStretchFactor(1, 1);
     m_ui->plainTextEditInfo->setMinimumSize(thisapp::textSize(*this, 20, 4));
     m_timer.setSingleShot(true);
     m_timer.setInterval(PrintDelay);
@@ -67,7 +68,10 @@ void CAlgInfoDialog::showEvent(QShowEvent* event)
         const int listWidth = m_ui->frameList->sizeHint().width();
         const QSize text = thisapp::textSize(*this, 60, 24);
         m_ui->splitterPanes->setSizes({listWidth, text.width()});
-        thisapp::fitToScreen(*this, {listWidth + text.width(), text.height()});
+        const QMargins margins = layout()->contentsMargins();
+        thisapp::fitToScreen(*this, {listWidth + m_ui->splitterPanes->handleWidth() + text.width() +
+                                         margins.left() + margins.right(),
+                                     text.height()});
     }
     QDialog::showEvent(event);
 }

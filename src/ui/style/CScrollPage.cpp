@@ -26,7 +26,7 @@ QSize CScrollPage::sizeHint() const
 QSize CScrollPage::minimumSizeHint() const
 {
     constexpr int Lines = 5;
-    constexpr int MostCharacters = 60;
+    constexpr int MostCharacters = 70;
     const QFontMetrics metrics = fontMetrics();
     const int wanted =
         widget() != nullptr ? std::max(widget()->minimumSizeHint().width(), widget()->minimumWidth()) : 0;

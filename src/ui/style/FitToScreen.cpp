@@ -2,6 +2,7 @@
 
 #include <QLayout>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStyle>
 #include <QWidget>
 
@@ -22,6 +23,8 @@ QSize decoration(const QWidget& dialog)
 void fitToScreen(QWidget& dialog, QSize wanted)
 {
     dialog.ensurePolished();
+    for (QScrollArea* page : dialog.findChildren<QScrollArea*>())
+        page->updateGeometry(); // learns of changed contents only later, by an event
     if (dialog.layout() != nullptr)
         dialog.layout()->activate();
     if (!wanted.isValid())
