@@ -29,11 +29,11 @@ QSize CScrollPage::sizeHint() const
 QSize CScrollPage::minimumSizeHint() const
 {
     constexpr int Lines = 5;
-    constexpr int MostCharacters = 56;
+    constexpr int MostCharacters = 70;
     const QFontMetrics metrics = fontMetrics();
     const int wanted =
         widget() != nullptr ? std::max(widget()->minimumSizeHint().width(), widget()->minimumWidth()) : 0;
-    return {std::min(wanted + verticalScrollBar()->sizeHint().width(),
+    return {std::min(wanted + verticalScrollBar()->sizeHint().width() + metrics.averageCharWidth(),
                      metrics.averageCharWidth() * MostCharacters),
             std::min(metrics.lineSpacing() * Lines, sizeHint().height())};
 }
