@@ -147,6 +147,7 @@ void saveAlgorithmDialogs(Gallery& gallery)
     box->setEnabled(false);
     gallery.save(QStringLiteral("select_disabled"), frame);
     box->setEnabled(true);
+    frame.resize(thisapp::textSize(frame, 80, 2));
     box->showPopup();
     gallery.save(QStringLiteral("select_popup"), *box->view()->window());
     box->hidePopup();
@@ -155,6 +156,12 @@ void saveAlgorithmDialogs(Gallery& gallery)
     choose.setProvider(Provider);
     choose.setSelection(thisapp::DefaultAlgSelection);
     gallery.save(QStringLiteral("set_algorithm"), choose);
+
+    CSetAlgDialog weak;
+    weak.setProvider(Provider);
+    weak.setSelection({1, 600});
+    weak.setUseAsDefault(true);
+    gallery.save(QStringLiteral("set_algorithm_weak"), weak);
 
     CAlgInfoDialog info;
     info.setProvider(Provider);

@@ -17,7 +17,7 @@ inline constexpr std::string_view CryptoPPLibraryName = "Crypto++";
 /// What somebody who chooses an algorithm should know of it.
 enum class AlgAdvice {
     None,
-    /// Published for more than twenty years, examined in public and unbroken, blocks of 128 bits and
+    /// Examined in public for more than twenty years without a practical attack, blocks of 128 bits and
     /// keys of 256: AES (FIPS 197), two other finalists of its competition, Camellia (ISO/IEC 18033-3).
     Recommended,
     SharedKeyStream,  ///< stream ciphers: see docs/SECURITY.md

@@ -24,7 +24,8 @@ struct SRow
 
 constexpr SRow Rows[] = {
     {AlgAdvice::Recommended, MessageKind::Success, QT_TRANSLATE_NOOP("AlgAdviceText", "recommended"),
-     QT_TRANSLATE_NOOP("AlgAdviceText", "Examined in public for more than twenty years, and unbroken.")},
+     QT_TRANSLATE_NOOP("AlgAdviceText",
+                       "Examined in public for more than twenty years: no practical attack is known.")},
     {AlgAdvice::SharedKeyStream, MessageKind::Warning, QT_TRANSLATE_NOOP("AlgAdviceText", "seal needed"),
      QT_TRANSLATE_NOOP("AlgAdviceText",
                        "Seal the file, or use its password for no other: without a seal all files under one "

@@ -1,11 +1,10 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 
-#include "common/path/PathText.h"
 #include "common/secret/KeyFile.h"
 #include "crypto/key/RandomBytes.h"
-#include "io/PrivateFile.h"
 #include "lib/secret/Hex.h"
 #include "ui/password/HexCheck.h"
+#include "ui/password/KeyFileDialogs.h"
 #include "ui/password/SecretClipboard.h"
 #include "ui/password/SecretFields.h"
 #include "ui/style/FitToScreen.h"
@@ -13,7 +12,6 @@
 #include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QShowEvent>
 
@@ -235,58 +233,23 @@ void CSetKeyAndIvDialog::onUiCopy()
 
 void CSetKeyAndIvDialog::onUiSave()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save key and IV"),
-                                                      tr("%1 key and IV.txt").arg(m_algorithmName),
-                                                      tr("Text files") + QStringLiteral(" (*.txt)"));
-    if (path.isEmpty())
+    const auto saved = thisapp::saveKeyFile(*this, m_disk, m_algorithmName, textToKeep());
+    if (!saved)
         return;
-    const auto saved =
-        m_disk.start<std::optional<ResultCode>>([file = thisapp::textPath(path), text = textToKeep()] {
-            return io::writePrivateFile(file, text.view());
-        });
-    if (!m_disk.wait(saved) || !saved.get())
-        m_ui->lineEditMsg->showMessage(
-            tr("The key and IV could not be saved: %1").arg(tr("no answer from the disk")),
-            MessageKind::Error);
-    else if (saved.get()->ok()) {
-        m_mayRegenerate = false;
-        m_ui->lineEditMsg->showMessage(tr("The key and IV were saved. Only you can read the file."),
-                                       MessageKind::Success);
-    } else
-        m_ui->lineEditMsg->showMessage(tr("The key and IV could not be saved: %1")
-                                           .arg(qt_error_string(static_cast<int>(saved.get()->code))),
-                                       MessageKind::Error);
+    m_mayRegenerate = m_mayRegenerate && saved->kind != MessageKind::Success;
+    m_ui->lineEditMsg->showMessage(saved->message, saved->kind);
 }
 
 void CSetKeyAndIvDialog::onUiLoad()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Load key and IV"), QString(),
-                                                      tr("Text files") + QStringLiteral(" (*.txt);;") +
-                                                          tr("All files") + QStringLiteral(" (*)"));
-    if (path.isEmpty() || !mayReplaceFields())
+    const auto loaded = thisapp::loadKeyFile(*this, m_disk, m_algorithmName);
+    if (!loaded || (loaded->key && !mayReplaceFields()))
         return;
-    const auto read = m_disk.start<std::optional<SecretBytes>>([file = thisapp::textPath(path)] {
-        SecretBytes bytes;
-        return io::readSmallFile(file, bytes).ok() ? std::optional(std::move(bytes)) : std::nullopt;
-    });
-    if (!m_disk.wait(read) || !read.get()) {
-        m_ui->lineEditMsg->showMessage(tr("The file cannot be read."), MessageKind::Error);
-        return;
-    }
-    const SecretBytes& bytes = *read.get();
-    const auto saved = thisapp::parseKeyFile({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-    if (!saved) {
-        m_ui->lineEditMsg->showMessage(tr("The file holds no key and IV."), MessageKind::Error);
-        return;
-    }
-    showFields(saved->key, saved->iv);
-    const QString savedFor = QString::fromStdString(saved->algorithm);
-    if (!savedFor.isEmpty() && savedFor != m_algorithmName)
-        m_ui->lineEditMsg->showMessage(tr("The key and IV were saved for %1. The selected algorithm is %2.")
-                                           .arg(savedFor, m_algorithmName),
-                                       MessageKind::Warning);
-    else if (check())
-        m_ui->lineEditMsg->showMessage(tr("The key and IV were loaded."), MessageKind::Success);
+    if (loaded->key)
+        showFields(loaded->key->key, loaded->key->iv);
+    // A success says less than what the check may have to say.
+    if (loaded->kind != MessageKind::Success || check())
+        m_ui->lineEditMsg->showMessage(loaded->message, loaded->kind);
 }
 
 void CSetKeyAndIvDialog::onUiOk()
