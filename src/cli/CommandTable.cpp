@@ -42,8 +42,8 @@ constexpr OptionRow Options[] = {
     {Encrypts, 0, "salt", nullptr, "make equal files encrypt differently", &Words::salt},
     {Reads, 0, "password-file", "FILE", "the password is its first line; - is standard input",
      &Words::passwordFile},
-    {Reads, 0, "key-file", "FILE", "the key in hexadecimal", &Words::keyFile},
-    {Reads, 0, "iv-file", "FILE", "the IV in hexadecimal", &Words::ivFile},
+    {Reads, 0, "key-file", "FILE", "the key in hexadecimal, or what the window saved", &Words::keyFile},
+    {Reads, 0, "iv-file", "FILE", "the IV in hexadecimal, or what the window saved", &Words::ivFile},
     {Reads, 'q', "quiet", nullptr, "tell nothing but errors", &Words::quiet},
     {bitOf(Command::Algorithms), 0, "json", nullptr, "as a JSON array", &Words::json},
     {Reads | bitOf(Command::Algorithms), 'h', "help", nullptr, "tell what can be said here", &Words::help},
@@ -54,7 +54,6 @@ constexpr OptionRow Options[] = {
 constexpr OptionRule Rules[] = {
     {"password-file", false, "key-file"},
     {"password-file", false, "iv-file"},
-    {"key-file", true, "iv-file"},
     {"iv-file", true, "key-file"},
     {"salt", false, "seal"},
 };

@@ -1,5 +1,6 @@
 #include "cli/Secrets.h"
 
+#include "common/secret/KeyFile.h"
 #include "common/secret/PasswordRules.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Interrupts.h"
@@ -67,27 +68,29 @@ bool acceptPassword(const SecretBytes& bytes, const std::string& source, SecretT
     return true;
 }
 
-/// Without a length any will do.
-bool readHexFile(const std::string& path, const char* what, std::optional<std::uint32_t> length,
-                 SecretBytes& bytes, std::string& problem)
+struct SKeyAndIv
 {
-    SecretBytes text;
-    if (!readSecretFile(path, false, text)) {
+    std::optional<SecretBytes> key;
+    std::optional<SecretBytes> iv;
+    bool isPair = false; ///< else the same bytes stand for either
+};
+
+/// Of hexadecimal digits, which may be either, or of what the window's "Save..." wrote, which has both.
+bool readKeyAndIv(const std::string& path, const char* what, SKeyAndIv& read, std::string& problem)
+{
+    SecretBytes bytes;
+    if (!readSecretFile(path, false, bytes)) {
         problem = "cannot read the " + std::string(what) + " file " + path;
         return false;
     }
-    auto decoded = tessaly::decodeHex({reinterpret_cast<const char*>(text.data()), text.size()});
-    if (!decoded) {
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (auto saved = thisapp::parseKeyFile(text))
+        read = {std::move(saved->key), std::move(saved->iv), true};
+    else
+        read.key = read.iv = tessaly::decodeHex(text);
+    if (!read.key)
         problem = "the " + std::string(what) + " file " + path + " is not hexadecimal";
-        return false;
-    }
-    if (length && decoded->size() != *length) {
-        problem = "the " + std::string(what) + " in " + path + " has " + std::to_string(decoded->size()) +
-                  " bytes, the algorithm takes " + std::to_string(*length);
-        return false;
-    }
-    bytes = std::move(*decoded);
-    return true;
+    return problem.empty();
 }
 
 SecretOutcome askForPassword(bool twice, SecretText& password, std::string& problem)
@@ -107,27 +110,45 @@ SecretOutcome askForPassword(bool twice, SecretText& password, std::string& prob
     return acceptPassword(first, "", password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
 }
 
-bool readKeyAndIv(const Arguments& arguments, tessaly::crypto::FileJobRequest& request, std::string& problem)
+/// With an algorithm they have its lengths, else those that some algorithm takes.
+std::string lengthProblem(const Arguments& arguments, const SecretBytes& key, const SecretBytes& iv)
 {
     using namespace tessaly::crypto;
-    std::optional<std::uint32_t> keyLength;
-    std::optional<std::uint32_t> ivLength;
+    const std::string ivPath = arguments.ivFile.value_or(*arguments.keyFile);
+    const auto differs = [](const char* what, const std::string& path, std::size_t is, std::uint32_t taken) {
+        return std::string("the ") + what + " in " + path + " has " + std::to_string(is) +
+               " bytes, the algorithm takes " + std::to_string(taken);
+    };
     if (arguments.algorithmId) {
         const auto& record = findAlgorithm(*arguments.algorithmId)->record;
-        keyLength = record.keyLength;
-        ivLength = record.ivLength;
+        if (key.size() != record.keyLength)
+            return differs("key", *arguments.keyFile, key.size(), record.keyLength);
+        return iv.size() == record.ivLength ? "" : differs("IV", ivPath, iv.size(), record.ivLength);
     }
-    if (!readHexFile(*arguments.keyFile, "key", keyLength, request.key, problem) ||
-        !readHexFile(*arguments.ivFile, "IV", ivLength, request.iv, problem))
-        return false;
     const bool isTaken = std::ranges::any_of(catalogue(), [&](const CatalogueEntry& entry) {
-        return entry.record.keyLength == request.key.size() && entry.record.ivLength == request.iv.size();
+        return entry.record.keyLength == key.size() && entry.record.ivLength == iv.size();
     });
-    if (!isTaken)
-        problem = "no algorithm takes a key of " + std::to_string(request.key.size()) + " bytes (" +
-                  *arguments.keyFile + ") with an IV of " + std::to_string(request.iv.size()) + " bytes (" +
-                  *arguments.ivFile + ')';
-    return isTaken;
+    return isTaken ? ""
+                   : "no algorithm takes a key of " + std::to_string(key.size()) + " bytes (" +
+                         *arguments.keyFile + ") with an IV of " + std::to_string(iv.size()) + " bytes (" +
+                         ivPath + ')';
+}
+
+bool readKeyFiles(const Arguments& arguments, tessaly::crypto::FileJobRequest& request, std::string& problem)
+{
+    SKeyAndIv key;
+    SKeyAndIv iv;
+    if (!readKeyAndIv(*arguments.keyFile, "key", key, problem) ||
+        (arguments.ivFile && !readKeyAndIv(*arguments.ivFile, "IV", iv, problem)))
+        return false;
+    if (!arguments.ivFile && !key.isPair) {
+        problem = "no IV in " + *arguments.keyFile + ": name its --iv-file";
+        return false;
+    }
+    request.key = std::move(*key.key);
+    request.iv = std::move(*(arguments.ivFile ? iv.iv : key.iv));
+    problem = lengthProblem(arguments, request.key, request.iv);
+    return problem.empty();
 }
 
 } // namespace
@@ -137,7 +158,7 @@ SecretOutcome gatherSecret(const Arguments& arguments, tessaly::crypto::FileJobR
 {
     request.passwordMode = !arguments.keyFile;
     if (arguments.keyFile)
-        return readKeyAndIv(arguments, request, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+        return readKeyFiles(arguments, request, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
     if (!arguments.passwordFile)
         return askForPassword(arguments.command == Command::Encrypt, request.password, problem);
     SecretBytes line;

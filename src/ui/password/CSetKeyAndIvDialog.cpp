@@ -1,19 +1,18 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 
-#include "common/path/PathText.h"
+#include "common/secret/KeyFile.h"
 #include "crypto/key/RandomBytes.h"
-#include "io/PrivateFile.h"
 #include "lib/secret/Hex.h"
 #include "ui/password/HexCheck.h"
-#include "ui/password/KeyAndIvText.h"
+#include "ui/password/KeyFileDialogs.h"
+#include "ui/password/SecretClipboard.h"
 #include "ui/password/SecretFields.h"
+#include "ui/style/FitToScreen.h"
 #include "ui/style/PlainToolTip.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
-#include <QClipboard>
-#include <QFileDialog>
-#include <QMimeData>
+#include <QMessageBox>
 #include <QShowEvent>
 
 using namespace tessaly;
@@ -38,8 +37,10 @@ CSetKeyAndIvDialog::CSetKeyAndIvDialog(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->labelNormalMode->setLinkText(tr("Show simple options"));
-    m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 90, 1).width());
-    thisapp::showDescriptionAsToolTip(*m_ui->checkBoxSeal);
+    m_ui->buttonCopy->setAccessibleDescription(
+        tr("Puts key and IV on the clipboard, from where they are removed after %1 seconds.")
+            .arg(thisapp::SecretClipboardTime.count()));
+    thisapp::showDescriptionsAsToolTips(*this);
     connectWidgets();
 }
 
@@ -55,6 +56,9 @@ void CSetKeyAndIvDialog::connectWidgets()
     connect(m_ui->buttonGenerate, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiGenerate);
     connect(m_ui->buttonCopy, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiCopy);
     connect(m_ui->buttonSave, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiSave);
+    connect(m_ui->buttonLoad, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiLoad);
+    for (CHexEdit* field : {m_ui->plainTextEditIv, m_ui->plainTextEditKey})
+        connect(field, &CHexEdit::notifyEntered, m_ui->buttonOk, &QPushButton::click);
     connect(m_ui->labelNormalMode, &QLabel::linkActivated, this, &CSetKeyAndIvDialog::onUiSwitchToNormalMode);
     connect(m_ui->checkBoxSeal, &QCheckBox::toggled, m_ui->checkBoxUseSalt, &QWidget::setDisabled);
     connect(m_ui->buttonOk, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiOk);
@@ -65,6 +69,11 @@ void CSetKeyAndIvDialog::setExpectedLengths(std::uint32_t keyLength, std::uint32
 {
     m_keyLength = keyLength;
     m_ivLength = ivLength;
+}
+
+void CSetKeyAndIvDialog::setSubject(const QString& fileName, int others)
+{
+    m_ui->labelSubject->setSubject(fileName, others);
 }
 
 void CSetKeyAndIvDialog::showEvent(QShowEvent* event)
@@ -86,7 +95,8 @@ void CSetKeyAndIvDialog::prepare()
     showTexts();
     m_ui->checkBoxSeal->setVisible(m_encrypt);
     m_ui->checkBoxUseSalt->setVisible(m_encrypt);
-    m_ui->frameTools->setVisible(m_encrypt);
+    for (QWidget* tool : {m_ui->buttonGenerate, m_ui->buttonCopy, m_ui->buttonSave})
+        tool->setVisible(m_encrypt);
     m_ui->checkBoxSeal->setChecked(m_seal);
     m_ui->checkBoxUseSalt->setChecked(m_useSalt);
     m_ui->checkBoxRewrite->setChecked(m_rewriteOutputFile);
@@ -97,8 +107,9 @@ void CSetKeyAndIvDialog::prepare()
     m_iv.clear();
     m_switchToNormal = false;
     fillFields();
+    m_mayRegenerate = false;
     m_ui->plainTextEditIv->setFocus();
-    adjustSize();
+    thisapp::fitToScreen(*this);
 }
 
 void CSetKeyAndIvDialog::showTexts()
@@ -135,11 +146,13 @@ void CSetKeyAndIvDialog::fillFields()
 
 void CSetKeyAndIvDialog::onUiKeyChanged()
 {
+    m_mayRegenerate = false;
     check();
 }
 
 void CSetKeyAndIvDialog::onUiIvChanged()
 {
+    m_mayRegenerate = false;
     check();
 }
 
@@ -173,56 +186,70 @@ SecretText CSetKeyAndIvDialog::textToKeep() const
 {
     const auto iv = decodeHex(thisapp::typedText(*m_ui->plainTextEditIv).view());
     const auto key = decodeHex(thisapp::typedText(*m_ui->plainTextEditKey).view());
-    return thisapp::keyAndIvText(m_algorithmName, key.value_or(SecretBytes()), iv.value_or(SecretBytes()));
+    return thisapp::keyFileText(m_algorithmName.toStdString(), key.value_or(SecretBytes()),
+                                iv.value_or(SecretBytes()));
+}
+
+/// Asks before it loses what somebody typed, loaded, or has kept already.
+bool CSetKeyAndIvDialog::mayReplaceFields()
+{
+    const bool empty =
+        m_ui->plainTextEditIv->document()->isEmpty() && m_ui->plainTextEditKey->document()->isEmpty();
+    return empty || m_mayRegenerate ||
+           QMessageBox::question(this, windowTitle(),
+                                 tr("Replace the key and IV that stand in the fields?")) == QMessageBox::Yes;
+}
+
+void CSetKeyAndIvDialog::showFields(const SecretBytes& key, const SecretBytes& iv)
+{
+    thisapp::setTypedText(*m_ui->plainTextEditIv, encodeHex(iv));
+    thisapp::setTypedText(*m_ui->plainTextEditKey, encodeHex(key));
 }
 
 void CSetKeyAndIvDialog::onUiGenerate()
 {
     SecretBytes key;
     SecretBytes iv;
+    if (!mayReplaceFields())
+        return;
     if (!crypto::randomBytes(m_ivLength, iv).ok() || !crypto::randomBytes(m_keyLength, key).ok()) {
         m_ui->lineEditMsg->showMessage(tr("The system's random generator failed."), MessageKind::Error);
         return;
     }
-    thisapp::setTypedText(*m_ui->plainTextEditIv, encodeHex(iv));
-    thisapp::setTypedText(*m_ui->plainTextEditKey, encodeHex(key));
+    showFields(key, iv);
+    m_mayRegenerate = true;
     m_ui->lineEditMsg->showMessage(
         tr("Copy or save the key and IV: without them the file cannot be decrypted."), MessageKind::Warning);
 }
 
 void CSetKeyAndIvDialog::onUiCopy()
 {
-    const SecretText text = textToKeep();
-    auto* mimeData = new QMimeData;
-    mimeData->setText(QString::fromUtf8(text.c_str(), static_cast<int>(text.size())));
-    // Asks clipboard managers to keep it out of their history.
-    mimeData->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
-    QGuiApplication::clipboard()->setMimeData(mimeData);
-    m_ui->lineEditMsg->showMessage(tr("The key and IV are on the clipboard."), MessageKind::Success);
+    thisapp::copySecret(textToKeep());
+    m_mayRegenerate = false;
+    m_ui->lineEditMsg->showMessage(
+        tr("The key and IV are on the clipboard for %1 seconds.").arg(thisapp::SecretClipboardTime.count()),
+        MessageKind::Success);
 }
 
 void CSetKeyAndIvDialog::onUiSave()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save key and IV"),
-                                                      tr("%1 key and IV.txt").arg(m_algorithmName),
-                                                      tr("Text files") + QStringLiteral(" (*.txt)"));
-    if (path.isEmpty())
+    const auto saved = thisapp::saveKeyFile(*this, m_disk, m_algorithmName, textToKeep());
+    if (!saved)
         return;
-    const auto saved =
-        m_disk.start<std::optional<ResultCode>>([file = thisapp::textPath(path), text = textToKeep()] {
-            return io::writePrivateFile(file, text.view());
-        });
-    if (!m_disk.wait(saved) || !saved.get())
-        m_ui->lineEditMsg->showMessage(
-            tr("The key and IV could not be saved: %1").arg(tr("no answer from the disk")),
-            MessageKind::Error);
-    else if (saved.get()->ok())
-        m_ui->lineEditMsg->showMessage(tr("The key and IV were saved. Only you can read the file."),
-                                       MessageKind::Success);
-    else
-        m_ui->lineEditMsg->showMessage(tr("The key and IV could not be saved: %1")
-                                           .arg(qt_error_string(static_cast<int>(saved.get()->code))),
-                                       MessageKind::Error);
+    m_mayRegenerate = m_mayRegenerate && saved->kind != MessageKind::Success;
+    m_ui->lineEditMsg->showMessage(saved->message, saved->kind);
+}
+
+void CSetKeyAndIvDialog::onUiLoad()
+{
+    const auto loaded = thisapp::loadKeyFile(*this, m_disk, m_algorithmName);
+    if (!loaded || (loaded->key && !mayReplaceFields()))
+        return;
+    if (loaded->key)
+        showFields(loaded->key->key, loaded->key->iv);
+    // A success says less than what the check may have to say.
+    if (loaded->kind != MessageKind::Success || check())
+        m_ui->lineEditMsg->showMessage(loaded->message, loaded->kind);
 }
 
 void CSetKeyAndIvDialog::onUiOk()

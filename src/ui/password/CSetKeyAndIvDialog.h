@@ -35,6 +35,8 @@ public:
     void setSeal(bool seal) { m_seal = seal; }
     void setUseSalt(bool use) { m_useSalt = use; }
     void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
+    /// The file that the dialog is about, by name, and how many files there are beside it.
+    void setSubject(const QString& fileName, int others);
     void setAlgorithmName(const QString& name) { m_algorithmName = name; }
     /// What the fields hold when the dialog opens: an earlier dialog's typed().
     void setTyped(STyped typed) { m_typed = std::move(typed); }
@@ -59,6 +61,7 @@ private slots:
     void onUiGenerate();
     void onUiCopy();
     void onUiSave();
+    void onUiLoad();
     void onUiSwitchToNormalMode(const QString& link);
     void onUiOk();
     void onUiCancel();
@@ -67,6 +70,8 @@ private:
     void connectWidgets();
     void prepare();
     void showTexts();
+    bool mayReplaceFields();
+    void showFields(const tessaly::SecretBytes& key, const tessaly::SecretBytes& iv);
     void fillFields();
     bool check();
     void takeResults();
@@ -82,6 +87,8 @@ private:
     bool m_useSalt = false;
     bool m_rewriteOutputFile = false;
     bool m_switchToNormal = false;
+    /// The fields hold what Generate put there, and nobody keeps it.
+    bool m_mayRegenerate = false;
     QString m_algorithmName;
     STyped m_typed;
     tessaly::SecretBytes m_key;

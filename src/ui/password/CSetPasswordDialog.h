@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <memory>
 
+class QAction;
 namespace Ui {
 class CSetPasswordDialog;
 }
@@ -29,6 +30,8 @@ public:
     void setSeal(bool seal) { m_seal = seal; }
     void setUseSalt(bool use) { m_useSalt = use; }
     void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
+    /// The file that the dialog is about, by name, and how many files there are beside it.
+    void setSubject(const QString& fileName, int others);
     void setAlgorithmName(const QString& name) { m_algorithmName = name; }
 
     /// UTF-8; empty unless accepted without a switch.
@@ -47,12 +50,14 @@ private slots:
     void onUiConfirmPasswordChanged(const QString& text);
     void onUiShowPasswordToggled(bool show);
     void onUiCapsLockChanged(bool on);
+    void onUiGenerate();
     void onUiSwitchToAdvancedMode(const QString& link);
     void onUiOk();
     void onUiCancel();
 
 private:
     void connectWidgets();
+    void addEye();
     void prepare();
     bool confirms() const { return m_encrypt && m_useConfirmPassword; }
     bool checkPasswords();
@@ -62,6 +67,7 @@ private:
     void clearFields();
 
     std::unique_ptr<Ui::CSetPasswordDialog> m_ui;
+    QAction* m_eye = nullptr; ///< owned by the password field
     bool m_encrypt = true;
     bool m_useConfirmPassword = true;
     bool m_showPassword = false;

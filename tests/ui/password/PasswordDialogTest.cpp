@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextEdit>
+#include <optional>
 
 namespace {
 
@@ -86,6 +87,7 @@ TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     EXPECT_EQ(password.echoMode(), QLineEdit::Password);
     press(Qt::Key_Space); // show password
     EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
+    press(Qt::Key_Tab); // generate
     press(Qt::Key_Tab);
     EXPECT_FALSE(child(dialog, "checkBoxUseSalt").isEnabled()) << "a seal has one";
     press(Qt::Key_Space); // no seal
@@ -163,11 +165,13 @@ TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
     EXPECT_TRUE(confirmation.hasFocus());
     press(Qt::Key_P, Qt::AltModifier);
     type("secret");
-    const QString storage = password.text(); // shares the field's characters
+    const QString storage = password.text();      // shares the field's characters
+    const QString shown = password.displayText(); // and the copy that it shows
     press(Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_TRUE(dialog.password().empty());
     EXPECT_EQ(storage, QString(6, QChar(0)));
+    EXPECT_EQ(shown, QString(6, QChar(0)));
     EXPECT_EQ(password.text(), QString());
     EXPECT_FALSE(password.isUndoAvailable());
 }
@@ -199,6 +203,35 @@ TEST_F(PasswordDialog, NamesTheStrengthAndWarnsOfCapsLock)
     password.selectAll();
     press(Qt::Key_Delete);
     EXPECT_EQ(strength.text(), QString());
+}
+
+TEST_F(PasswordDialog, TakesAGeneratedPasswordAndAsksBeforeItReplacesATypedOne)
+{
+    open(dialog);
+    const auto generate = [this](std::optional<Qt::Key> answer) {
+        QString made;
+        whenModal([&](QWidget& generator) {
+            press(Qt::Key_G, Qt::AltModifier);
+            made = child<QLineEdit>(generator, "lineEditPassword").text();
+            made.detach(); // what the generator has is wiped
+            if (answer)
+                whenModal([answer](QWidget&) { press(*answer, Qt::AltModifier); });
+            press(Qt::Key_Return);
+        });
+        press(Qt::Key_G, Qt::AltModifier);
+        QApplication::setActiveWindow(&dialog);
+        return made;
+    };
+    const QString first = generate(std::nullopt);
+    EXPECT_EQ(first.count(' '), 5);
+    EXPECT_EQ(password.text(), first);
+    EXPECT_EQ(confirmation.text(), first);
+    EXPECT_NE(generate(Qt::Key_N), first);
+    EXPECT_EQ(password.text(), first);
+    const QString second = generate(Qt::Key_Y);
+    EXPECT_EQ(password.text(), second);
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.password().view(), second.toStdString());
 }
 
 } // namespace
