@@ -18,7 +18,7 @@ import mars
 import panama
 
 CHUNK, HEADER = 32768, 56
-PASSWORD = "Žluťoučký kůň úpěl ďábelské ódy, " * 4  # more than 125 bytes, the 125th inside of a letter
+PASSWORD = "Žluťoučký kůň"
 
 
 class Botan:
@@ -66,10 +66,9 @@ def xor(first, second):
 
 
 def key_of(password, length):
+    """Up to 64 bytes; no longer key is needed here."""
     name = next(f"sha3_{bits}" for bits, most in ((224, 28), (256, 32), (384, 48), (512, 999)) if length <= most)
-    short = password[:125]
-    parts = [password] + [mark + short for mark in (b"1st", b"odd", b"evn", b"odd")]
-    return b"".join(hashlib.new(name, part).digest() for part in parts)[:length]
+    return hashlib.new(name, password).digest()[:length]
 
 
 def header(number, length):
