@@ -33,6 +33,17 @@ class Botan:
         return cipher.finish(data)
 
 
+class CryptX:
+    def __init__(self, key, iv, _block, name):
+        script = pathlib.Path(__file__).with_name("cryptx.pl").absolute()
+        self.perl = subprocess.Popen(["/usr/bin/perl", script, name, key.hex(), iv.hex()], stdin=subprocess.PIPE,
+                                     stdout=subprocess.PIPE, text=True)
+
+    def run(self, data, encrypts):
+        print("encrypt" if encrypts else "decrypt", data.hex(), file=self.perl.stdin, flush=True)
+        return bytes.fromhex(self.perl.stdout.readline())
+
+
 class Mars:
     def __init__(self, key, iv, _block, _name):
         self.cipher, self.iv = mars.Mars(key), iv
@@ -58,7 +69,7 @@ class Panama:
         return xor(data, self.key_stream(len(data)))
 
 
-READERS = {"Botan": Botan, "mars.py": Mars, "panama.py": Panama}
+READERS = {"Botan": Botan, "CryptX": CryptX, "mars.py": Mars, "panama.py": Panama}
 
 
 def xor(first, second):

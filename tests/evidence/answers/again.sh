@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Asks other implementations for all answers in tests/data/vectors again and prints what differs. It needs
-# libbcprov-java, default-jdk-headless, libtomcrypt-dev and libcryptx-perl, which no other test does.
+# libbcprov-java, default-jdk-headless and libtomcrypt-dev, which no test does.
 set -euo pipefail
 cd "$(dirname "$0")"
 scratch=$(mktemp -d)
