@@ -99,9 +99,10 @@ def read(number, block, cipher, file):
         return b""
     plain = cipher.run(file, False)
     length = int.from_bytes(plain[40:48], "little")
-    assert plain[:48] + bytes(6) + plain[54:56] == header(number, length), "header"
-    assert plain[48:54] != bytes(6), "salt"
-    assert len(plain) - HEADER - length in range(max(block, 1)) and not any(plain[HEADER + length:]), "padding"
+    assert plain[:48] + bytes(6) + plain[54:56] == header(number, length), f"{number}: header"
+    assert plain[48:54] != bytes(6), f"{number}: salt"
+    padding = plain[HEADER + length:]
+    assert len(padding) < max(block, 1) and not any(padding), f"{number}: padding"
     return plain[HEADER:HEADER + length]
 
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The table of docs/TESTING.md: what shows that each algorithm is the one of its name. Made of data/evidence.txt and the
-headings in data/vectors; without a second argument of "--write" the page must already have it. Argument: the tree."""
+"""The table of docs/TESTING.md: what shows that each algorithm is the one of its name, from data/evidence.txt and the
+headings in data/vectors. Arguments: the tree, and "--write" to write it; without, the page must already have it."""
 import collections
 import pathlib
 import re
@@ -17,21 +17,24 @@ def rows(path):
 
 def vectors():
     """For each algorithm: where its answers were published, and who computed the others."""
-    published, computed = collections.defaultdict(list), collections.defaultdict(set)
+    published, computed = collections.defaultdict(dict), collections.defaultdict(set)
     for path in sorted((data / "vectors").iterdir()):
         heading = None
         for line in path.read_text().splitlines():
             name = line.split()[0]
             if match := re.match(r"# (Published|Computed): (.+)", line):
                 heading = match.groups()
-            elif name != "#":
+            elif name == "#":
+                heading = heading if line.startswith("# algorithm ") else None
+            else:
                 assert heading, f"{path.name}: answers without a source"
                 kind, source = heading
                 if kind == "Computed":
                     computed[name] |= {who for who in known if who in source}
                     assert computed[name], f"{path.name}: unknown source of {name}"
-                elif (link := f"[{re.split('[,;(]', source)[0].strip()}](../tests/data/vectors/{path.name})") not in published[name]:
-                    published[name].append(link)
+                else:
+                    publisher = re.split("[,;(]", source)[0].strip()
+                    published[name][f"[{publisher}](../tests/data/vectors/{path.name})"] = None
     return published, computed
 
 

@@ -44,10 +44,11 @@ class Answers {
         if (block != null) {
             BlockCipher cipher = block.get();
             byte[] result = new byte[input.length];
+            var plainKey = new KeyParameter(key);
             cipher.init(true, name.startsWith("RC5") ? new RC5Parameters(key, 16)
-                : name.startsWith("Threefish") ? new TweakableBlockCipherParameters(new KeyParameter(key), new byte[16])
-                : name.startsWith("GOST") ? new ParametersWithSBox(new KeyParameter(key), GOST28147Engine.getSBox("D-Test"))
-                : new KeyParameter(key));
+                : name.startsWith("Threefish") ? new TweakableBlockCipherParameters(plainKey, new byte[16])
+                : name.startsWith("GOST") ? new ParametersWithSBox(plainKey, GOST28147Engine.getSBox("D-Test"))
+                : plainKey);
             cipher.processBlock(input, 0, result, 0);
             return result;
         }
@@ -67,7 +68,8 @@ class Answers {
             String[] row = in.nextLine().split(" ");
             if (row.length < 3 || row[0].startsWith("#"))
                 continue;
-            byte[] bytes = answer(row[0], hex.parseHex(row[1]), hex.parseHex(row[2]), row.length > 3 ? row[3].length() / 2 : 32);
+            int count = row.length > 3 ? row[3].length() / 2 : 32;
+            byte[] bytes = answer(row[0], hex.parseHex(row[1]), hex.parseHex(row[2]), count);
             if (bytes != null)
                 System.out.println(row[0] + " " + row[1] + " " + row[2] + " " + hex.formatHex(bytes));
         }

@@ -1,20 +1,26 @@
-/* Fills in, by libtomcrypt, the last field of rows "algorithm key input ..." on standard input; skips what it lacks.
-   cc answers.c -ltomcrypt -o answers && ./answers <rows */
+/* Fills in, by libtomcrypt, the last field of rows "algorithm key input ..." on standard input; skips what it
+   lacks. cc answers.c -ltomcrypt -o answers && ./answers <rows */
 #include <stdio.h>
 #include <string.h>
 #include <tomcrypt.h>
 
-static const struct { const char* family; const struct ltc_cipher_descriptor* cipher; int rounds; } TABLE[] = {
-    {"AES", &aes_desc, 0},         {"Blowfish", &blowfish_desc, 0}, {"CAST-128", &cast5_desc, 0},
-    {"DES_EDE3", &des3_desc, 0},   {"Camellia", &camellia_desc, 0}, {"RC5", &rc5_desc, 16},
-    {"RC6", &rc6_desc, 20},        {"SEED", &kseed_desc, 0},        {"Twofish", &twofish_desc, 0},
+static const struct
+{
+    const char* family;
+    const struct ltc_cipher_descriptor* cipher;
+    int rounds;
+} TABLE[] = {
+    {"AES", &aes_desc, 0},       {"Blowfish", &blowfish_desc, 0}, {"CAST-128", &cast5_desc, 0},
+    {"DES_EDE3", &des3_desc, 0}, {"Camellia", &camellia_desc, 0}, {"RC5", &rc5_desc, 16},
+    {"RC6", &rc6_desc, 20},      {"SEED", &kseed_desc, 0},        {"Twofish", &twofish_desc, 0},
     {"XTEA", &xtea_desc, 0},
 };
 
 static int from_hex(const char* hex, unsigned char* bytes)
 {
     int count = 0;
-    for (; sscanf(hex + 2 * count, "%2hhx", bytes + count) == 1; count++) {}
+    for (; sscanf(hex + 2 * count, "%2hhx", bytes + count) == 1; count++) {
+    }
     return count;
 }
 
