@@ -1,7 +1,7 @@
-"""PANAMA, written from J. Daemen and C. Clapp, Fast Hashing and Stream Encryption with PANAMA, FSE 1998.
+"""PANAMA after J. Daemen and C. Clapp, Fast Hashing and Stream Encryption with PANAMA, FSE 1998.
 
-It shares no code with the program. The hash function runs the same pushes and pulls as the stream cipher, and the
-digests that its authors published are checked whenever this is loaded."""
+It shares no code with the program. The hash function runs the same pushes and pulls as the stream cipher, and digests
+of the reference implementation, as Crypto++'s test data has them, are checked whenever this is loaded."""
 import struct
 
 ROTATIONS = [i * (i + 1) // 2 % 32 for i in range(17)]
