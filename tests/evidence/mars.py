@@ -1,7 +1,7 @@
 """MARS after C. Burwick et al., MARS - a candidate cipher for AES, IBM, revised in September 1999.
 
 It shares no code with the program, and the key schedule is the revised one. The S-box is made of SHA-1; which nine of
-its words are multiplied by 3 was found beside the table of Crypto++, and a rule that the paper's design criteria suggest
+its words are multiplied by 3 was seen in the table of Crypto++, and a rule that the paper's design criteria suggest
 gives just these. IBM's answers are in tests/data/vectors/mars.txt; exchange.py checks them first."""
 import hashlib
 import itertools
