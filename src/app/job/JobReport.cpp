@@ -10,6 +10,7 @@
 #include "lib/logger/Log.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 namespace thisapp {
 
@@ -95,7 +96,7 @@ void reportFailedStart(const SEncryptData& data, ResultCode reason, IMessageArea
                                      filesOf(data)});
 }
 
-void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
+void reportOutcome(const SEncryptData& data, IMessageAreas& areas, std::function<void()> openFolder)
 {
     const OperationTexts& texts = operationTexts(data.operation);
     const crypto::FileJobOutcome& outcome = data.outcome;
@@ -111,9 +112,11 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
                                              return successText(texts, operation, sealed);
                                          },
                                          {},
-                                         filesOf(data)});
+                                         filesOf(data),
+                                         openFolderText,
+                                         std::move(openFolder)});
     } else {
-        logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
+        logFailure(data);
         reportRemovedOutput(data, areas);
         areas.showMessage(Area::Result, {MessageKind::Error,
                                          [&texts, result = outcome.result] {
@@ -125,22 +128,42 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
     }
 }
 
+QString openFolderText()
+{
+    return Text::tr("Open folder");
+}
+
+QString failureText(const SEncryptData& data)
+{
+    const QString hint = data.operation == Operation::Decrypt
+                             ? advice(data.outcome.result.first(), data.request.passwordMode)
+                             : QString();
+    QStringList sentences{errorText(data.outcome.result) + QLatin1Char('.'), hint,
+                          data.outcome.outputDeleted ? Text::tr("Output file has been deleted.") : QString()};
+    sentences.removeAll(QString());
+    return sentences.join(QLatin1Char(' '));
+}
+
+void logFailure(const SEncryptData& data)
+{
+    logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
+}
+
+QString removalText(const InputRemoval& removal)
+{
+    if (removal.kept)
+        return keptText(*removal.kept);
+    if (!removal.error.ok())
+        return Text::tr("The input file could not be deleted.") + ' ' + errorText(removal.error);
+    return Text::tr("Input file has been deleted after the successfully encryption "
+                    "according to your options");
+}
+
 void reportInputRemoval(const InputRemoval& removal, const SEncryptData& data, IMessageAreas& areas)
 {
-    Message message{MessageKind::Warning, {}};
-    if (removal.kept)
-        message.text = [reason = *removal.kept] { return keptText(reason); };
-    else if (!removal.error.ok())
-        message.text = [error = removal.error] {
-            return Text::tr("The input file could not be deleted.") + ' ' + errorText(error);
-        };
-    else
-        message = {MessageKind::Success, [] {
-                       return Text::tr("Input file has been deleted after the successfully encryption "
-                                       "according to your options");
-                   }};
-    message.file = pathText(data.request.input);
-    areas.showMessage(Area::Input, std::move(message));
+    areas.showMessage(Area::Input,
+                      {removal.removed() ? MessageKind::Success : MessageKind::Warning,
+                       [removal] { return removalText(removal); }, pathText(data.request.input)});
 }
 
 } // namespace thisapp
