@@ -6,6 +6,7 @@
 #include "common/errors/ErrorText.h"
 #include "common/errors/JobStepText.h"
 #include "common/path/PathText.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/logger/Log.h"
 
@@ -78,6 +79,8 @@ void adviseOnInput(const SEncryptData& data, IMessageAreas& areas)
 {
     const ResultCode failure = data.outcome.result.first();
     const bool passwordMode = data.request.passwordMode;
+    if (data.outcome.fittingAlgorithm)
+        return; // that will be offered
     if (data.operation == Operation::Decrypt && !advice(failure, passwordMode).isEmpty())
         areas.showMessage(Area::Input, {MessageKind::Plain,
                                         [failure, passwordMode] { return advice(failure, passwordMode); },
@@ -133,9 +136,20 @@ QString openFolderText()
     return Text::tr("Open folder");
 }
 
+QString algorithmName(std::uint32_t id)
+{
+    return QString::fromLatin1(crypto::displayName(id).data());
+}
+
+QString fittingAlgorithmText(std::uint32_t id)
+{
+    return Text::tr("This file was encrypted with %1.").arg(algorithmName(id));
+}
+
 QString failureText(const SEncryptData& data)
 {
-    const QString hint = data.operation == Operation::Decrypt
+    const QString hint = data.outcome.fittingAlgorithm ? fittingAlgorithmText(*data.outcome.fittingAlgorithm)
+                         : data.operation == Operation::Decrypt
                              ? advice(data.outcome.result.first(), data.request.passwordMode)
                              : QString();
     QStringList sentences{errorText(data.outcome.result) + QLatin1Char('.'), hint,

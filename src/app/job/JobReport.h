@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 
 namespace thisapp {
@@ -21,6 +22,12 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas, std::function
 
 /// The link that does so.
 QString openFolderText();
+
+/// As the user knows it.
+QString algorithmName(std::uint32_t id);
+
+/// That a file was encrypted with it.
+QString fittingAlgorithmText(std::uint32_t id);
 
 /// The error of a failed job, with advice where there is some and what became of a former output.
 QString failureText(const SEncryptData& data);

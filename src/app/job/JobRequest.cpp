@@ -41,6 +41,16 @@ const JobRequest::Step JobRequest::ListSteps[] = {
     &JobRequest::engineIsReady,
 };
 
+const JobRequest::Step JobRequest::AgainSteps[] = {
+    &JobRequest::noJobRuns,
+    &JobRequest::sizesAreKnown,
+    &JobRequest::ivFits,
+    &JobRequest::keyFits,
+    &JobRequest::engineIsReady,
+    &JobRequest::filesAreAsBefore,
+    &JobRequest::outputMayBeWritten,
+};
+
 JobRequest::JobRequest(Operation operation, IJobRequestHost& host, IMessageAreas& areas)
     : m_texts(operationTexts(operation)), m_host(host), m_areas(areas)
 {
@@ -56,6 +66,13 @@ std::optional<SEncryptData> JobRequest::runForList(const QStringList& names)
 {
     m_names = names;
     return run(ListSteps);
+}
+
+std::optional<SEncryptData> JobRequest::runAgain(SEncryptData request)
+{
+    m_data = std::move(request);
+    m_data.request.existing = crypto::ExistingOutput::Keep;
+    return run(AgainSteps);
 }
 
 std::optional<SEncryptData> JobRequest::run(std::span<const Step> steps)

@@ -31,6 +31,8 @@ public:
     /// The same for the files of a list, of which the names are given: all but what concerns one file
     /// and its output, which each of them is asked about in its turn.
     std::optional<SEncryptData> runForList(const QStringList& names);
+    /// Once more with the secret of an earlier request, for another algorithm.
+    std::optional<SEncryptData> runAgain(SEncryptData request);
     /// The answer about files that seem to be encrypted already, where there are some.
     OnEncrypted onEncrypted() const { return m_onEncrypted; }
     /// In bytes, once the request has been made.
@@ -46,6 +48,7 @@ private:
     using Step = Verdict (JobRequest::*)();
     static const Step Steps[];
     static const Step ListSteps[];
+    static const Step AgainSteps[];
 
     std::optional<SEncryptData> run(std::span<const Step> steps);
 

@@ -102,6 +102,7 @@ void CQueueRun::takeJobEnd()
     m_job.finish();
     SEncryptData ended = m_job.data();
     m_job.clear();
+    ended.outcome.root = {};
     ended.outcome.input.place = ended.outcome.output.place = nullptr; // there may be thousands of files
     if (ended.outcome.cancelled) {
         end();

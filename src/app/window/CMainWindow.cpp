@@ -47,6 +47,7 @@ CMainWindow::CMainWindow(const WindowServices& services)
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier,
                 [this](const QString& file) { m_fields.openFolderOf(file); }),
+      m_offer(*m_form),
       m_job(services.encryptors, services.decryptors, m_dispatcher),
       m_queueJob({m_queue, *m_form, m_input, m_disk, m_job, m_display})
 {
@@ -73,6 +74,7 @@ void CMainWindow::connectForm()
     connect(&m_input, &CInputField::notifyAccepted, this, &CMainWindow::resetMessages);
     connect(&m_input, &CInputField::notifyFacts, this, &CMainWindow::onUiInputFacts);
     connect(&m_queueJob, &CQueueJob::notifyChanged, this, &CMainWindow::refresh);
+    connect(&m_offer, &CAlgorithmOffer::notifyTaken, this, &CMainWindow::onUiOfferTaken);
     connect(m_form, &CJobFrame::notifyTextChanged, this, &CMainWindow::refresh);
     connect(m_form, &CJobFrame::notifyAddFile, this, [this] { m_fields.onUiAddFileItem(); });
     connect(m_form, &CJobFrame::notifyBrowseOutput, this, [this] { m_fields.onUiBrowseOutput(); });
@@ -138,6 +140,7 @@ void CMainWindow::onUiDecryptItem()
 
 void CMainWindow::requestJob(Operation operation)
 {
+    m_offer.withdraw();
     resetMessages();
     if (!isRunning() && m_queueJob.settle())
         m_input.settle(); // for the proposal
@@ -149,17 +152,31 @@ void CMainWindow::requestJob(Operation operation)
         return;
 
     job->request.cost = m_services.cost;
-    if (m_queueJob.isActive()) {
+    if (m_queueJob.isActive())
         m_queueJob.start(std::move(*job), request.onEncrypted());
-        return;
-    }
-    const QString input = pathText(job->request.input.filename());
-    const ResultCode started = m_job.start(std::move(*job));
+    else
+        startJob(request, std::move(*job));
+}
+
+void CMainWindow::startJob(const JobRequest& request, SEncryptData job)
+{
+    m_offer.remember(job);
+    const QString name = pathText(job.request.input.filename());
+    const ResultCode started = m_job.start(std::move(job));
     if (started.ok())
-        m_display.begin(input, request.inputSize());
+        m_display.begin(name, request.inputSize());
     else
         reportFailedStart(m_job.data(), started, *m_form);
     refresh();
+}
+
+void CMainWindow::onUiOfferTaken(const SEncryptData& offered)
+{
+    resetMessages();
+    CRequestHost host(*this, *m_form, m_input, m_disk, isRunning(), m_job, m_services.algorithms);
+    JobRequest request(offered.operation, host, *m_form);
+    if (std::optional<SEncryptData> job = request.runAgain(offered))
+        startJob(request, std::move(*job));
 }
 
 void CMainWindow::onUiStopItem()
@@ -202,6 +219,7 @@ void CMainWindow::onUiEncryptFinished()
     refresh();
     const SEncryptData ended = m_job.data();
     m_display.showEnd(ended);
+    m_offer.make(ended);
     m_job.clear();
     if (!isInputRemovalWanted(*this, ended, m_disk, *m_form))
         return;
@@ -249,6 +267,7 @@ void CMainWindow::onUiQuitItem()
 
 void CMainWindow::run(const Command& command)
 {
+    m_offer.withdraw();
     if (const auto* windowSlot = std::get_if<void (CMainWindow::*)()>(&command.slot))
         (this->**windowSlot)();
     else if (const auto* fieldSlot = std::get_if<void (FieldCommands::*)()>(&command.slot))
@@ -298,6 +317,7 @@ void CMainWindow::keyPressEvent(QKeyEvent* event)
 void CMainWindow::closeEvent(QCloseEvent* event)
 {
     logger::log(logger::Debug, LogSource) << "Finish ...";
+    m_offer.withdraw();
     event->accept();
 }
 

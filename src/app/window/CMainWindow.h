@@ -5,6 +5,7 @@
 #include "app/queue/FileQueue.h"
 #include "app/widgets/IFilesDragDropEvent.h"
 #include "app/window/Actions.h"
+#include "app/window/CAlgorithmOffer.h"
 #include "app/window/CInputField.h"
 #include "app/window/CQueueJob.h"
 #include "app/window/DialogCommands.h"
@@ -73,6 +74,7 @@ private slots:
     void onUiEncryptFinished();
     void onUiInputRemovalFinished();
     void onUiInputFacts();
+    void onUiOfferTaken(const thisapp::SEncryptData& request);
     /// Brings enabled states and title in line with the fields and the job.
     void refresh();
 
@@ -87,6 +89,7 @@ private:
     void connectForm();
     void connectJob();
     void requestJob(thisapp::Operation operation);
+    void startJob(const thisapp::JobRequest& request, thisapp::SEncryptData job);
     bool isRunning() const { return m_job.isRunning() || m_queueJob.isRunning(); }
 
     void resetMessages();
@@ -102,6 +105,7 @@ private:
     thisapp::DialogCommands m_dialogs;
     thisapp::Actions m_actions;
     thisapp::JobDisplay m_display;
+    CAlgorithmOffer m_offer;
     /// Its end, which waits for the worker, comes before that of the rest.
     thisapp::CFileJob m_job;
     CQueueJob m_queueJob;
