@@ -25,6 +25,13 @@
 
 using namespace thisapp;
 
+namespace {
+
+/// In the window's usual size.
+constexpr int UsualHintLines = 8;
+
+} // namespace
+
 CJobFrame::CJobFrame(const FileQueue& queue, QWidget* parent)
     : CDragDropFrame(parent),
       m_area(new QScrollArea),
@@ -300,7 +307,8 @@ void CJobFrame::bringIntoSight(QWidget& widget)
 
 QSize CJobFrame::sizeHint() const
 {
-    return {90 * fontMetrics().averageCharWidth(), m_heightBesideHint + 8 * fontMetrics().height()};
+    return {90 * fontMetrics().averageCharWidth(),
+            m_heightBesideHint + UsualHintLines * fontMetrics().height()};
 }
 
 /// The hint's height depends on that of the window alone, not on what there is to say: whoever aims at it
@@ -309,10 +317,10 @@ void CJobFrame::fitHint()
 {
     const int line = fontMetrics().height();
     if (m_heightBesideHint == 0) {
-        m_hint->setFixedHeight(0);
         // With the progress, and a result of two lines.
-        m_heightBesideHint =
-            m_area->widget()->sizeHint().height() + m_progress->sizeHint().height() + 2 * line;
+        m_hint->setFixedHeight(UsualHintLines * line);
+        m_heightBesideHint = m_area->widget()->sizeHint().height() + m_progress->sizeHint().height() +
+                             (2 - UsualHintLines) * line;
     }
     m_hint->setFixedHeight(
         std::clamp(height() - m_heightBesideHint, m_hint->minimumSizeHint().height(), 18 * line));
