@@ -8,8 +8,10 @@
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/CkeyboardShortcutInfoDialog.h"
 #include "ui/options/COptionsDialog.h"
+#include "ui/password/CPasswordGeneratorDialog.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
+#include "ui/style/TextSize.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -65,9 +67,9 @@ public:
     void saveToolTip(const QString& name, QWidget& widget)
     {
         QToolTip::showText(widget.mapToGlobal({}), widget.toolTip(), &widget);
-        for (QWidget* window : QApplication::topLevelWidgets())
+        for (QWidget* window : QApplication::topLevelWidgets()) // at once: it may go at any time
             if (window->inherits("QTipLabel"))
-                save(name, *window);
+                window->grab().save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
         QToolTip::hideText();
     }
 
@@ -79,6 +81,10 @@ private:
 void savePasswordDialogs(Gallery& gallery)
 {
     CSetPasswordDialog encrypt;
+    encrypt.setSubject(
+        QStringLiteral("a rather long name of a file that nobody would type, and that has to be "
+                       "shortened in the middle.tar.gz"),
+        10);
     encrypt.setAlgorithmName(QStringLiteral("AES-256"));
     gallery.save(QStringLiteral("password_encrypt"), encrypt, [&encrypt] {
         QTest::keyClicks(encrypt.findChild<QLineEdit*>(QStringLiteral("lineEditPassword")),
@@ -97,7 +103,10 @@ void savePasswordDialogs(Gallery& gallery)
     CSetPasswordDialog decrypt;
     decrypt.setEncryptMode(false);
     decrypt.setAlgorithmName(QStringLiteral("AES-256"));
+    decrypt.setSubject(QStringLiteral("letter.txt.enc"), 0);
     gallery.save(QStringLiteral("password_decrypt"), decrypt);
+    CPasswordGeneratorDialog generator;
+    gallery.save(QStringLiteral("password_generator"), generator);
 }
 
 void saveKeyDialogs(Gallery& gallery)
@@ -153,8 +162,15 @@ void saveAlgorithmDialogs(Gallery& gallery)
     gallery.save(QStringLiteral("algorithm_info"), info);
 }
 
+/// As many as the program has.
 const thisapp::Shortcuts SomeShortcuts{{Qt::Key_F5, "Start encryption"},
-                                       {thisapp::ctrl(Qt::Key_F8), "Clear entered data"}};
+                                       {Qt::Key_F6, "Start decryption"},
+                                       {Qt::Key_F8, "Stop encryption/decryption"},
+                                       {thisapp::ctrl(Qt::Key_F8), "Clear entered data"},
+                                       {thisapp::ctrl(Qt::Key_F9), "Open folder with input file"},
+                                       {thisapp::ctrl(Qt::Key_F10), "Open folder with output file"},
+                                       {thisapp::ctrl(Qt::Key_O), "Add file to encrypt/decrypt"},
+                                       {thisapp::ctrl(Qt::Key_N), "Add file to encrypt/decrypt"}};
 
 void saveOptionsDialog(Gallery& gallery)
 {
@@ -172,7 +188,7 @@ void saveOptionsDialog(Gallery& gallery)
                  [=] { scrollBar->setValue(scrollBar->maximum()); });
     dialog.findChild<QCheckBox*>(QStringLiteral("checkUseOutputDir"))->setChecked(true);
     gallery.save(QStringLiteral("options_small"), dialog, [&dialog] { dialog.resize(400, 300); });
-    dialog.resize(dialog.sizeHint());
+    dialog.resize(thisapp::textSize(dialog, 116, 40));
     auto* folder = dialog.findChild<QLineEdit*>(QStringLiteral("editOutputDir"));
     gallery.save(QStringLiteral("options_folder"), dialog, [&dialog, folder] {
         folder->setText(QStringLiteral("sftp://host/folder"));
