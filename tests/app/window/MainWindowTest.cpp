@@ -525,6 +525,17 @@ TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
 {
     EXPECT_TRUE(w.window->screen()->availableGeometry().contains(w.window->frameGeometry()));
     EXPECT_LE(w.window->minimumSizeHint().height(), 300);
+    const auto hintHeight = [this] {
+        QCoreApplication::processEvents();
+        return w.window->findChild<CDropHint*>()->height();
+    };
+    const int idle = hintHeight();
+    w.writeInput("in", 10);
+    w.window->processCommandLine({w.path("in")});
+    w.progress().setProgress(50, {MessageKind::Plain, [] { return QString("word ").repeated(60); }});
+    for (const Area area : {Area::Input, Area::Output, Area::Result})
+        w.form().showMessage(area, {MessageKind::Error, [] { return QString("word ").repeated(60); }});
+    EXPECT_EQ(hintHeight(), idle) << "whatever there is to say";
     w.window->setGeometry(70, 60, 420, 380);
     w.window->close();
     EXPECT_GT(WindowHarness().window->y(), 60) << "the other one is not covered";

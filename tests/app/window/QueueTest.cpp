@@ -3,6 +3,7 @@
 #include "app/queue/CQueueModel.h"
 #include "common/settings/CAppSettings.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/style/CLinkLabel.h"
 
 #include <QMessageBox>
 #include <QMimeData>
@@ -84,6 +85,10 @@ TEST_F(QueueTest, ProcessesAllWithOnePasswordWhateverBecomesOfOne)
     EXPECT_EQ(states()[1],
               "b: Skipped: Output file already exists! A 'not rewrite' option has been selected.");
     EXPECT_EQ(w.progress().percent(), 100.0F);
+    test::UrlRecorder opened;
+    QTest::keyClick(w.window->findChild<CMessageLine*>("resultMessage")->findChild<CLinkLabel*>(),
+                    Qt::Key_Space);
+    EXPECT_EQ(opened.urls, QList<QUrl>{QUrl("file://" + w.path("").chopped(1))});
 
     // What is not done is done with the next try, and nothing else.
     fs::remove(folder() / "b.enc");
