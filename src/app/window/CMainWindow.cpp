@@ -144,8 +144,11 @@ void CMainWindow::requestJob(Operation operation)
 {
     m_offer.withdraw();
     resetMessages();
-    if (!isRunning() && m_queueJob.settle())
+    if (!isRunning()) {
+        if (!m_queueJob.settle())
+            return;
         m_input.settle(); // for the proposal
+    }
     CRequestHost host(*this, *m_form, m_input, m_disk, isRunning(), m_job, m_services.algorithms);
     JobRequest request(operation, host, *m_form);
     std::optional<SEncryptData> job =
@@ -292,7 +295,8 @@ void CMainWindow::refresh()
 
 void CMainWindow::setTitle()
 {
-    setWindowTitle(titleFor(isRunning()             ? m_display.title()
+    const bool isAtWork = m_queueJob.isActive() ? m_queueJob.isStoppable() : m_job.isRunning();
+    setWindowTitle(titleFor(isAtWork                ? m_display.title()
                             : m_queueJob.isActive() ? m_queueJob.title()
                                                     : QFileInfo(m_form->inputText().trimmed()).fileName()));
 }

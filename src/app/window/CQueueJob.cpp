@@ -41,6 +41,8 @@ CQueueJob::CQueueJob(const Parts& parts)
     m_timer.setSingleShot(true);
     m_timer.setInterval(ShowEveryMs);
     connect(&m_parts.disk, &CDiskWork::notifyAnswered, this, &CQueueJob::onUiLooked);
+    connect(&m_parts.form, &CJobFrame::notifyInputChanged, this,
+            [this] { m_look = {}; }); // the newest counts
     connect(&m_parts.form.queueList(), &CQueueList::notifyClear, this, &CQueueJob::clear);
     connect(&m_parts.form.queueList(), &CQueueList::notifyCurrent, this, &CQueueJob::onUiCurrent);
     connect(&m_parts.form.queueList(), &CQueueList::notifyRemove, this, &CQueueJob::onUiRemove);
@@ -66,7 +68,12 @@ bool CQueueJob::settle()
 {
     if (const auto look = m_look; look.valid() && m_parts.disk.wait(look))
         onUiLooked(); // unless the wait has brought it
-    return !m_look.valid();
+    if (!m_look.valid())
+        return true;
+    m_look = {};
+    m_parts.form.showMessage(Area::Input,
+                             {MessageKind::Error, [] { return tr("The file system does not answer."); }});
+    return false;
 }
 
 void CQueueJob::onUiLooked()

@@ -47,7 +47,7 @@ public:
     /// Files that the user gives: more for a list that nothing has been done with yet, else instead of
     /// what there was.
     void take(const QStringList& files);
-    /// Waits for the look at files that were given; false when the file system doesn't answer.
+    /// Waits for the look at files that were given; false, and told, when the file system doesn't answer.
     bool settle();
     QStringList names() const;
     /// `request` has everything but the files.
