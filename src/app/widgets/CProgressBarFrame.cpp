@@ -24,6 +24,8 @@ CProgressBarFrame::CProgressBarFrame(QWidget* parent)
     m_bar->setRange(0, 100 * StepsPerPercent);
     m_bar->setTextVisible(false);
     m_notice->hide();
+    m_notice->setAnnounced(true);
+    m_bar->setAccessibleName(tr("Progress"));
     hide(); // before it has a parent, showing it would make a window of it
 }
 

@@ -20,6 +20,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     QString input, output, chosenInput, chosenOutput;
     std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
     std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
+    OnEncrypted onEncrypted = OnEncrypted::Encrypt;
     bool engine = true;
     bool answers = true;
     std::pair<Area, std::string> message;
@@ -42,6 +43,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
+    OnEncrypted askAboutEncrypted(int, int) override { return onEncrypted; }
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
     bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
     bool prepareEngine(Operation, const AlgSelection&) override { return engine; }
@@ -150,6 +152,32 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_TRUE(request->request.seal && request->rewriteOutput);
     EXPECT_EQ(request->request.existing, crypto::ExistingOutput::RemoveFirst);
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
+}
+
+TEST_P(JobRequestTest, AsksOnceForAllFilesOfAList)
+{
+    host.output = path("out.txt");
+    const QStringList names{"a.txt", "b.ENC", "c"};
+    QStringList asked;
+    host.password = [&asked](PasswordEntry& entry) {
+        asked = entry.names;
+        entry.password = SecretText("secret");
+        return true;
+    };
+    const bool encrypts = GetParam() == Operation::Encrypt;
+    for (const OnEncrypted answer : {OnEncrypted::Cancel, OnEncrypted::LeaveOut}) {
+        host.onEncrypted = answer;
+        asked.clear();
+        JobRequest request(GetParam(), host, host);
+        EXPECT_EQ(request.runForList(names).has_value(), !encrypts || answer != OnEncrypted::Cancel);
+        EXPECT_EQ(request.onEncrypted(), encrypts ? answer : OnEncrypted::Encrypt);
+        EXPECT_EQ(asked, encrypts && answer == OnEncrypted::Cancel ? QStringList() : names);
+    }
+    folder.write("x.enc", "");
+    host.input = path("x.enc");
+    host.output = path("x");
+    host.onEncrypted = OnEncrypted::Cancel;
+    EXPECT_EQ(JobRequest(GetParam(), host, host).run().has_value(), !encrypts);
 }
 
 /// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one. What a

@@ -1,15 +1,20 @@
 #include "window/WindowHarness.h"
 
+#include "app/widgets/CDropHint.h"
 #include "common/settings/CAppSettings.h"
 #include "support/Environment.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/CSetAlgDialog.h"
 #include "ui/options/COptionsDialog.h"
+#include "ui/style/CLinkLabel.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QProgressBar>
+#include <QScreen>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -109,6 +114,36 @@ TEST_F(MainWindowTest, RefusesAWrongPasswordBeforeItWrites)
     EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
     EXPECT_FALSE(fs::exists(folder() / "back"));
     EXPECT_TRUE(fs::exists(folder() / "out"));
+}
+
+/// The link stands until anything else happens.
+TEST_F(MainWindowTest, OffersTheAlgorithmThatFits)
+{
+    for (const bool seal : {false, true}) {
+        set({{"SealFiles", seal}});
+        w.writeInput("in", 1000);
+        ASSERT_TRUE(w.form().algFrame().setSelection({1, 452}));
+        encrypt();
+        ASSERT_TRUE(w.waitForEnd());
+        auto& link = *w.window->findChild<CMessageLine*>("inputMessage")->findChild<CLinkLabel*>();
+        for (const bool taken : {false, true}) {
+            ASSERT_TRUE(w.form().algFrame().setSelection({1, 252}));
+            run(Qt::Key_F6, w.path("out"), w.path("back"));
+            ASSERT_TRUE(w.waitForEnd());
+            EXPECT_EQ(w.text("inputMessage"), "This file was encrypted with Serpent-256.");
+            EXPECT_EQ(link.accessibleName(), "Decrypt with Serpent-256");
+            if (!taken)
+                w.output().setText(w.path("elsewhere"));
+            EXPECT_EQ(link.isVisible(), taken);
+            QTest::keyClick(&link, Qt::Key_Return);
+            ASSERT_TRUE(w.waitForEnd());
+            EXPECT_EQ(fs::exists(folder() / "back"), taken) << w.result();
+        }
+        EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "Serpent-256");
+        EXPECT_EQ(test::readFile(folder() / "in"), test::readFile(folder() / "back"));
+        fs::remove(folder() / "out");
+        fs::remove(folder() / "back");
+    }
 }
 
 TEST_F(MainWindowTest, SealsAndOpensFiles)
@@ -379,9 +414,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
     const QString base = "file://" + w.path("");
     const std::tuple<QStringList, QString, const char*> cases[] = {
         {{base + "in"}, "in", ""},
-        {{"https://example.org/x", base + "in", "file:///y"},
-         "in",
-         "Only one of the dropped files was taken."},
+        {{"https://example.org/x", base + "in", "file:///y"}, "in", "\"y\" is not found."},
         {{"file://LocalHost" + w.path("in")}, "in", ""},
         {{base + "n%FF"}, QString("n") + QChar(0xdcff), ""},
         {{base + "in%20"}, "in ", ""}, // while there is an "in", too
@@ -397,7 +430,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         QMimeData files;
         files.setUrls(QUrl::fromStringList(urls));
         const QString path = name.isEmpty() ? QString() : w.path("") + name;
-        const bool usable = QString(message).startsWith("Only one") || QString(message).isEmpty();
+        const bool usable = QString(message).startsWith('"') || QString(message).isEmpty();
         for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
             QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
             EXPECT_TRUE(drop(*target, files));
@@ -443,6 +476,7 @@ TEST(SlowFileSystemTest, IsLookedAtOnceForEachChangeWithoutStalling)
         w.folder.write(name, "");
     w.input().setText(w.path(""));
     QCoreApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitFor([&looks] { return looks > 0; })); // its thread may be late
     looks = 0;
     QElapsedTimer clock;
     clock.start();
@@ -486,6 +520,49 @@ TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
     w.window->processCommandLine({"-algorithm", "no such", "-ifile", w.path("missing")});
     EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "AES-128");
     EXPECT_EQ(w.output().text(), w.path("out")) << "no proposal for what isn't there";
+}
+
+TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
+{
+    EXPECT_TRUE(w.window->screen()->availableGeometry().contains(w.window->frameGeometry()));
+    EXPECT_LE(w.window->minimumSizeHint().height(), 300);
+    const auto hintHeight = [this] {
+        QCoreApplication::processEvents();
+        return w.window->findChild<CDropHint*>()->height();
+    };
+    const int idle = hintHeight();
+    w.writeInput("in", 10);
+    w.window->processCommandLine({w.path("in")});
+    w.progress().setProgress(50, {MessageKind::Plain, [] { return QString("word ").repeated(60); }});
+    for (const Area area : {Area::Input, Area::Output, Area::Result})
+        w.form().showMessage(area, {MessageKind::Error, [] { return QString("word ").repeated(60); }});
+    EXPECT_EQ(hintHeight(), idle) << "whatever there is to say";
+    w.window->setGeometry(70, 60, 420, 380);
+    w.window->close();
+    EXPECT_GT(WindowHarness().window->y(), 60) << "the other one is not covered";
+    w.window.reset();
+    EXPECT_EQ(WindowHarness().window->geometry(), QRect(70, 60, 420, 380));
+}
+
+TEST_F(MainWindowTest, TellsAScreenReaderWhatIsWhat)
+{
+    w.writeInput("in", 10);
+    w.window->processCommandLine({w.path("in")});
+    w.progress().setProgress(50, {});
+    for (QWidget* widget : w.window->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        auto* accessible = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
+    }
+    const auto& hint = *w.window->findChild<CDropHint*>();
+    auto* accessible = QAccessible::queryAccessibleInterface(const_cast<CDropHint*>(&hint));
+    EXPECT_EQ(accessible->role(), QAccessible::Button);
+    EXPECT_EQ(accessible->text(QAccessible::Name), "in");
+    EXPECT_TRUE(
+        accessible->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    auto* bar = QAccessible::queryAccessibleInterface(w.window->findChild<QProgressBar*>());
+    EXPECT_EQ(bar->text(QAccessible::Name), "Progress");
 }
 
 TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
