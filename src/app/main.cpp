@@ -1,3 +1,4 @@
+#include "app/commandline/Arguments.h"
 #include "app/desktop/Desktop.h"
 #include "app/desktop/ShellIntegration.h"
 #include "app/i18n/MyTranslator.h"
@@ -66,16 +67,6 @@ bool answerOnTerminal(std::span<char*> arguments)
     return true;
 }
 
-/// The application object has taken its own arguments out. Its list of the rest would lose the bytes
-/// of a file name that are not UTF-8.
-QStringList programArguments(std::span<char*> arguments)
-{
-    QStringList texts;
-    for (const char* argument : arguments)
-        texts += pathText(argument);
-    return texts;
-}
-
 /// Beside an installed program, or in the folder that the program was built in.
 std::filesystem::path translationFolder()
 {
@@ -133,7 +124,8 @@ int runApplication(int& argc, char** argv)
     CMainWindow window(
         {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
 
-    const QStringList arguments = programArguments({argv + 1, static_cast<std::size_t>(argc - 1)});
+    // The application object has taken its own arguments out. Its list of the rest would lose bytes.
+    const QStringList arguments = argumentTexts({argv + 1, static_cast<std::size_t>(argc - 1)});
     new CFirstPaint(window, [&] {
         leanStart.reset();
         QApplication::setWindowIcon(applicationIcon());

@@ -1,0 +1,229 @@
+#!/usr/bin/python3
+"""drive.py QUILLET [MANAGER ...]: what each file manager hands over when a user selects files and takes
+"Encrypt with Quillet" from its menu.
+
+Each manager runs on an X server, a bus and a home of its own, with the entries that QUILLET writes there.
+Files with odd names are selected one by one and all at once; a recorder in QUILLET's place tells what came.
+The last step of each manager is the real program. Debian: xvfb, openbox, xdotool, dbus, python3-pyatspi, at-spi2-core
+and the managers."""
+import ast
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import urllib.parse
+
+NAMES = [b"two words.txt", b"quote's.txt", b'double"quotes".txt', b"a%f.txt", b"b%41.txt", b"new\nline.txt",
+         b"-start.txt", "暗号化.txt".encode(), b"blank at the end ", b" blank before.txt", b"#hash?.txt",
+         b"amp&semi;$HOME`x`.txt", b"back\\slash.txt", b"latin-\xe9.txt"]
+DECOYS = [b"af.txt", b"bA.txt", b"two", b"words.txt"]
+ENTRY = "Encrypt with Quillet"
+RECORDER = """#!/usr/bin/python3
+import os, sys
+with open({log!r}, "a") as log:
+    log.write(repr([os.fsencode(a) for a in sys.argv[1:]]) + "\\n")
+"""
+
+# The command that shows a folder, and the menus on the way to the entry.
+MANAGERS = {
+    "nautilus": (["nautilus", "--new-window"], ["Scripts"]),
+    "caja": (["caja", "--no-desktop", "--browser"], ["Scripts"]),
+    "nemo": (["nemo", "--no-desktop"], []),
+    "thunar": (["thunar"], []),
+    "dolphin": (["dolphin"], ["Quillet"]),
+    "pcmanfm": (["pcmanfm"], []),
+    "pcmanfm-qt": (["pcmanfm-qt"], []),
+}
+
+
+def eventually(look, seconds=20.0):
+    """The first true answer of look(), or the last false one."""
+    end = time.monotonic() + seconds
+    while not (answer := look()) and time.monotonic() < end:
+        time.sleep(0.1)
+    return answer
+
+
+def xdotool(*arguments):
+    done = subprocess.run(["xdotool", *arguments], capture_output=True, text=True, timeout=20)
+    return done.stdout.split()
+
+
+def accessibles(node, depth=0):
+    """node and what is below it, the last child first: menus come last."""
+    yield node
+    if depth > 25:
+        return
+    try:
+        children = list(node)
+    except Exception:  # it is gone
+        return
+    for child in reversed(children):
+        if child is not None:
+            yield from accessibles(child, depth + 1)
+
+
+def find_item(name):
+    """The menu item of that name that shows."""
+    import pyatspi
+    roles = (pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_MENU, pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_CHECK_MENU_ITEM)
+    for application in pyatspi.Registry.getDesktop(0):
+        if application is None:
+            continue
+        for node in accessibles(application):
+            try:
+                if node.name.replace("&", "") == name and node.getRole() in roles and \
+                        node.getState().contains(pyatspi.STATE_SHOWING):
+                    return node
+            except Exception:
+                continue
+    return None
+
+
+def press(item):
+    """Clicks in its middle, as a user does."""
+    import pyatspi
+    box = item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    xdotool("mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2), "click", "1")
+
+
+class Session:
+    """One manager showing one folder."""
+
+    def __init__(self, name, folder):
+        command, self.menus = MANAGERS[name]
+        self.process = subprocess.Popen([*command, folder], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.window = (eventually(lambda: xdotool("search", "--onlyvisible", "--class", name)) or [None])[-1]
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        try:
+            self.process.wait(10)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            self.process.wait()
+        eventually(lambda: not xdotool("search", "--onlyvisible", "--class", "."), 1)
+
+    def choose(self, entry):
+        """Selects everything and takes the entry; tells what was missing."""
+        if not self.window:
+            return "no window"
+        for _ in range(4):  # until the folder has been read
+            xdotool("windowactivate", "--sync", self.window)
+            xdotool("key", "Escape", "ctrl+a")
+            time.sleep(0.7)
+            xdotool("key", "shift+F10")
+            for menu in [*self.menus, entry]:
+                item = eventually(lambda: find_item(menu), 3)
+                if not item:
+                    break
+                press(item)
+            else:
+                return ""
+            xdotool("key", "Escape", "Escape")
+        return f"no entry {menu!r}"
+
+
+def path_of(argument):
+    """As the program reads it."""
+    if argument.startswith(b"file://"):
+        return urllib.parse.unquote_to_bytes(argument[len("file://"):])
+    return argument
+
+
+def arrived(log):
+    """The files of each start of the program."""
+    if not os.path.exists(log):
+        return []
+    with open(log) as lines:
+        starts = [ast.literal_eval(line) for line in lines]
+    os.remove(log)
+    return [[path_of(a) for a in start if a not in (b"-encrypt", b"-start", b"-ifile")] for start in starts]
+
+
+def make_files(folder, names):
+    os.makedirs(folder)
+    for name in names:
+        with open(os.path.join(os.fsencode(folder), name), "wb") as file:
+            file.write(name)
+    return [os.path.join(os.fsencode(folder), name) for name in names]
+
+
+def drive(quillet, manager):
+    home = os.environ["HOME"]
+    program, log = home + "/programs/quillet", home + "/log"
+    os.makedirs(home + "/programs")
+    shutil.copy(quillet, program)
+    # The entries are written by the program itself, once its window is there.
+    with subprocess.Popen([program]) as writer:
+        shown = eventually(lambda: xdotool("search", "--onlyvisible", "--class", "quillet"))
+        eventually(lambda: os.path.exists(home + "/.local/share/Thunar/sendto/quillet.desktop") or manager != "thunar", 5)
+        time.sleep(1)
+        writer.terminate()
+    print(f"== {manager}: {'entries written' if shown else 'no entries'}")
+    shutil.move(program, program + ".real")
+    with open(program, "w") as file:
+        file.write(RECORDER.format(log=log))
+    os.chmod(program, 0o755)
+
+    def take(folder, expected, label):
+        with Session(manager, folder) as session:
+            fault = session.choose(ENTRY)
+            if not fault:
+                eventually(lambda: os.path.exists(log), 5)
+                time.sleep(0.5)
+            starts = arrived(log)
+            if starts == []:
+                subprocess.run(["import", "-window", "root", f"/tmp/desktop/{manager}.png"])
+        same = len(starts) == 1 and sorted(starts[0]) == sorted(expected)
+        print(f"{'ok  ' if same else 'FAIL'} {label}", "" if same else fault or f"{len(starts)} starts: {starts}", flush=True)
+        return same
+
+    for number, name in enumerate(NAMES):
+        folder = f"{home}/one{number}"
+        os.makedirs(folder)
+        expected = make_files(folder + "/here", [name])
+        for decoy in DECOYS:
+            make_files(f"{folder}/{decoy.decode()}", [])
+        take(folder + "/here", expected, repr(name))
+    expected = make_files(home + "/all", NAMES)
+    take(home + "/all", expected, f"all {len(NAMES)} at once")
+
+    shutil.move(program + ".real", program)
+    with Session(manager, f"{home}/one3/here") as session:
+        fault = session.choose(ENTRY)
+        title = eventually(lambda: xdotool("search", "--onlyvisible", "--name", "Password"), 10)
+        subprocess.run(["import", "-window", "root", f"/tmp/desktop/{manager}-real.png"])
+        for window in xdotool("search", "--class", "quillet"):
+            pid = xdotool("getwindowpid", window)
+            if pid:
+                try: os.kill(int(pid[0]), 15)
+                except OSError: pass
+    print(f"{'ok  ' if title else 'FAIL'} the real program asks for the password", fault, flush=True)
+
+
+def main():
+    quillet = os.path.abspath(sys.argv[1])
+    if "QUILLET_DRIVEN" in os.environ:
+        windows = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+        try:
+            drive(quillet, os.environ["QUILLET_DRIVEN"])
+        finally:
+            windows.terminate()
+        return
+    for manager in sys.argv[2:] or MANAGERS:
+        with tempfile.TemporaryDirectory(prefix="quillet-", ignore_cleanup_errors=True) as home:
+            environment = {"PATH": os.environ["PATH"], "HOME": home, "LANG": "C.UTF-8", "QUILLET_DRIVEN": manager,
+                           "XDG_RUNTIME_DIR": home + "/run", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                           "GIO_USE_VFS": "local", "XDG_CURRENT_DESKTOP": "X-Generic"}
+            os.mkdir(home + "/run", 0o700)
+            subprocess.run(["timeout", "400", "xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -noreset", "dbus-run-session", "--",
+                            sys.executable, __file__, quillet], env=environment, check=False)
+
+
+main()
