@@ -84,17 +84,16 @@ Quote=double
 Dependencies={dependency};
 )";
 
+// PCManFM 1.3 crashes where Schemes are given, shows the Tooltip in place of the Name, and finds no
+// absolute path of TryExec.
 constexpr std::string_view FileAction = R"({head}[Desktop Entry]
 Type=Action
 Name={name}
-Tooltip={comment}
 Icon=quillet
-TryExec={path}
 Profiles=files;
 
 [X-Action-Profile files]
 MimeTypes=all/allfiles;
-Schemes=file;
 Exec={exec} {options}-ifile %F
 )";
 
