@@ -27,16 +27,16 @@ with open({log!r}, "a") as log:
 """
 
 # The command that shows a folder, and how the entry is taken: by the menus on the way to it, or by keys in the
-# menu (GTK 2 tells the accessibility bus nothing, and GTK 4 nothing of where its menus are).
+# menu (GTK 2, GTK 4 and Qt don't show this menu on the accessibility bus).
 MENUS, KEYS = range(2)
 MANAGERS = {
     "nautilus": (["nautilus", "--new-window"], KEYS, ["s", "Down", "Down", "Return"]),
     "caja": (["caja", "--no-desktop", "--browser"], MENUS, ["Scripts", ENTRY]),
     "nemo": (["nemo", "--no-desktop"], MENUS, [ENTRY]),
     "thunar": (["thunar"], MENUS, [ENTRY]),
-    "dolphin": (["dolphin"], MENUS, ["Quillet", ENTRY]),
+    "dolphin": (["dolphin"], KEYS, ["Up", "Up", "Right", "Down", "Return"]),
     "pcmanfm": (["pcmanfm"], KEYS, ["Up", "Up", "Up", "Return"]),
-    "pcmanfm-qt": (["pcmanfm-qt"], MENUS, [ENTRY]),
+    "pcmanfm-qt": (["pcmanfm-qt"], KEYS, ["Up", "Up", "Up", "Up", "Return"]),
 }
 
 
@@ -96,6 +96,7 @@ class Session:
 
     def __init__(self, name, folder):
         command, self.way, self.steps = MANAGERS[name]
+        self.menu_key = "Menu" if name in ("dolphin", "pcmanfm-qt") else "shift+F10"  # Qt knows the first, GTK both
         self.process = subprocess.Popen([*command, folder], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.window = (eventually(lambda: xdotool("search", "--onlyvisible", "--class", name)) or [None])[-1]
 
@@ -124,12 +125,12 @@ class Session:
                 xdotool("mousemove", str(x), str(y), "click", "1")
             xdotool("key", "ctrl+a")
             time.sleep(0.7)
-            xdotool("key", "shift+F10")
+            xdotool("key", self.menu_key)
             if self.way == KEYS:
                 time.sleep(0.7)
                 for step in self.steps:
                     xdotool("key", step)
-                    time.sleep(0.5)
+                    time.sleep(0.4)
                 return ""
             for step in self.steps:
                 item = eventually(lambda: find_item(step), 3)
