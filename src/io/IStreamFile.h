@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/IStreamBytes.h"
+#include "io/IRewindableBytes.h"
 #include "lib/platform/File.h"
 #include "lib/sync/Locker.h"
 
@@ -11,7 +11,7 @@ namespace tessaly::io {
 /// A regular file to read. Its lock guards every member and is held only to copy; system calls run
 /// outside it.
 template <class Char>
-class IStreamFile final : public IStreamBytes
+class IStreamFile final : public IRewindableBytes
 {
 public:
     /// (5, 5) for an empty path, (5, 7) when already open, (5, 42) for what is no regular file, (5, 43)
@@ -26,8 +26,8 @@ public:
     std::int64_t size() const override;
     ResultCode lastError() const override;
 
-    /// Reads from the start once more, up to the size that was found at opening.
-    ResultCode rewind();
+    /// Up to the size that was found at opening.
+    ResultCode rewind() override;
 
     /// The file as it was at opening.
     platform::FileStatus status() const;

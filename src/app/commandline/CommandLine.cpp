@@ -77,8 +77,11 @@ CommandLine parseCommandLine(const QStringList& arguments, SlashRule rule,
     }
     for (int i = 0; i < arguments.size(); ++i) {
         const Option* option = findOption(arguments[i]);
-        if (option == nullptr)
+        if (option == nullptr) {
+            if (!isOptionWord(arguments[i], rule))
+                line.words += arguments[i];
             continue;
+        }
         if (!option->takesValue)
             option->apply(line, {});
         else if (i + 1 < arguments.size() && !isOptionWord(arguments[i + 1], rule))

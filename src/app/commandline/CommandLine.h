@@ -21,6 +21,9 @@ struct CommandLine
     std::optional<QString> output;
     QString algorithm;
     QString library;
+    /// The words that are neither options nor their values. Where they name files, these are inputs, too:
+    /// a file manager hands over all selected ones as plain arguments.
+    QStringList words = {};
 };
 
 /// Which arguments the sign "/" makes an option.

@@ -104,6 +104,7 @@ void CFileJob::finish()
 void CFileJob::clear()
 {
     m_engines.set({});
+    m_data.with([](SEncryptData& data) { data.outcome.root = {}; });
 }
 
 ResultCode CFileJob::startInputRemoval()

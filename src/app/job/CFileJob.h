@@ -61,6 +61,7 @@ public:
     void stop();
     /// To be called on the signal of the end, which is the worker's last act.
     void finish();
+    /// Lets go of the engines, and of the secret in the outcome.
     void clear();
 
     /// Deletes the input of the finished job if that is safe; ends with notifyInputRemovalFinished.

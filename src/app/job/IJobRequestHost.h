@@ -7,6 +7,7 @@
 #include "lib/secret/Secret.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <filesystem>
@@ -19,6 +20,7 @@ struct PasswordEntry
 {
     Operation operation = Operation::Encrypt;
     AlgSelection selection;
+    QStringList names; ///< of the files it is for
     bool seal = false;
     bool useSalt = false;
     bool rewriteOutput = false;
@@ -34,6 +36,7 @@ struct KeyEntry
 {
     Operation operation = Operation::Encrypt;
     AlgSelection selection;
+    QStringList names; ///< of the files it is for
     std::uint32_t keyLength = 0;
     std::uint32_t ivLength = 0;
     bool seal = false;
@@ -46,6 +49,9 @@ struct KeyEntry
     tessaly::SecretText typedIv;
     bool switchToNormal = false;
 };
+
+/// What becomes of files that are to be encrypted, and seem to be so already.
+enum class OnEncrypted { Cancel, LeaveOut, Encrypt };
 
 /// The window as a request sees it: its fields, its dialogs and its job.
 class IJobRequestHost
@@ -70,6 +76,8 @@ public:
     /// Both give an empty text when the user cancels.
     virtual QString chooseInput(const QString& title) = 0;
     virtual QString chooseOutput(const QString& title) = 0;
+    /// That many of the files, all of them when there is but one. A single one is never left out.
+    virtual OnEncrypted askAboutEncrypted(int encrypted, int all) = 0;
     /// Both are false when the user cancels; a switch to the other dialog counts as an answer.
     virtual bool enterPassword(PasswordEntry& entry) = 0;
     virtual bool enterKeyAndIv(KeyEntry& entry) = 0;

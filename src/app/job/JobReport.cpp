@@ -6,10 +6,12 @@
 #include "common/errors/ErrorText.h"
 #include "common/errors/JobStepText.h"
 #include "common/path/PathText.h"
+#include "crypto/catalogue/Catalogue.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/logger/Log.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 namespace thisapp {
 
@@ -77,6 +79,8 @@ void adviseOnInput(const SEncryptData& data, IMessageAreas& areas)
 {
     const ResultCode failure = data.outcome.result.first();
     const bool passwordMode = data.request.passwordMode;
+    if (data.outcome.fittingAlgorithm)
+        return; // that will be offered
     if (data.operation == Operation::Decrypt && !advice(failure, passwordMode).isEmpty())
         areas.showMessage(Area::Input, {MessageKind::Plain,
                                         [failure, passwordMode] { return advice(failure, passwordMode); },
@@ -95,7 +99,7 @@ void reportFailedStart(const SEncryptData& data, ResultCode reason, IMessageArea
                                      filesOf(data)});
 }
 
-void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
+void reportOutcome(const SEncryptData& data, IMessageAreas& areas, std::function<void()> openFolder)
 {
     const OperationTexts& texts = operationTexts(data.operation);
     const crypto::FileJobOutcome& outcome = data.outcome;
@@ -111,9 +115,11 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
                                              return successText(texts, operation, sealed);
                                          },
                                          {},
-                                         filesOf(data)});
+                                         filesOf(data),
+                                         openFolderText,
+                                         std::move(openFolder)});
     } else {
-        logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
+        logFailure(data);
         reportRemovedOutput(data, areas);
         areas.showMessage(Area::Result, {MessageKind::Error,
                                          [&texts, result = outcome.result] {
@@ -125,22 +131,53 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas)
     }
 }
 
+QString openFolderText()
+{
+    return Text::tr("Open folder");
+}
+
+QString algorithmName(std::uint32_t id)
+{
+    return QString::fromLatin1(crypto::displayName(id).data());
+}
+
+QString fittingAlgorithmText(std::uint32_t id)
+{
+    return Text::tr("This file was encrypted with %1.").arg(algorithmName(id));
+}
+
+QString failureText(const SEncryptData& data)
+{
+    const QString hint = data.outcome.fittingAlgorithm ? fittingAlgorithmText(*data.outcome.fittingAlgorithm)
+                         : data.operation == Operation::Decrypt
+                             ? advice(data.outcome.result.first(), data.request.passwordMode)
+                             : QString();
+    QStringList sentences{errorText(data.outcome.result) + QLatin1Char('.'), hint,
+                          data.outcome.outputDeleted ? Text::tr("Output file has been deleted.") : QString()};
+    sentences.removeAll(QString());
+    return sentences.join(QLatin1Char(' '));
+}
+
+void logFailure(const SEncryptData& data)
+{
+    logger::log(logger::Error, LogSource) << "Failed to encrypt/decrypt. Error: " << data.errorText;
+}
+
+QString removalText(const InputRemoval& removal)
+{
+    if (removal.kept)
+        return keptText(*removal.kept);
+    if (!removal.error.ok())
+        return Text::tr("The input file could not be deleted.") + ' ' + errorText(removal.error);
+    return Text::tr("Input file has been deleted after the successfully encryption "
+                    "according to your options");
+}
+
 void reportInputRemoval(const InputRemoval& removal, const SEncryptData& data, IMessageAreas& areas)
 {
-    Message message{MessageKind::Warning, {}};
-    if (removal.kept)
-        message.text = [reason = *removal.kept] { return keptText(reason); };
-    else if (!removal.error.ok())
-        message.text = [error = removal.error] {
-            return Text::tr("The input file could not be deleted.") + ' ' + errorText(error);
-        };
-    else
-        message = {MessageKind::Success, [] {
-                       return Text::tr("Input file has been deleted after the successfully encryption "
-                                       "according to your options");
-                   }};
-    message.file = pathText(data.request.input);
-    areas.showMessage(Area::Input, std::move(message));
+    areas.showMessage(Area::Input,
+                      {removal.removed() ? MessageKind::Success : MessageKind::Warning,
+                       [removal] { return removalText(removal); }, pathText(data.request.input)});
 }
 
 } // namespace thisapp

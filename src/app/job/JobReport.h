@@ -2,6 +2,11 @@
 
 #include "lib/err/ResultCode.h"
 
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+
 namespace thisapp {
 
 class IMessageAreas;
@@ -12,8 +17,26 @@ struct SEncryptData;
 void reportFailedStart(const SEncryptData& data, tessaly::ResultCode reason, IMessageAreas& areas);
 
 /// Logs how a job ended and tells the user, with the names of its own files: the fields may hold others
-/// by now.
-void reportOutcome(const SEncryptData& data, IMessageAreas& areas);
+/// by now. `openFolder` shows where a new output stands.
+void reportOutcome(const SEncryptData& data, IMessageAreas& areas, std::function<void()> openFolder);
+
+/// The link that does so.
+QString openFolderText();
+
+/// As the user knows it.
+QString algorithmName(std::uint32_t id);
+
+/// That a file was encrypted with it.
+QString fittingAlgorithmText(std::uint32_t id);
+
+/// The error of a failed job, with advice where there is some and what became of a former output.
+QString failureText(const SEncryptData& data);
+
+/// Logs it.
+void logFailure(const SEncryptData& data);
+
+/// What became of an input file after its encryption, in a sentence.
+QString removalText(const InputRemoval& removal);
 
 /// Tells the user what became of that job's input file after its encryption.
 void reportInputRemoval(const InputRemoval& removal, const SEncryptData& data, IMessageAreas& areas);

@@ -1,5 +1,6 @@
 #include "app/job/JobRequest.h"
 
+#include "common/naming/OutputNaming.h"
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "common/settings/SettingsKeys.h"
@@ -7,6 +8,7 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <utility>
 
 namespace thisapp {
@@ -23,7 +25,25 @@ const JobRequest::Step JobRequest::Steps[] = {
     &JobRequest::outputDiffersFromInput,
     &JobRequest::sizesAreKnown,
     &JobRequest::settingsAreRead,
+    &JobRequest::encryptionIsMeant,
     &JobRequest::secretIsEntered,
+    &JobRequest::ivFits,
+    &JobRequest::keyFits,
+    &JobRequest::engineIsReady,
+    &JobRequest::filesAreAsBefore,
+    &JobRequest::outputMayBeWritten,
+};
+
+const JobRequest::Step JobRequest::ListSteps[] = {
+    &JobRequest::noJobRuns,       &JobRequest::libraryIsChosen, &JobRequest::algorithmIsChosen,
+    &JobRequest::sizesAreKnown,   &JobRequest::settingsAreRead, &JobRequest::encryptionIsMeant,
+    &JobRequest::secretIsEntered, &JobRequest::ivFits,          &JobRequest::keyFits,
+    &JobRequest::engineIsReady,
+};
+
+const JobRequest::Step JobRequest::AgainSteps[] = {
+    &JobRequest::noJobRuns,
+    &JobRequest::sizesAreKnown,
     &JobRequest::ivFits,
     &JobRequest::keyFits,
     &JobRequest::engineIsReady,
@@ -39,7 +59,25 @@ JobRequest::JobRequest(Operation operation, IJobRequestHost& host, IMessageAreas
 
 std::optional<SEncryptData> JobRequest::run()
 {
-    for (const Step step : Steps) {
+    return run(Steps);
+}
+
+std::optional<SEncryptData> JobRequest::runForList(const QStringList& names)
+{
+    m_names = names;
+    return run(ListSteps);
+}
+
+std::optional<SEncryptData> JobRequest::runAgain(SEncryptData request)
+{
+    m_data = std::move(request);
+    m_data.request.existing = crypto::ExistingOutput::Keep;
+    return run(AgainSteps);
+}
+
+std::optional<SEncryptData> JobRequest::run(std::span<const Step> steps)
+{
+    for (const Step step : steps) {
         if (Verdict refused = (this->*step)()) {
             m_areas.showMessage(refused->area, {MessageKind::Error, std::move(refused->text)});
             return std::nullopt;
@@ -109,20 +147,13 @@ JobRequest::Verdict JobRequest::inputIsFound()
 {
     if (Verdict refused = look(Area::Input))
         return refused;
+    m_names = QStringList(pathText(m_data.request.input.filename()));
     return inputCanBeRead(Area::Input);
 }
 
 JobRequest::Verdict JobRequest::inputCanBeRead(Area area) const
 {
-    switch (m_facts.inputCheck) {
-    case io::InputCheck::Usable:
-        break;
-    case io::InputCheck::NotFound:
-        return refusal(area, m_texts.fileNotFound);
-    case io::InputCheck::NotRegular:
-        return Refusal{area, [] { return tr("The input is not a regular file."); }};
-    }
-    return {};
+    return verdict(area, inputRefusal(m_data.operation, m_facts));
 }
 
 JobRequest::Verdict JobRequest::outputIsDefined()
@@ -151,21 +182,7 @@ JobRequest::Verdict JobRequest::outputDiffersFromInput()
 
 JobRequest::Verdict JobRequest::outputCanBeMade() const
 {
-    switch (m_facts.outputCheck) {
-    case io::OutputCheck::Free:
-    case io::OutputCheck::Exists:
-        break;
-    case io::OutputCheck::NoFolder:
-        return Refusal{Area::Result, [folder = pathText(m_data.request.output.parent_path())] {
-                           return tr("The output folder is not found: %1").arg(folder);
-                       }};
-    case io::OutputCheck::MatchesInput:
-        return Refusal{Area::Result,
-                       [] { return tr("Output file name matches the name of the input file"); }};
-    case io::OutputCheck::NotRegular:
-        return Refusal{Area::Result, [] { return tr("The output is not a regular file."); }};
-    }
-    return {};
+    return verdict(Area::Result, outputRefusal(m_facts, m_data.request.output));
 }
 
 JobRequest::Verdict JobRequest::sizesAreKnown()
@@ -190,9 +207,25 @@ JobRequest::Verdict JobRequest::settingsAreRead()
     return {};
 }
 
+/// A file that is encrypted twice must be decrypted twice, so nobody gets there by accident.
+JobRequest::Verdict JobRequest::encryptionIsMeant()
+{
+    if (m_data.operation != Operation::Encrypt)
+        return {};
+    const NamingSettings naming = readNamingSettings(CAppSettings());
+    const auto encrypted = std::ranges::count_if(m_names, [&naming](const QString& name) {
+        return namingDirection(name, naming) == NamingDirection::Decryption;
+    });
+    if (encrypted == 0)
+        return {};
+    m_onEncrypted = m_host.askAboutEncrypted(static_cast<int>(encrypted), m_names.size());
+    return m_onEncrypted == OnEncrypted::Cancel ? Verdict(Refusal{Area::Result, {}}) : Verdict();
+}
+
 JobRequest::Verdict JobRequest::secretIsEntered()
 {
     KeyEntry keyEntry;
+    keyEntry.names = m_question.names = m_names;
     keyEntry.operation = m_data.operation;
     keyEntry.selection = m_data.selection;
     keyEntry.keyLength = m_sizes.keyLength;
@@ -264,14 +297,16 @@ JobRequest::Verdict JobRequest::filesAreAsBefore()
 /// An existing output is only marked here; the worker removes it, as that may take its time.
 JobRequest::Verdict JobRequest::outputMayBeWritten()
 {
-    if (m_facts.outputCheck == io::OutputCheck::Free)
-        return {};
-    if (!m_data.rewriteOutput)
-        return Refusal{Area::Result, [] {
-                           return tr("Output file already exists! A 'not rewrite' option has been selected.");
-                       }};
-    m_data.request.existing = crypto::ExistingOutput::RemoveFirst;
+    if (Verdict refused = verdict(Area::Result, existingRefusal(m_facts, m_data.rewriteOutput)))
+        return refused;
+    if (m_facts.outputCheck == io::OutputCheck::Exists)
+        m_data.request.existing = crypto::ExistingOutput::RemoveFirst;
     return {};
+}
+
+JobRequest::Verdict JobRequest::verdict(Area area, RefusalText text)
+{
+    return text ? Verdict(Refusal{area, std::move(text)}) : std::nullopt;
 }
 
 JobRequest::Refusal JobRequest::refusal(Area area, const char* operationText) const

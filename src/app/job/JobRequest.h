@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/job/FileRefusal.h"
 #include "app/job/IJobRequestHost.h"
 #include "app/job/Message.h"
 #include "app/job/SEncryptData.h"
@@ -7,10 +8,12 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 
 namespace thisapp {
 
@@ -25,6 +28,13 @@ public:
     /// Makes all the checks and asks all the questions in their order. The first check that fails shows
     /// its message, and nothing is given; nothing on the disk is changed in either case.
     std::optional<SEncryptData> run();
+    /// The same for the files of a list, of which the names are given: all but what concerns one file
+    /// and its output, which each of them is asked about in its turn.
+    std::optional<SEncryptData> runForList(const QStringList& names);
+    /// Once more with the secret of an earlier request, for another algorithm.
+    std::optional<SEncryptData> runAgain(SEncryptData request);
+    /// The answer about files that seem to be encrypted already, where there are some.
+    OnEncrypted onEncrypted() const { return m_onEncrypted; }
     /// In bytes, once the request has been made.
     std::int64_t inputSize() const { return m_facts.inputSize; }
 
@@ -32,11 +42,15 @@ private:
     struct Refusal
     {
         Area area;
-        std::function<QString()> text;
+        RefusalText text;
     };
     using Verdict = std::optional<Refusal>;
     using Step = Verdict (JobRequest::*)();
     static const Step Steps[];
+    static const Step ListSteps[];
+    static const Step AgainSteps[];
+
+    std::optional<SEncryptData> run(std::span<const Step> steps);
 
     static Refusal noAnswer(Area area);
     /// Settles which file a field's text means, for the area that a missing answer is told in.
@@ -54,6 +68,7 @@ private:
     Verdict outputCanBeMade() const;
     Verdict sizesAreKnown();
     Verdict settingsAreRead();
+    Verdict encryptionIsMeant();
     Verdict secretIsEntered();
     Verdict ivFits();
     Verdict keyFits();
@@ -61,6 +76,7 @@ private:
     Verdict filesAreAsBefore();
     Verdict outputMayBeWritten();
 
+    static Verdict verdict(Area area, RefusalText text);
     Refusal refusal(Area area, const char* operationText) const;
     static Refusal passwordNotDefined();
 
@@ -68,6 +84,8 @@ private:
     IJobRequestHost& m_host;
     IMessageAreas& m_areas;
     SEncryptData m_data;
+    QStringList m_names;
+    OnEncrypted m_onEncrypted = OnEncrypted::Encrypt;
     RequestFacts m_facts;
     PasswordEntry m_question;
     tessaly::crypto::AlgRecord m_sizes;

@@ -19,6 +19,9 @@ struct Message
     QString file = {};
     /// Says more, with names of files in it; instead of the bare file, and wherever the message stands.
     std::function<QString()> detail = {};
+    /// What the user can do about it, as a link, and what that runs. None without a text.
+    std::function<QString()> link = {};
+    std::function<void()> follow = {};
 
     bool isEmpty() const { return !text; }
     QString now() const { return text ? text() : QString(); }

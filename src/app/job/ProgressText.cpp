@@ -13,6 +13,9 @@ namespace thisapp {
 
 namespace {
 
+/// What is measured over less than a second says little, and is told as if it said much.
+constexpr std::int64_t LeastMsForSpeed = 1000;
+
 struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(Progress)
@@ -32,7 +35,8 @@ QString stepText(Operation operation, JobPhase phase, const ProgressTracker& pro
     if (phase == JobPhase::Flushing)
         return Text::tr("Waiting until the disk has stored the file");
     const QString step = translated(operationTexts(operation).step);
-    const auto speed = progress.bytesPerSecond();
+    const auto speed =
+        progress.elapsedMs() >= LeastMsForSpeed ? progress.bytesPerSecond() : std::optional<double>();
     //: %1 is "Encrypting" or "Decrypting", %2 a speed
     return speed ? Text::tr("%1 at %2").arg(step, speedText(*speed)) : step;
 }
@@ -73,11 +77,13 @@ QString remainingTimeText(std::int64_t seconds)
 
 QString summaryText(std::int64_t bytes, std::int64_t elapsedMs)
 {
-    const double seconds = static_cast<double>(std::max<std::int64_t>(elapsedMs, 1)) / 1000.0;
-    const int decimals = seconds < 1 ? 3 : seconds < 10 ? 1 : 0;
+    const double seconds = static_cast<double>(elapsedMs) / 1000.0;
+    const QString size = QLocale().formattedDataSize(bytes, 1);
+    if (elapsedMs < LeastMsForSpeed)
+        return Text::tr("%1 in less than a second").arg(size);
     //: %1 is a size, %2 a number of seconds, %3 a speed
     return Text::tr("%1 in %2 seconds, %3")
-        .arg(QLocale().formattedDataSize(bytes, 1), QLocale().toString(seconds, 'f', decimals),
+        .arg(size, QLocale().toString(seconds, 'f', seconds < 10 ? 1 : 0),
              speedText(static_cast<double>(bytes) / seconds));
 }
 

@@ -29,7 +29,7 @@ QString startText();
 /// "Remaining time: ..." in the largest unit that it needs.
 QString remainingTimeText(std::int64_t seconds);
 
-/// How much was done in which time, for a job that is complete.
+/// How much was done in which time, for a job that is complete; how fast, unless it took too short for that.
 QString summaryText(std::int64_t bytes, std::int64_t elapsedMs);
 
 } // namespace thisapp

@@ -28,6 +28,7 @@ void ProgressTracker::update(std::int64_t processed, std::int64_t nowMs)
             ? static_cast<float>(100.0 * static_cast<double>(m_processed) / static_cast<double>(m_total))
             : 0.0F;
 
+    m_sampleProcessed = std::min(m_sampleProcessed, m_processed); // a file that failed counts no longer
     const std::int64_t bytes = m_processed - m_sampleProcessed;
     const double seconds = static_cast<double>(nowMs - m_sampleMs) / 1000.0;
     if (bytes < Step || seconds <= 0)

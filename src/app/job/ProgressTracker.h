@@ -16,6 +16,8 @@ public:
     /// A job over `total` bytes starts at `nowMs` on any monotonic clock.
     void reset(std::int64_t total, std::int64_t nowMs);
     void reset() { reset(0, 0); }
+    /// More or less is to be done than was thought.
+    void setTotal(std::int64_t total) { m_total = total; }
     void update(std::int64_t processed, std::int64_t nowMs);
 
     float percent() const { return m_percent; }

@@ -5,12 +5,12 @@
 
 #include <QEvent>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
 
 CDropHint::CDropHint(QWidget* parent)
-    : QFrame(parent), m_icon(new QLabel), m_headline(new CElidedLabel), m_detail(new QLabel)
+    : QPushButton(parent), m_icon(new QLabel), m_headline(new CElidedLabel), m_detail(new QLabel)
 {
     auto* layout = new QVBoxLayout(this);
     const int margin = fontMetrics().height();
@@ -29,6 +29,7 @@ CDropHint::CDropHint(QWidget* parent)
     m_detail->setWordWrap(true);
     m_icon->setMinimumHeight(iconSize());
     setCursor(Qt::PointingHandCursor);
+    setAutoDefault(true); // Enter presses it, too
 }
 
 void CDropHint::setContent(const QString& glyph, const QString& headline, const QString& detail)
@@ -36,6 +37,8 @@ void CDropHint::setContent(const QString& glyph, const QString& headline, const 
     m_glyph = glyph;
     m_headline->setWholeText(headline);
     m_detail->setText(detail);
+    setAccessibleName(headline);
+    setAccessibleDescription(detail);
     refresh();
 }
 
@@ -46,9 +49,8 @@ void CDropHint::setHighlighted(bool highlighted)
     update();
 }
 
-void CDropHint::paintEvent(QPaintEvent* event)
+void CDropHint::paintEvent(QPaintEvent*)
 {
-    QFrame::paintEvent(event);
     const qreal width = qMax(1.0, fontMetrics().height() / 12.0);
     QPen pen(accent(), width, Qt::DashLine, Qt::RoundCap);
     QColor fill = palette().color(m_highlighted ? QPalette::Highlight : QPalette::Base);
@@ -61,17 +63,28 @@ void CDropHint::paintEvent(QPaintEvent* event)
     painter.setBrush(fill);
     const qreal radius = fontMetrics().height() / 2.0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(width, width, -width, -width), radius, radius);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    const int inset = static_cast<int>(3 * width);
+    option.rect = rect().adjusted(inset, inset, -inset, -inset);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
-void CDropHint::mouseReleaseEvent(QMouseEvent* event)
+QSize CDropHint::sizeHint() const
 {
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-        emit notifyClicked();
+    return layout()->sizeHint();
+}
+
+QSize CDropHint::minimumSizeHint() const
+{
+    return layout()->minimumSize();
 }
 
 void CDropHint::changeEvent(QEvent* event)
 {
-    QFrame::changeEvent(event);
+    QPushButton::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange)
         refresh();
 }

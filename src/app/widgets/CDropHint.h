@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QFrame>
+#include <QPushButton>
 
 class CElidedLabel;
 class QLabel;
 
-/// Shows where to drop a file, and afterwards which file is at hand. A click asks for one.
-class CDropHint : public QFrame
+/// Shows where to drop a file, and afterwards which file is at hand. Pressing it asks for one.
+class CDropHint : public QPushButton
 {
     Q_OBJECT
 
@@ -18,12 +18,11 @@ public:
     /// Files hover over it.
     void setHighlighted(bool highlighted);
 
-signals:
-    void notifyClicked();
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

@@ -2,6 +2,8 @@
 
 #include "app/widgets/CElidedLabel.h"
 #include "app/widgets/SymbolicIcon.h"
+#include "ui/style/Announcement.h"
+#include "ui/style/CLinkLabel.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -30,7 +32,11 @@ const char* glyphName(MessageKind kind)
 } // namespace
 
 CMessageLine::CMessageLine(QWidget* parent)
-    : QFrame(parent), m_glyph(new QLabel), m_text(new QLabel), m_detail(new CElidedLabel)
+    : QFrame(parent),
+      m_glyph(new QLabel),
+      m_text(new QLabel),
+      m_detail(new CElidedLabel),
+      m_link(new CLinkLabel)
 {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
@@ -40,6 +46,8 @@ CMessageLine::CMessageLine(QWidget* parent)
     texts->addWidget(m_text);
     texts->addWidget(m_detail);
     layout->addLayout(texts, 1);
+    layout->addWidget(m_link, 0, Qt::AlignTop);
+    connect(m_link, &QLabel::linkActivated, this, &CMessageLine::onUiFollow);
 
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
@@ -51,6 +59,8 @@ void CMessageLine::setMessage(thisapp::Message message)
 {
     m_message = std::move(message);
     refresh();
+    if (m_isAnnounced)
+        thisapp::announce(this, detail().isEmpty() ? text() : text() + QStringLiteral(". ") + detail());
 }
 
 void CMessageLine::setFieldText(const QString& text)
@@ -72,6 +82,13 @@ QString CMessageLine::text() const
     return m_text->text();
 }
 
+void CMessageLine::onUiFollow()
+{
+    const auto follow = m_message.follow; // which may bring another message
+    if (follow)
+        follow();
+}
+
 void CMessageLine::changeEvent(QEvent* event)
 {
     QFrame::changeEvent(event);
@@ -91,6 +108,8 @@ void CMessageLine::refresh()
     setMinimumHeight(fontMetrics().height());
     m_detail->setWholeText(detail());
     m_detail->setVisible(!detail().isEmpty());
+    m_link->setVisible(static_cast<bool>(m_message.link));
+    m_link->setLinkText(m_message.link ? m_message.link() : QString());
 
     const char* glyph = m_message.isEmpty() ? nullptr : glyphName(m_message.kind);
     m_glyph->setVisible(glyph != nullptr);

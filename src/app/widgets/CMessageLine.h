@@ -5,6 +5,7 @@
 #include <QFrame>
 
 class CElidedLabel;
+class CLinkLabel;
 class QLabel;
 
 /// Shows a message with a glyph and in the colour of its kind. It always has room for one line, so that
@@ -16,6 +17,8 @@ class CMessageLine : public QFrame
 public:
     explicit CMessageLine(QWidget* parent = nullptr);
 
+    /// New messages are spoken by a screen reader. Off at first.
+    void setAnnounced(bool announced) { m_isAnnounced = announced; }
     void setMessage(thisapp::Message message);
     /// What the field holds that the line stands beside: a message about that file needn't name it.
     void setFieldText(const QString& text);
@@ -28,12 +31,17 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
 
+private slots:
+    void onUiFollow();
+
 private:
     void refresh();
 
     QLabel* m_glyph;
     QLabel* m_text;
     CElidedLabel* m_detail;
+    CLinkLabel* m_link;
     QString m_fieldText;
     thisapp::Message m_message;
+    bool m_isAnnounced = false;
 };

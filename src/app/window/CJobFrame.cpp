@@ -1,19 +1,24 @@
 #include "app/window/CJobFrame.h"
 
+#include "app/queue/CQueueList.h"
 #include "app/widgets/CDropHint.h"
 #include "app/widgets/CLineEditForFile.h"
 #include "app/widgets/CMessageLine.h"
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/widgets/SymbolicIcon.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/style/ThemeChange.h"
 
 #include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -21,8 +26,11 @@
 
 using namespace thisapp;
 
-CJobFrame::CJobFrame(QWidget* parent)
+CJobFrame::CJobFrame(const FileQueue& queue, QWidget* parent)
     : CDragDropFrame(parent),
+      m_subject(new QStackedWidget),
+      m_queueList(new CQueueList(queue)),
+      m_queueMessage(new CMessageLine),
       m_hint(new CDropHint),
       m_inputLabel(new QLabel),
       m_input(new CLineEditForFile),
@@ -40,8 +48,8 @@ CJobFrame::CJobFrame(QWidget* parent)
       m_result(new CMessageLine)
 {
     auto* column = new QVBoxLayout;
-    column->addWidget(m_hint, 1);
-    column->addLayout(makeRows());
+    column->setSpacing(fontMetrics().height() * 2 / 3);
+    column->addWidget(makeSubject());
     column->addWidget(m_algFrame);
     column->addLayout(makeButtons());
     column->addWidget(m_progress);
@@ -57,24 +65,60 @@ CJobFrame::CJobFrame(QWidget* parent)
     m_encrypt->setObjectName(QStringLiteral("buttonEncrypt"));
     m_decrypt->setObjectName(QStringLiteral("buttonDecrypt"));
     m_stop->setObjectName(QStringLiteral("buttonStop"));
+    for (CMessageLine* line : {m_inputMessage, m_outputMessage, m_result, m_queueMessage})
+        line->setAnnounced(true);
     connectWidgets();
     setRunning(false, false);
     retranslate();
+    setDirection(NamingDirection::Encryption);
+    onThemeChange(*this, [this] { keepNamesLegible(); });
+    keepNamesLegible();
+    m_input->setFocus();
 }
 
 /// In a very large window the column stays in reach of the eye: its width and the hint's height are
-/// limited.
+/// limited. In a very small one it scrolls.
 void CJobFrame::showColumn(QVBoxLayout* column)
 {
     auto* content = new QWidget;
     content->setLayout(column);
     column->setContentsMargins({});
     content->setMaximumWidth(130 * fontMetrics().averageCharWidth());
-    m_hint->setMaximumHeight(18 * fontMetrics().height());
-    auto* layout = new QHBoxLayout(this);
-    layout->addStretch();
-    layout->addWidget(content, 1);
-    layout->addStretch();
+    auto* page = new QWidget;
+    auto* centred = new QHBoxLayout(page);
+    centred->addStretch();
+    centred->addWidget(content, 1);
+    centred->addStretch();
+    auto* area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(area);
+}
+
+/// What the job is about: one file with its fields, or the list.
+QWidget* CJobFrame::makeSubject()
+{
+    const auto addPage = [this](QVBoxLayout* layout) {
+        auto* page = new QWidget;
+        page->setLayout(layout);
+        layout->setContentsMargins({});
+        m_subject->addWidget(page);
+    };
+    auto* file = new QVBoxLayout;
+    file->setSpacing(fontMetrics().height() * 2 / 3);
+    file->addWidget(m_hint);
+    file->addLayout(makeRows());
+    file->addStretch();
+    addPage(file);
+    auto* list = new QVBoxLayout;
+    list->addWidget(m_queueList, 1);
+    list->addWidget(m_queueMessage);
+    addPage(list);
+    return m_subject;
 }
 
 QLayout* CJobFrame::makeRows()
@@ -121,12 +165,14 @@ void CJobFrame::connectWidgets()
     connect(m_input, &QLineEdit::textChanged, m_inputMessage, &CMessageLine::setFieldText);
     connect(m_output, &QLineEdit::textChanged, m_outputMessage, &CMessageLine::setFieldText);
     connect(m_browseInput, &QToolButton::clicked, this, &CJobFrame::notifyAddFile);
-    connect(m_hint, &CDropHint::notifyClicked, this, &CJobFrame::notifyAddFile);
+    connect(m_hint, &CDropHint::clicked, this, &CJobFrame::notifyAddFile);
+    connect(m_queueList, &CQueueList::notifyAdd, this, &CJobFrame::notifyAddFile);
     connect(m_browseOutput, &QToolButton::clicked, this, &CJobFrame::notifyBrowseOutput);
     connect(m_encrypt, &QPushButton::clicked, this, &CJobFrame::notifyEncrypt);
     connect(m_decrypt, &QPushButton::clicked, this, &CJobFrame::notifyDecrypt);
     connect(m_stop, &QPushButton::clicked, this, &CJobFrame::notifyStop);
     connect(this, &CDragDropFrame::notifyDragOver, m_hint, &CDropHint::setHighlighted);
+    connect(this, &CDragDropFrame::notifyDragOver, m_queueList, &CQueueList::setHighlighted);
 }
 
 QString CJobFrame::inputText() const
@@ -168,6 +214,22 @@ void CJobFrame::showNoFile()
     showFile({}, 0);
 }
 
+void CJobFrame::showQueue(bool shown)
+{
+    m_subject->setCurrentIndex(shown ? 1 : 0);
+}
+
+bool CJobFrame::isQueueShown() const
+{
+    return m_subject->currentIndex() == 1;
+}
+
+void CJobFrame::setDirection(NamingDirection direction)
+{
+    m_encrypt->setDefault(direction == NamingDirection::Encryption);
+    m_decrypt->setDefault(direction == NamingDirection::Decryption);
+}
+
 void CJobFrame::setRunning(bool running, bool stoppable)
 {
     const std::initializer_list<QWidget*> idleWidgets = {
@@ -175,6 +237,7 @@ void CJobFrame::setRunning(bool running, bool stoppable)
         m_output, m_browseOutput, m_algFrame, m_encrypt,     m_decrypt};
     for (QWidget* widget : idleWidgets)
         widget->setEnabled(!running);
+    m_queueList->setRunning(running);
     m_stop->setEnabled(stoppable);
     setAcceptDrops(!running);
 }
@@ -186,7 +249,7 @@ void CJobFrame::showMessage(Area area, Message message)
         m_progress->setNotice(std::move(message));
         break;
     case Area::Input:
-        m_inputMessage->setMessage(std::move(message));
+        (isQueueShown() ? m_queueMessage : m_inputMessage)->setMessage(std::move(message));
         break;
     case Area::Output:
         m_outputMessage->setMessage(std::move(message));
@@ -199,7 +262,7 @@ void CJobFrame::showMessage(Area area, Message message)
 
 void CJobFrame::clearMessages()
 {
-    for (CMessageLine* line : {m_inputMessage, m_outputMessage, m_result})
+    for (CMessageLine* line : {m_inputMessage, m_outputMessage, m_result, m_queueMessage})
         line->clear();
 }
 
@@ -214,7 +277,41 @@ bool CJobFrame::event(QEvent* event)
     // By now the children have their new texts, too.
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    if (event->type() == QEvent::FontChange)
+        m_heightBesideHint = 0;
     return handled;
+}
+
+void CJobFrame::resizeEvent(QResizeEvent* event)
+{
+    CDragDropFrame::resizeEvent(event);
+    fitHint();
+}
+
+/// The hint's height depends on that of the window alone, not on what there is to say: whoever aims at it
+/// finds it where it was.
+void CJobFrame::fitHint()
+{
+    const int line = fontMetrics().height();
+    if (m_heightBesideHint == 0) {
+        m_hint->setFixedHeight(0);
+        const QWidget* page = m_subject->parentWidget()->parentWidget();
+        m_heightBesideHint = page->sizeHint().height() + 2 * line;
+    }
+    m_hint->setFixedHeight(
+        std::clamp(height() - m_heightBesideHint, m_hint->minimumSizeHint().height(), 18 * line));
+}
+
+/// While a job is running, too.
+void CJobFrame::keepNamesLegible()
+{
+    const std::initializer_list<QWidget*> widgets = {m_hint, m_input, m_output};
+    for (QWidget* widget : widgets) {
+        QPalette palette = QGuiApplication::palette();
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
+        widget->setPalette(palette);
+    }
 }
 
 void CJobFrame::retranslate()
@@ -230,6 +327,13 @@ void CJobFrame::retranslate()
     m_encrypt->setText(tr("Encrypt"));
     m_decrypt->setText(tr("Decrypt"));
     m_stop->setText(tr("Stop"));
+    const auto describe = [](QPushButton* button, const QString& text) {
+        button->setToolTip(text);
+        button->setAccessibleDescription(text);
+    };
+    describe(m_encrypt, tr("Write an encrypted file; the input stays as it is"));
+    describe(m_decrypt, tr("Write the file that was encrypted; the input stays as it is"));
+    describe(m_stop, tr("End the work; nothing half done is left behind"));
     const int width = std::max(
         {m_inputLabel->sizeHint().width(), m_outputLabel->sizeHint().width(), m_algFrame->labelWidth()});
     m_inputLabel->setMinimumWidth(width);
@@ -240,7 +344,7 @@ void CJobFrame::retranslate()
 void CJobFrame::refreshHint()
 {
     if (m_file.isEmpty())
-        m_hint->setContent(QStringLiteral("drop"), tr("Drop a file here"), tr("or click to choose one"));
+        m_hint->setContent(QStringLiteral("drop"), tr("Drop files here"), tr("or click to choose"));
     else
         m_hint->setContent(QStringLiteral("file"), QFileInfo(m_file).fileName(),
                            QLocale().formattedDataSize(m_fileSize, 1));

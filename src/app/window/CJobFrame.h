@@ -2,6 +2,7 @@
 
 #include "app/job/Message.h"
 #include "app/widgets/CDragDropFrame.h"
+#include "common/naming/NamingSettings.h"
 #include "common/settings/AlgSelection.h"
 
 #include <QString>
@@ -10,13 +11,17 @@ class CDropHint;
 class CLineEditForFile;
 class CMessageLine;
 class CProgressBarFrame;
+class CQueueList;
 class CSelectAlgFrame;
 class QLabel;
 class QPushButton;
+class QStackedWidget;
 class QToolButton;
 class QVBoxLayout;
 
 namespace thisapp {
+
+class FileQueue;
 
 /// The widgets that a drop can fall on.
 enum DropId { DropOnWindow, DropOnInput, DropOnOutput };
@@ -30,19 +35,26 @@ class CJobFrame final : public CDragDropFrame, public thisapp::IMessageAreas
     Q_OBJECT
 
 public:
-    explicit CJobFrame(QWidget* parent = nullptr);
+    /// The queue must outlive the frame.
+    explicit CJobFrame(const thisapp::FileQueue& queue, QWidget* parent = nullptr);
 
     QString inputText() const;
     QString outputText() const;
     void setInputText(const QString& text);
     void setOutputText(const QString& text);
     CSelectAlgFrame& algFrame() { return *m_algFrame; }
+    CQueueList& queueList() { return *m_queueList; }
     CProgressBarFrame& progressFrame() { return *m_progress; }
 
     void setDropReceiver(IFilesDragDropEvent* receiver);
     /// The file at hand and its size in bytes; none when the input isn't usable.
     void showFile(const QString& path, qint64 size);
     void showNoFile();
+    /// The list instead of drop area and fields.
+    void showQueue(bool shown);
+    bool isQueueShown() const;
+    /// Which of the two actions is likely to be wanted.
+    void setDirection(thisapp::NamingDirection direction);
     /// Fields, algorithm and the two actions are for the time between jobs, Stop for that of one.
     void setRunning(bool running, bool stoppable);
 
@@ -66,15 +78,22 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void showColumn(QVBoxLayout* column);
+    QWidget* makeSubject();
+    void keepNamesLegible();
+    void fitHint();
     QLayout* makeRows();
     QLayout* makeButtons();
     void connectWidgets();
     void retranslate();
     void refreshHint();
 
+    QStackedWidget* m_subject;
+    CQueueList* m_queueList;
+    CMessageLine* m_queueMessage;
     CDropHint* m_hint;
     QLabel* m_inputLabel;
     CLineEditForFile* m_input;
@@ -92,4 +111,5 @@ private:
     CMessageLine* m_result;
     QString m_file;
     qint64 m_fileSize = 0;
+    int m_heightBesideHint = 0; ///< what the rest takes in its usual state
 };

@@ -40,13 +40,16 @@ QString titleFor(const QString& file)
 
 CMainWindow::CMainWindow(const WindowServices& services)
     : m_services(services),
-      m_form(new CJobFrame),
+      m_form(new CJobFrame(m_queue)),
       m_input(*m_form, m_disk, services.look),
-      m_fields(*m_form, m_input, m_disk),
+      m_fields(*m_form, m_input, m_disk, [this](const QStringList& files) { m_queueJob.take(files); }),
       m_dialogs(*this, services.algorithms, services.options, *m_form, *this),
       m_actions(*this, [this](const Command& command) { run(command); }),
-      m_display(*m_form, services.taskbar, services.notifier),
-      m_job(services.encryptors, services.decryptors, m_dispatcher)
+      m_display(*m_form, services.taskbar, services.notifier,
+                [this](const QString& file) { m_fields.openFolderOf(file); }),
+      m_offer(*m_form),
+      m_job(services.encryptors, services.decryptors, m_dispatcher),
+      m_queueJob({m_queue, *m_form, m_input, m_disk, m_job, m_display})
 {
     setCentralWidget(m_form);
     m_form->setDropReceiver(this);
@@ -60,12 +63,18 @@ CMainWindow::CMainWindow(const WindowServices& services)
     refresh();
 }
 
-CMainWindow::~CMainWindow() = default;
+/// The form shows the list, which would go before it.
+CMainWindow::~CMainWindow()
+{
+    delete takeCentralWidget();
+}
 
 void CMainWindow::connectForm()
 {
     connect(&m_input, &CInputField::notifyAccepted, this, &CMainWindow::resetMessages);
     connect(&m_input, &CInputField::notifyFacts, this, &CMainWindow::onUiInputFacts);
+    connect(&m_queueJob, &CQueueJob::notifyChanged, this, &CMainWindow::refresh);
+    connect(&m_offer, &CAlgorithmOffer::notifyTaken, this, &CMainWindow::onUiOfferTaken);
     connect(m_form, &CJobFrame::notifyTextChanged, this, &CMainWindow::refresh);
     connect(m_form, &CJobFrame::notifyAddFile, this, [this] { m_fields.onUiAddFileItem(); });
     connect(m_form, &CJobFrame::notifyBrowseOutput, this, [this] { m_fields.onUiBrowseOutput(); });
@@ -91,7 +100,12 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
         << "Try to process command line: " << textPath(quotedArguments(arguments)).native();
     const CommandLine line = parseCommandLine(arguments, systemSlashRule(),
                                               [this](const QString& path) { return m_input.isFile(path); });
+    QStringList files = line.words;
     if (line.input)
+        files.prepend(*line.input);
+    if (!line.words.isEmpty())
+        m_queueJob.take(files);
+    else if (line.input)
         m_input.set(QDir::toNativeSeparators(*line.input));
     if (line.output)
         m_form->setOutputText(*line.output);
@@ -102,7 +116,7 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
 
 void CMainWindow::filesDropped(int widgetId, const QList<QUrl>& urls)
 {
-    if (!m_job.isRunning())
+    if (!isRunning())
         m_fields.takeDrop(widgetId, urls);
 }
 
@@ -126,50 +140,86 @@ void CMainWindow::onUiDecryptItem()
 
 void CMainWindow::requestJob(Operation operation)
 {
+    m_offer.withdraw();
     resetMessages();
-    if (!m_job.isRunning())
+    if (!isRunning() && m_queueJob.settle())
         m_input.settle(); // for the proposal
-    CRequestHost host(*this, *m_form, m_input, m_disk, m_job, m_services.algorithms);
+    CRequestHost host(*this, *m_form, m_input, m_disk, isRunning(), m_job, m_services.algorithms);
     JobRequest request(operation, host, *m_form);
-    std::optional<SEncryptData> job = request.run();
+    std::optional<SEncryptData> job =
+        m_queueJob.isActive() ? request.runForList(m_queueJob.names()) : request.run();
     if (!job)
         return;
 
     job->request.cost = m_services.cost;
-    const QString input = pathText(job->request.input);
-    const ResultCode started = m_job.start(std::move(*job));
+    if (m_queueJob.isActive())
+        m_queueJob.start(std::move(*job), request.onEncrypted());
+    else
+        startJob(request, std::move(*job));
+}
+
+void CMainWindow::startJob(const JobRequest& request, SEncryptData job)
+{
+    m_offer.remember(job);
+    const QString name = pathText(job.request.input.filename());
+    const ResultCode started = m_job.start(std::move(job));
     if (started.ok())
-        m_display.begin(input, request.inputSize());
+        m_display.begin(name, request.inputSize());
     else
         reportFailedStart(m_job.data(), started, *m_form);
     refresh();
 }
 
+void CMainWindow::onUiOfferTaken(const SEncryptData& offered)
+{
+    resetMessages();
+    CRequestHost host(*this, *m_form, m_input, m_disk, isRunning(), m_job, m_services.algorithms);
+    JobRequest request(offered.operation, host, *m_form);
+    if (std::optional<SEncryptData> job = request.runAgain(offered))
+        startJob(request, std::move(*job));
+}
+
 void CMainWindow::onUiStopItem()
 {
     m_display.resetProgress();
-    m_job.stop();
+    if (m_queueJob.isRunning())
+        m_queueJob.stop();
+    else
+        m_job.stop();
     refresh();
 }
 
 void CMainWindow::onUiEncryptStarted()
 {
+    if (m_queueJob.isRunning()) {
+        m_queueJob.showJobProgress();
+        return;
+    }
     m_display.showStarted();
     setTitle();
 }
 
 void CMainWindow::onUiEncryptProgressChanged()
 {
+    if (m_queueJob.isRunning()) {
+        m_queueJob.showJobProgress();
+        return;
+    }
     m_display.showProgress(m_job.data().operation, m_job.progress());
     setTitle();
 }
 
 void CMainWindow::onUiEncryptFinished()
 {
+    if (m_queueJob.isRunning()) {
+        m_queueJob.takeJobEnd();
+        return;
+    }
     m_job.finish();
     refresh();
     const SEncryptData ended = m_job.data();
-    m_display.showEnd(ended, QApplication::activeWindow() != nullptr);
+    m_display.showEnd(ended);
+    m_offer.make(ended);
     m_job.clear();
     if (!isInputRemovalWanted(*this, ended, m_disk, *m_form))
         return;
@@ -195,6 +245,8 @@ void CMainWindow::onUiClearItem()
 {
     m_form->setInputText({});
     m_form->setOutputText({});
+    if (!isRunning())
+        m_queueJob.clear();
     resetMessages();
     refresh();
 }
@@ -202,7 +254,7 @@ void CMainWindow::onUiClearItem()
 /// What was said of the last job says nothing of the next one.
 void CMainWindow::resetMessages()
 {
-    if (m_job.isRunning())
+    if (isRunning())
         return;
     m_form->progressFrame().reset();
     m_form->clearMessages();
@@ -215,6 +267,7 @@ void CMainWindow::onUiQuitItem()
 
 void CMainWindow::run(const Command& command)
 {
+    m_offer.withdraw();
     if (const auto* windowSlot = std::get_if<void (CMainWindow::*)()>(&command.slot))
         (this->**windowSlot)();
     else if (const auto* fieldSlot = std::get_if<void (FieldCommands::*)()>(&command.slot))
@@ -225,8 +278,8 @@ void CMainWindow::run(const Command& command)
 
 void CMainWindow::refresh()
 {
-    const bool running = m_job.isRunning();
-    const bool stoppable = m_job.isStoppable();
+    const bool running = isRunning();
+    const bool stoppable = m_queueJob.isRunning() ? m_queueJob.isStoppable() : m_job.isStoppable();
     m_form->setRunning(running, stoppable);
     m_actions.setState(
         {!running, stoppable, !m_form->inputText().isEmpty(), !m_form->outputText().isEmpty()});
@@ -235,8 +288,9 @@ void CMainWindow::refresh()
 
 void CMainWindow::setTitle()
 {
-    setWindowTitle(titleFor(m_job.isRunning() ? m_display.title()
-                                              : QFileInfo(m_form->inputText().trimmed()).fileName()));
+    setWindowTitle(titleFor(isRunning()             ? m_display.title()
+                            : m_queueJob.isActive() ? m_queueJob.title()
+                                                    : QFileInfo(m_form->inputText().trimmed()).fileName()));
 }
 
 /// The commands' keys work wherever the focus is: a combo box, for one, would take them as a search.
@@ -263,6 +317,7 @@ void CMainWindow::keyPressEvent(QKeyEvent* event)
 void CMainWindow::closeEvent(QCloseEvent* event)
 {
     logger::log(logger::Debug, LogSource) << "Finish ...";
+    m_offer.withdraw();
     event->accept();
 }
 

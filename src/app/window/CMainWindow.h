@@ -2,9 +2,12 @@
 
 #include "app/job/CFileJob.h"
 #include "app/job/CMsgDispatcher.h"
+#include "app/queue/FileQueue.h"
 #include "app/widgets/IFilesDragDropEvent.h"
 #include "app/window/Actions.h"
+#include "app/window/CAlgorithmOffer.h"
 #include "app/window/CInputField.h"
+#include "app/window/CQueueJob.h"
 #include "app/window/DialogCommands.h"
 #include "app/window/FieldCommands.h"
 #include "app/window/InputLook.h"
@@ -37,8 +40,8 @@ struct WindowServices
 
 } // namespace thisapp
 
-/// The window in which the user encrypts and decrypts files, one job at a time. Destroying it stops a
-/// running job and waits for it.
+/// The window in which the user encrypts and decrypts files, one job at a time, or a list of them. Destroying
+/// it stops a running job and waits for it.
 class CMainWindow final : public QMainWindow, public IFilesDragDropEvent, public thisapp::IAppOptionsChanged
 {
     Q_OBJECT
@@ -71,6 +74,7 @@ private slots:
     void onUiEncryptFinished();
     void onUiInputRemovalFinished();
     void onUiInputFacts();
+    void onUiOfferTaken(const thisapp::SEncryptData& request);
     /// Brings enabled states and title in line with the fields and the job.
     void refresh();
 
@@ -85,12 +89,15 @@ private:
     void connectForm();
     void connectJob();
     void requestJob(thisapp::Operation operation);
+    void startJob(const thisapp::JobRequest& request, thisapp::SEncryptData job);
+    bool isRunning() const { return m_job.isRunning() || m_queueJob.isRunning(); }
 
     void resetMessages();
     void setTitle();
 
     const thisapp::WindowServices m_services;
     CMsgDispatcher m_dispatcher;
+    thisapp::FileQueue m_queue;
     CJobFrame* m_form;
     CDiskWork m_disk;
     CInputField m_input;
@@ -98,6 +105,8 @@ private:
     thisapp::DialogCommands m_dialogs;
     thisapp::Actions m_actions;
     thisapp::JobDisplay m_display;
-    /// Last: its end, which waits for the worker, comes before that of the rest.
+    CAlgorithmOffer m_offer;
+    /// Its end, which waits for the worker, comes before that of the rest.
     thisapp::CFileJob m_job;
+    CQueueJob m_queueJob;
 };

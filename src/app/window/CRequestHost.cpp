@@ -11,17 +11,26 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
+#include <QMessageBox>
+#include <QPushButton>
+
 namespace thisapp {
 
 CRequestHost::CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CDiskWork& disk,
-                           CFileJob& job, const ICryptoAlgProvider& algorithms)
-    : m_window(window), m_form(form), m_input(input), m_disk(disk), m_job(job), m_algorithms(algorithms)
+                           bool isJobRunning, CFileJob& job, const ICryptoAlgProvider& algorithms)
+    : m_window(window),
+      m_form(form),
+      m_input(input),
+      m_disk(disk),
+      m_isJobRunning(isJobRunning),
+      m_job(job),
+      m_algorithms(algorithms)
 {
 }
 
 bool CRequestHost::isJobRunning() const
 {
-    return m_job.isRunning();
+    return m_isJobRunning;
 }
 
 AlgSelection CRequestHost::selection() const
@@ -73,9 +82,29 @@ QString CRequestHost::chooseOutput(const QString& title)
     return askFileToSave(&m_window, m_disk, title, m_form.inputText().trimmed());
 }
 
+OnEncrypted CRequestHost::askAboutEncrypted(int encrypted, int all)
+{
+    QMessageBox box(QMessageBox::Question, tr("Encrypt again"),
+                    all == 1
+                        ? tr("This file seems to be encrypted already.")
+                        : tr("Of the %1 files, %2 seem to be encrypted already.").arg(all).arg(encrypted),
+                    QMessageBox::NoButton, &m_window);
+    box.setInformativeText(tr("What is encrypted twice must be decrypted twice."));
+    QAbstractButton* again = box.addButton(tr("Encrypt again"), QMessageBox::AcceptRole);
+    QAbstractButton* leaveOut =
+        encrypted < all ? box.addButton(tr("Leave them out"), QMessageBox::AcceptRole) : nullptr;
+    box.setDefaultButton(box.addButton(QMessageBox::Cancel));
+    box.exec();
+    if (box.clickedButton() == again)
+        return OnEncrypted::Encrypt;
+    return leaveOut != nullptr && box.clickedButton() == leaveOut ? OnEncrypted::LeaveOut
+                                                                  : OnEncrypted::Cancel;
+}
+
 bool CRequestHost::enterPassword(PasswordEntry& entry)
 {
     CSetPasswordDialog dialog(&m_window);
+    dialog.setSubject(entry.names.value(0), entry.names.size() - 1);
     dialog.setEncryptMode(entry.operation == Operation::Encrypt);
     dialog.setAlgorithmName(m_algorithms.displayName(entry.selection));
     dialog.setSeal(entry.seal);
@@ -98,6 +127,7 @@ bool CRequestHost::enterPassword(PasswordEntry& entry)
 bool CRequestHost::enterKeyAndIv(KeyEntry& entry)
 {
     CSetKeyAndIvDialog dialog(&m_window);
+    dialog.setSubject(entry.names.value(0), entry.names.size() - 1);
     dialog.setEncryptMode(entry.operation == Operation::Encrypt);
     dialog.setAlgorithmName(m_algorithms.displayName(entry.selection));
     dialog.setExpectedLengths(entry.keyLength, entry.ivLength);

@@ -2,6 +2,8 @@
 
 #include "app/job/IJobRequestHost.h"
 
+#include <QCoreApplication>
+
 class QWidget;
 
 class CInputField;
@@ -16,9 +18,11 @@ class ICryptoAlgProvider;
 /// Answers a request's questions by the window's form, dialogs and job.
 class CRequestHost final : public IJobRequestHost
 {
+    Q_DECLARE_TR_FUNCTIONS(CRequestHost)
+
 public:
-    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CDiskWork& disk, CFileJob& job,
-                 const ICryptoAlgProvider& algorithms);
+    CRequestHost(QWidget& window, CJobFrame& form, CInputField& input, CDiskWork& disk, bool isJobRunning,
+                 CFileJob& job, const ICryptoAlgProvider& algorithms);
 
     bool isJobRunning() const override;
     AlgSelection selection() const override;
@@ -31,6 +35,7 @@ public:
                                      const std::filesystem::path& output) override;
     QString chooseInput(const QString& title) override;
     QString chooseOutput(const QString& title) override;
+    OnEncrypted askAboutEncrypted(int encrypted, int all) override;
     bool enterPassword(PasswordEntry& entry) override;
     bool enterKeyAndIv(KeyEntry& entry) override;
     bool prepareEngine(Operation operation, const AlgSelection& selection) override;
@@ -40,6 +45,7 @@ private:
     CJobFrame& m_form;
     CInputField& m_input;
     CDiskWork& m_disk;
+    const bool m_isJobRunning;
     CFileJob& m_job;
     const ICryptoAlgProvider& m_algorithms;
 };

@@ -49,12 +49,13 @@ QString problemText(const DroppedFile& drop, io::InputCheck check)
 
 } // namespace
 
-DroppedFile firstDroppedFile(const QList<QUrl>& urls)
+QStringList droppedFiles(const QList<QUrl>& urls)
 {
+    QStringList files;
     for (const QUrl& url : urls)
         if (isHere(url))
-            return {pathOf(url), urls.size() > 1};
-    return {};
+            files += pathOf(url);
+    return files;
 }
 
 Message dropMessage(const DroppedFile& drop, io::InputCheck check)

@@ -5,18 +5,20 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 namespace thisapp {
 
-/// What a drop gives to a window that works on one file at a time.
+/// The paths of those that are on this computer.
+QStringList droppedFiles(const QList<QUrl>& urls);
+
+/// What a drop gives to a field for one file.
 struct DroppedFile
 {
-    QString path; ///< of the first file of this computer; empty when there is none
+    QString path; ///< empty when there is none
     bool othersLeft = false;
 };
-
-DroppedFile firstDroppedFile(const QList<QUrl>& urls);
 
 /// What of the drop isn't as the user may expect; empty when there is nothing. `check` says what was
 /// dropped as the input.

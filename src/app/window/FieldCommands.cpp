@@ -22,17 +22,20 @@ struct Text
 
 } // namespace
 
-FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& disk)
-    : m_form(form), m_input(input), m_disk(disk)
+FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& disk,
+                             std::function<void(const QStringList&)> takeFiles)
+    : m_form(form), m_input(input), m_disk(disk), m_takeFiles(std::move(takeFiles))
 {
 }
 
 void FieldCommands::onUiAddFileItem()
 {
-    const QString chosen =
-        askFileToOpen(m_form.window(), m_disk, Text::tr("Add file to encrypt/decrypt"), m_form.inputText());
-    if (!chosen.isEmpty())
-        m_input.set(QDir::toNativeSeparators(chosen));
+    const QStringList chosen =
+        askFilesToOpen(m_form.window(), m_disk, Text::tr("Add file to encrypt/decrypt"), m_form.inputText());
+    if (chosen.size() == 1 && !m_form.isQueueShown())
+        m_input.set(QDir::toNativeSeparators(chosen.front()));
+    else if (!chosen.isEmpty())
+        m_takeFiles(chosen);
 }
 
 void FieldCommands::onUiBrowseOutput()
@@ -62,8 +65,13 @@ void FieldCommands::openFolderOf(const QString& text)
 
 void FieldCommands::takeDrop(int widgetId, const QList<QUrl>& urls)
 {
-    const DroppedFile drop = firstDroppedFile(urls);
+    const QStringList files = droppedFiles(urls);
     const bool onOutput = widgetId == DropOnOutput;
+    if (!onOutput && (files.size() > 1 || (m_form.isQueueShown() && !files.isEmpty()))) {
+        m_takeFiles(files);
+        return;
+    }
+    const DroppedFile drop{files.value(0), !files.isEmpty() && urls.size() > 1};
     if (drop.path.isEmpty() || onOutput)
         m_form.showMessage(onOutput ? Area::Output : Area::Input, dropMessage(drop));
     if (drop.path.isEmpty())

@@ -43,30 +43,39 @@ QString folderOf(const QString& file, CDiskWork& disk)
     return CDiskWork::waitBriefly(folder) ? folder.get() : QString();
 }
 
-QString run(QWidget* parent, const QString& title, const QString& folder, QFileDialog::AcceptMode mode)
+/// To save in the mode for any file, else to open.
+QStringList run(QWidget* parent, const QString& title, const QString& folder, QFileDialog::FileMode mode)
 {
     QFileDialog dialog(parent, title, QString(), allFiles());
-    dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setAcceptMode(mode == QFileDialog::AnyFile ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(mode);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     if (!folder.isEmpty())
         dialog.setDirectory(folder);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    return dialog.selectedFiles().value(0);
+    QStringList chosen;
+    for (const QString& file : dialog.selectedFiles())
+        chosen += withoutScheme(file);
+    return chosen;
 }
 
 } // namespace
 
+QStringList askFilesToOpen(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current)
+{
+    return run(parent, title, folderOf(current, disk), QFileDialog::ExistingFiles);
+}
+
 QString askFileToOpen(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current)
 {
-    return withoutScheme(run(parent, title, folderOf(current, disk), QFileDialog::AcceptOpen));
+    return run(parent, title, folderOf(current, disk), QFileDialog::ExistingFile).value(0);
 }
 
 QString askFileToSave(QWidget* parent, CDiskWork& disk, const QString& title, const QString& current)
 {
-    return run(parent, title, folderOf(current, disk), QFileDialog::AcceptSave);
+    return run(parent, title, folderOf(current, disk), QFileDialog::AnyFile).value(0);
 }
 
 } // namespace thisapp

@@ -1,5 +1,7 @@
 #include "crypto/job/Conversion.h"
 
+#include "crypto/job/AlgorithmSearch.h"
+#include "crypto/job/RootOfRequest.h"
 #include "crypto/key/RandomBytes.h"
 #include "crypto/sealed/OpeningInput.h"
 #include "crypto/sealed/SealedFormat.h"
@@ -14,7 +16,7 @@ namespace tessaly::crypto {
 
 namespace {
 
-using Input = io::IStreamFile<wchar_t>;
+using Input = io::IRewindableBytes;
 
 /// Hands the engine's callbacks on to the job's observer.
 template <class Cipher>
@@ -125,8 +127,13 @@ private:
     CryptoResult work(const ISymmetricDecryptor&)
     {
         const std::optional<std::uint64_t> within = innerSize(static_cast<std::uint64_t>(m_in.size()));
-        const CryptoResult result = runEngine(m_request, m_in, m_out, within.has_value());
-        return within && isNoPlainFile(result) && !m_done.cancelled ? unseal(*within) : result;
+        const CryptoResult result = runEngine(m_request, m_in, m_out, true);
+        if (!isNoPlainFile(result) || m_done.cancelled)
+            return result;
+        AlgorithmSearch search(m_request, m_cipher.algorithmId());
+        if (search.read(m_in).ok())
+            m_done.fittingAlgorithm = search.findPlain();
+        return m_done.fittingAlgorithm || !within ? result : unseal(*within, search);
     }
 
     template <class Secret>
@@ -143,10 +150,11 @@ private:
     {
         m_done.sealed = true;
         SecretBytes salt;
+        SealedRoot root;
         SealedKeys keys;
         CryptoResult result = randomBytes(SealSaltSize, salt);
         if (result.ok())
-            result = makeKeys(salt, keys);
+            result = makeKeys(salt, root, keys);
         if (!result.ok() || m_done.cancelled)
             return result;
         SealingOutput out(m_out, salt);
@@ -158,13 +166,14 @@ private:
         return result;
     }
 
-    CryptoResult unseal(std::uint64_t within)
+    CryptoResult unseal(std::uint64_t within, const AlgorithmSearch& search)
     {
         SecretBytes salt;
+        SealedRoot root;
         SealedKeys keys;
         CryptoResult result = readSalt(m_in, salt);
         if (result.ok())
-            result = makeKeys(salt, keys);
+            result = makeKeys(salt, root, keys);
         if (!result.ok() || m_done.cancelled)
             return result;
         OpeningInput in(m_in, within);
@@ -172,28 +181,18 @@ private:
         m_done.sealed = result.ok();
         if (result.ok())
             result = runEngine(keys, in, m_out);
+        else if (result == CryptoResult(err::CheckValueDiffers))
+            m_done.fittingAlgorithm = search.findSealed(root.bytes);
+        if (m_done.fittingAlgorithm)
+            m_done.root = std::move(root);
         return isBroken(result) ? CryptoResult(err::SealBroken) : result;
     }
 
-    CryptoResult makeKeys(const SecretBytes& salt, SealedKeys& keys)
+    CryptoResult makeKeys(const SecretBytes& salt, SealedRoot& root, SealedKeys& keys)
     {
-        SecretBytes root;
-        const CryptoResult result = m_request.passwordMode
-                                        ? rootOfPassword(salt, root)
-                                        : rootOfKeyAndIv(m_request.key, m_request.iv, m_cipher, salt, root);
-        return result.ok() && !m_done.cancelled ? expandRoot(root, m_cipher, keys) : result;
-    }
-
-    CryptoResult rootOfPassword(const SecretBytes& salt, SecretBytes& root)
-    {
-        m_observer.jobDerivingKey();
-        m_done.cancelled = m_observer.isJobCancelled();
-        if (m_done.cancelled)
-            return {};
-        const CryptoResult result =
-            argon2id(std::exchange(m_request.password, {}), salt, m_request.cost, root);
-        m_done.cancelled = m_observer.isJobCancelled();
-        return result;
+        const CryptoResult result = makeRoot(m_request, std::exchange(m_request.password, {}), m_cipher, salt,
+                                             m_observer, root, m_done.cancelled);
+        return result.ok() && !m_done.cancelled ? expandRoot(root.bytes, m_cipher, keys) : result;
     }
 
     Cipher& m_cipher;

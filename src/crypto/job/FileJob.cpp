@@ -21,7 +21,7 @@ using platform::Access;
 /// An encrypted file is for everybody who may read the plain one, a decrypted one for its owner.
 Access accessOf(const ISymmetricEncryptor&, const platform::FileStatus& input)
 {
-    return Access::noMoreThan(input);
+    return input.exists() ? Access::noMoreThan(input) : Access::byUmask();
 }
 
 Access accessOf(const ISymmetricDecryptor&, const platform::FileStatus&)
@@ -72,11 +72,13 @@ private:
             result = createOutput();
         if (result.ok())
             result = encipher();
-        return m_outcome.cancelled || !result.ok() ? result : storeOutput();
+        return m_outcome.cancelled || !result.ok() || m_request.sink ? result : storeOutput();
     }
 
     CryptoResult makeRoomFirst()
     {
+        if (m_request.sink)
+            return {};
         m_outcome.step = JobStep::RemoveFormerOutput;
         return makeRoom(m_request, m_removedFormer);
     }
@@ -84,6 +86,8 @@ private:
     CryptoResult openInput()
     {
         m_outcome.step = JobStep::OpenInput;
+        if (m_request.source)
+            return {};
         const auto place = std::make_shared<io::FilePlace>();
         platform::File file;
         ResultCode result = place->open(m_request.input);
@@ -97,13 +101,15 @@ private:
 
     CryptoResult createOutput()
     {
+        if (m_request.sink)
+            return {};
         m_outcome.step = JobStep::CreateOutput;
         const auto place = std::make_shared<io::FilePlace>();
         m_out.protect(m_outcome.input.status);
         ResultCode result = place->open(m_request.output);
         if (result.ok())
             result = m_out.open(place, accessOf(m_cipher, m_outcome.input.status),
-                                expectedSize(m_cipher, m_in, m_request.seal));
+                                expectedSize(m_cipher, in(), m_request.seal));
         m_outcome.output = {place, m_out.status()};
         return result.ok() ? CryptoResult() : CryptoResult(err::WriteStreamFailed, result);
     }
@@ -111,9 +117,11 @@ private:
     CryptoResult encipher()
     {
         m_outcome.step = JobStep::Process;
-        const Conversion conversion = convert(m_cipher, m_request, m_in, m_out, m_observer);
+        const Conversion conversion = convert(m_cipher, m_request, in(), out(), m_observer);
         m_outcome.cancelled = conversion.cancelled;
         m_outcome.sealed = conversion.sealed;
+        m_outcome.fittingAlgorithm = conversion.fittingAlgorithm;
+        m_outcome.root = conversion.root;
         return conversion.result;
     }
 
@@ -130,6 +138,9 @@ private:
         return stored.ok() || m_outcome.cancelled ? CryptoResult()
                                                   : CryptoResult(err::WriteStreamFailed, stored);
     }
+
+    io::IRewindableBytes& in() { return m_request.source ? *m_request.source : m_in; }
+    io::OStreamBytes& out() { return m_request.sink ? *m_request.sink : m_out; }
 
     Cipher& m_cipher;
     FileJobRequest& m_request;
@@ -155,6 +166,7 @@ void FileJobRequest::wipeSecrets()
     password = {};
     key = {};
     iv = {};
+    root = {};
 }
 
 bool FileJobOutcome::failedAtOutput() const

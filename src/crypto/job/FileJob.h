@@ -3,13 +3,17 @@
 #include "crypto/CryptoResult.h"
 #include "crypto/cipher/ISymmetricCipher.h"
 #include "crypto/sealed/Argon2.h"
+#include "crypto/sealed/SealedKeys.h"
 #include "io/FilePlace.h"
+#include "io/IRewindableBytes.h"
+#include "io/OStreamBytes.h"
 #include "lib/platform/File.h"
 #include "lib/secret/Secret.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace tessaly::crypto {
 
@@ -25,6 +29,10 @@ struct FileJobRequest
 {
     std::filesystem::path input;
     std::filesystem::path output;
+    /// When set, it is read and rewound instead of the input, or written instead of the output, of which
+    /// the path is then not looked at. What a failed job has written stays written.
+    io::IRewindableBytes* source = nullptr;
+    io::OStreamBytes* sink = nullptr;
     ExistingOutput existing = ExistingOutput::Keep;
     bool passwordMode = true;
     bool useSalt = false; ///< encryption only, and not of a sealed file, which has a salt of its own
@@ -32,6 +40,9 @@ struct FileJobRequest
     SecretText password;  ///< password mode
     SecretBytes key;      ///< else
     SecretBytes iv;       ///< else
+    /// Of a sealed file that is to be decrypted, when it is known already: with it no key is made of the
+    /// password, and none is needed. Another file's is ignored.
+    SealedRoot root;
     Argon2Cost cost = {}; ///< of a sealed file's password; another one makes a file of another format
 
     void wipeSecrets();
@@ -54,6 +65,11 @@ struct FileJobOutcome
     JobStep step = JobStep::OpenInput;
     /// The encrypted file, made or read, is a sealed one.
     bool sealed = false;
+    /// After failure (5, 4003) of a decryption: the algorithm that the file was encrypted with.
+    std::optional<std::uint32_t> fittingAlgorithm;
+    /// With that algorithm, and when the file is a sealed one: what a request with it takes instead of the
+    /// password.
+    SealedRoot root;
     /// There was an output of this job, or a former one that it removed, and nothing of it is left.
     bool outputDeleted = false;
     JobFile input;
@@ -86,9 +102,11 @@ public:
 
 /// Enciphers or deciphers one file into a new one, from making room for it to its name: the output
 /// appears when it is whole and on the disk, or not at all. A decryption takes its input for a plain file
-/// first; when the header does not verify and a sealed file can have that size, for a sealed one. The
-/// password is wiped as soon as the key is made of it, the rest of the secret at the end. Blocks; to end
-/// it early call stop on the engine from another thread. No exception leaves it.
+/// first; when the header does not verify and a sealed file can have that size, for a sealed one. When the
+/// algorithm turns out to be wrong it looks for the right one (see AlgorithmSearch.h): among the plain
+/// headers before it makes a sealed file's key, and among the tags with that same key. The password is wiped
+/// as soon as it is not needed any more, the rest of the secret at the end. Blocks; to end it early call stop
+/// on the engine from another thread. No exception leaves it.
 FileJobOutcome runFileJob(ISymmetricEncryptor& encryptor, FileJobRequest& request,
                           IFileJobObserver& observer) noexcept;
 FileJobOutcome runFileJob(ISymmetricDecryptor& decryptor, FileJobRequest& request,

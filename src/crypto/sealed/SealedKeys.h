@@ -14,6 +14,15 @@ struct SealedKeys
     SecretBytes tagKey;
 };
 
+/// What all keys of a sealed file are made of, and the salt in that file by which it is known. A secret.
+struct SealedRoot
+{
+    SecretBytes salt;
+    SecretBytes bytes;
+
+    bool isOf(const SecretBytes& fileSalt) const { return !bytes.empty() && salt == fileSalt; }
+};
+
 /// The root of the user's own key and IV; that of a password is argon2id's. (5, 4040) and (5, 4041) for
 /// lengths that are not the algorithm's.
 CryptoResult rootOfKeyAndIv(const SecretBytes& key, const SecretBytes& iv, const ISymmetricEngine& algorithm,

@@ -67,6 +67,11 @@ void CSetKeyAndIvDialog::setExpectedLengths(std::uint32_t keyLength, std::uint32
     m_ivLength = ivLength;
 }
 
+void CSetKeyAndIvDialog::setSubject(const QString& fileName, int others)
+{
+    m_ui->labelSubject->setSubject(fileName, others);
+}
+
 void CSetKeyAndIvDialog::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous())

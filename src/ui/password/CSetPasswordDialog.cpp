@@ -47,6 +47,11 @@ void CSetPasswordDialog::connectWidgets()
             &CSetPasswordDialog::onUiCapsLockChanged);
 }
 
+void CSetPasswordDialog::setSubject(const QString& fileName, int others)
+{
+    m_ui->labelSubject->setSubject(fileName, others);
+}
+
 void CSetPasswordDialog::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous())

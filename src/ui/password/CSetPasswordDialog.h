@@ -29,6 +29,8 @@ public:
     void setSeal(bool seal) { m_seal = seal; }
     void setUseSalt(bool use) { m_useSalt = use; }
     void setRewriteOutputFile(bool rewrite) { m_rewriteOutputFile = rewrite; }
+    /// The file that the dialog is about, by name, and how many files there are beside it.
+    void setSubject(const QString& fileName, int others);
     void setAlgorithmName(const QString& name) { m_algorithmName = name; }
 
     /// UTF-8; empty unless accepted without a switch.

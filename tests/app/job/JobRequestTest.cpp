@@ -20,6 +20,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     QString input, output, chosenInput, chosenOutput;
     std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
     std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
+    OnEncrypted onEncrypted = OnEncrypted::Encrypt;
     bool engine = true;
     bool answers = true;
     std::pair<Area, std::string> message;
@@ -42,6 +43,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
+    OnEncrypted askAboutEncrypted(int, int) override { return onEncrypted; }
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
     bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
     bool prepareEngine(Operation, const AlgSelection&) override { return engine; }

@@ -29,10 +29,19 @@ TEST(ProgressTest, JoinsWhatIsKnown)
               "Decrypting. 0.000% processed");
     progress.update(25 * MiB, 500);
     EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Processing, progress).toStdString(),
-              "Encrypting at 50.0 MiB/s. 25.000% processed. Remaining time: 2 seconds");
+              "Encrypting. 25.000% processed. Remaining time: 2 seconds");
+    progress.update(50 * MiB, 1000);
+    EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Processing, progress).toStdString(),
+              "Encrypting at 50.0 MiB/s. 50.000% processed. Remaining time: 1 seconds");
     progress.update(100 * MiB, 2000);
     EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Flushing, progress).toStdString(),
               "Waiting until the disk has stored the file. 100.000% processed");
+}
+
+TEST(ProgressTest, TellsNoSpeedBelowASecond)
+{
+    EXPECT_EQ(summaryText(MiB, 999).toStdString(), "1.0 MiB in less than a second");
+    EXPECT_EQ(summaryText(MiB, 1000).toStdString(), "1.0 MiB in 1.0 seconds, 1.0 MiB/s");
 }
 
 TEST(ProgressTest, SmoothsTheSpeed)

@@ -140,7 +140,10 @@ private:
     void show() override {}
     void hide() override {}
     void setValue(int percent) override { taskbarValues.push_back(percent); }
-    void notify(const QString& summary, const QString&) override { notifications += summary; }
+    void notify(const QString& summary, const QString&, const thisapp::desktop::NotifierAction&) override
+    {
+        notifications += summary;
+    }
 };
 
 } // namespace test

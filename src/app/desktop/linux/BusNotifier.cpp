@@ -25,7 +25,7 @@ QString escaped(QString text)
 
 } // namespace
 
-void BusNotifier::notify(const QString& summary, const QString& body)
+void BusNotifier::notify(const QString& summary, const QString& body, const NotifierAction&)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),

@@ -12,7 +12,7 @@ class BusNotifier final : public INotifier
 public:
     explicit BusNotifier(SessionBus& bus) : m_bus(bus) {}
 
-    void notify(const QString& summary, const QString& body) override;
+    void notify(const QString& summary, const QString& body, const NotifierAction& action) override;
 
 private:
     SessionBus& m_bus;

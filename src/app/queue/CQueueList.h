@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QFrame>
+
+class CQueueModel;
+class QLabel;
+class QPushButton;
+class QTreeView;
+
+namespace thisapp {
+class FileQueue;
+}
+
+/// Shows the files that are processed in one go, with buttons to add some and to empty the list. Delete
+/// takes the selected ones out.
+class CQueueList final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// The queue must outlive the list.
+    explicit CQueueList(const thisapp::FileQueue& queue, QWidget* parent = nullptr);
+
+    /// The files are others than before.
+    void refresh();
+    /// That one has changed; a running one is brought into sight.
+    void refreshEntry(int row);
+    void setRunning(bool running);
+    /// Files hover over it.
+    void setHighlighted(bool highlighted);
+
+signals:
+    void notifyAdd();
+    void notifyClear();
+    /// In descending order.
+    void notifyRemove(const QList<int>& rows);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void retranslate();
+    void refreshSummary();
+    void shareWidth();
+    void removeSelected();
+
+    const thisapp::FileQueue& m_queue;
+    CQueueModel* m_model;
+    QLabel* m_summary;
+    QPushButton* m_add;
+    QPushButton* m_clear;
+    QTreeView* m_view;
+    bool m_isRunning = false;
+    bool m_isHighlighted = false;
+};

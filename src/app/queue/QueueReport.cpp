@@ -1,0 +1,88 @@
+#include "app/queue/QueueReport.h"
+
+#include "common/path/PathText.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <set>
+
+namespace thisapp {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(FileQueue)
+};
+
+QString summary(Operation operation, FileQueue::Count count, std::size_t all, bool isStopped)
+{
+    const QString done = operation == Operation::Encrypt ? Text::tr("%1 of %2 files encrypted")
+                                                         : Text::tr("%1 of %2 files decrypted");
+    QStringList parts{done.arg(count.done).arg(all)};
+    //: Follows "9 of 11 files encrypted"
+    const auto add = [&parts](const QString& text, std::size_t number) {
+        if (number > 0)
+            parts += text.arg(number);
+    };
+    add(Text::tr("%1 failed"), count.failed);
+    add(Text::tr("%1 skipped"), count.skipped);
+    const QString text = parts.join(QStringLiteral(", "));
+    return isStopped ? Text::tr("Stopped: %1").arg(text) : text;
+}
+
+/// Of the outputs; empty when they stand in more than one.
+QString folderOf(const FileQueue& queue)
+{
+    std::set<std::filesystem::path> folders;
+    for (const QueueEntry& entry : queue.entries())
+        if (entry.state == EntryState::Done)
+            folders.insert(entry.output.parent_path());
+    return folders.size() == 1 ? pathText(*folders.begin()) : QString();
+}
+
+} // namespace
+
+Message queueMessage(Operation operation, const FileQueue& queue, bool isStopped)
+{
+    const FileQueue::Count count = queue.count();
+    const std::size_t all = queue.runSize();
+    const bool isComplete = count.done == all;
+    const MessageKind kind = isComplete                      ? MessageKind::Success
+                             : count.failed > 0 || isStopped ? MessageKind::Error
+                                                             : MessageKind::Warning;
+    return {kind, [=] { return summary(operation, count, all, isStopped); }, folderOf(queue)};
+}
+
+Message leftOutMessage(const QueueLook& look)
+{
+    if (!look.isFolderLeftOut && look.missing.isEmpty())
+        return {};
+    return {MessageKind::Warning, [isFolder = look.isFolderLeftOut, missing = look.missing] {
+                QStringList sentences;
+                if (isFolder)
+                    sentences += Text::tr("Folders and devices are left out: only files can be encrypted or "
+                                          "decrypted.");
+                if (missing.size() == 1)
+                    sentences += Text::tr("\"%1\" is not found.").arg(missing.front());
+                else if (!missing.isEmpty())
+                    sentences +=
+                        Text::tr("Not found, and left out: %1").arg(missing.join(QStringLiteral(", ")));
+                return sentences.join(QLatin1Char(' '));
+            }};
+}
+
+Message removalMessage(std::size_t removed, std::size_t kept)
+{
+    return {kept > 0 ? MessageKind::Warning : MessageKind::Success, [removed, kept] {
+                QString text =
+                    Text::tr("Input files deleted after their encryption, according to your options: %1.")
+                        .arg(removed);
+                if (kept > 0)
+                    text += QLatin1Char(' ') + Text::tr("Kept: %1, see the list.").arg(kept);
+                return text;
+            }};
+}
+
+} // namespace thisapp

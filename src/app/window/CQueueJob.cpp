@@ -1,0 +1,230 @@
+#include "app/window/CQueueJob.h"
+
+#include "app/job/CFileJob.h"
+#include "app/job/JobReport.h"
+#include "app/queue/CQueueList.h"
+#include "app/queue/QueueReport.h"
+#include "app/widgets/CProgressBarFrame.h"
+#include "app/window/CInputField.h"
+#include "app/window/CJobFrame.h"
+#include "app/window/JobDisplay.h"
+#include "common/naming/OutputNaming.h"
+#include "common/path/PathText.h"
+#include "common/settings/CAppSettings.h"
+#include "common/settings/SettingsKeys.h"
+#include "ui/disk/CDiskWork.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+using namespace tessaly;
+using namespace thisapp;
+
+namespace {
+
+constexpr std::size_t NamesInQuestion = 5;
+
+bool isNamedEncrypted(const QueueEntry& entry, const NamingSettings& naming)
+{
+    return namingDirection(pathText(entry.path.filename()), naming) == NamingDirection::Decryption;
+}
+
+} // namespace
+
+CQueueJob::CQueueJob(const Parts& parts)
+    : m_parts(parts), m_run(m_parts.queue, m_parts.job, m_parts.disk), m_removal(m_parts.disk)
+{
+    connect(&m_parts.disk, &CDiskWork::notifyAnswered, this, &CQueueJob::onUiLooked);
+    connect(&m_parts.form.queueList(), &CQueueList::notifyClear, this, &CQueueJob::clear);
+    connect(&m_parts.form.queueList(), &CQueueList::notifyRemove, this, &CQueueJob::onUiRemove);
+    connect(&m_run, &CQueueRun::notifyEntry, this, &CQueueJob::onUiEntry);
+    connect(&m_run, &CQueueRun::notifyProgress, this, &CQueueJob::onUiProgress);
+    connect(&m_run, &CQueueRun::notifyEnded, this, &CQueueJob::onUiEnded);
+    connect(&m_removal, &CQueueRemoval::notifyEnded, this, &CQueueJob::onUiRemovalEnded);
+}
+
+void CQueueJob::take(const QStringList& files)
+{
+    if (files.isEmpty() || isRunning())
+        return;
+    m_look = m_parts.disk.start<QueueLook>([files] { return lookAtFiles(files); });
+    if (CDiskWork::waitBriefly(m_look))
+        onUiLooked();
+    else
+        m_parts.form.showMessage(Area::Input,
+                                 {MessageKind::Plain, [] { return tr("Looking at the files..."); }});
+}
+
+bool CQueueJob::settle()
+{
+    if (const auto look = m_look; look.valid() && m_parts.disk.wait(look))
+        onUiLooked(); // unless the wait has brought it
+    return !m_look.valid();
+}
+
+void CQueueJob::onUiLooked()
+{
+    if (!m_look.valid() || m_look.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+        return;
+    QueueLook look = std::exchange(m_look, {}).get();
+    m_parts.form.progressFrame().reset();
+    m_parts.form.clearMessages();
+    if (!look.files.empty()) {
+        if (!m_parts.queue.isFresh())
+            m_parts.queue.clear();
+        m_parts.queue.add(std::move(look.files));
+        m_redoAll = true;
+    }
+    if (m_parts.queue.size() == 1)
+        useFields();
+    else
+        show();
+    m_parts.form.showMessage(Area::Input, leftOutMessage(look));
+}
+
+void CQueueJob::useFields()
+{
+    const QString path = pathText(m_parts.queue.entries().front().path);
+    m_parts.queue.clear();
+    show();
+    m_parts.input.set(path);
+}
+
+void CQueueJob::show()
+{
+    m_parts.form.queueList().refresh();
+    m_parts.form.showQueue(isActive());
+    if (isActive()) {
+        m_parts.form.setInputText({});
+        m_parts.form.setOutputText({});
+        const NamingSettings naming = readNamingSettings(CAppSettings());
+        m_parts.form.setDirection(std::ranges::all_of(m_parts.queue.entries(),
+                                                      [&naming](const QueueEntry& entry) {
+                                                          return isNamedEncrypted(entry, naming);
+                                                      })
+                                      ? NamingDirection::Decryption
+                                      : NamingDirection::Encryption);
+    }
+    emit notifyChanged();
+}
+
+void CQueueJob::clear()
+{
+    if (isRunning())
+        return;
+    m_look = {};
+    m_parts.queue.clear();
+    m_parts.form.progressFrame().reset();
+    m_parts.form.clearMessages();
+    show();
+}
+
+void CQueueJob::onUiRemove(const QList<int>& rows)
+{
+    for (const int row : rows)
+        m_parts.queue.remove(static_cast<std::size_t>(row));
+    if (m_parts.queue.size() == 1)
+        useFields();
+    else
+        show();
+}
+
+QStringList CQueueJob::names() const
+{
+    QStringList names;
+    for (const QueueEntry& entry : m_parts.queue.entries())
+        names += pathText(entry.path.filename());
+    return names;
+}
+
+void CQueueJob::start(SEncryptData request, OnEncrypted onEncrypted)
+{
+    const FileQueue::Count last = m_parts.queue.count();
+    const bool isOther = std::exchange(m_operation, request.operation) != request.operation;
+    m_parts.queue.begin(std::exchange(m_redoAll, false) || isOther || last.failed + last.skipped == 0);
+    if (onEncrypted == OnEncrypted::LeaveOut)
+        leaveOutEncrypted();
+    m_parts.form.queueList().refresh();
+    m_parts.display.begin({}, m_parts.queue.progress().total);
+    m_parts.display.showStarted();
+    m_run.start(std::move(request));
+    emit notifyChanged();
+}
+
+void CQueueJob::leaveOutEncrypted()
+{
+    const NamingSettings naming = readNamingSettings(CAppSettings());
+    for (std::size_t i = 0; i < m_parts.queue.size(); ++i)
+        if (isNamedEncrypted(m_parts.queue.entries()[i], naming))
+            m_parts.queue.end(i, EntryState::Skipped, [] { return tr("It seems to be encrypted already."); });
+}
+
+void CQueueJob::onUiEntry(std::size_t index)
+{
+    m_parts.form.queueList().refreshEntry(static_cast<int>(index));
+    if (m_run.current() == index)
+        m_parts.display.setName(tr("%1 of %2").arg(m_parts.queue.position()).arg(m_parts.queue.runSize()) +
+                                QStringLiteral(" - ") +
+                                pathText(m_parts.queue.entries()[index].path.filename()));
+    emit notifyChanged();
+}
+
+void CQueueJob::onUiProgress()
+{
+    const auto [processed, total] = m_parts.queue.progress();
+    const JobPhase phase = m_parts.job.progress().phase;
+    // The disk's turn comes with every file, and is mostly too short to be read of.
+    m_parts.display.setTotal(total);
+    m_parts.display.showProgress(
+        m_operation, {phase == JobPhase::Flushing ? JobPhase::Processing : phase, processed, total});
+    emit notifyChanged();
+}
+
+void CQueueJob::onUiEnded()
+{
+    m_parts.form.queueList().refresh();
+    m_parts.display.showQueueEnd(queueMessage(m_operation, m_parts.queue, m_run.isStopped()), m_parts.queue);
+    const CAppSettings settings;
+    std::vector<CQueueRemoval::Candidate> encrypted = m_run.takeEncrypted();
+    if (!encrypted.empty() && readSetting(settings, keys::DeleteSourceFileAfterEncryption))
+        m_removal.start(std::move(encrypted),
+                        [this](const auto& removable) { return confirmRemoval(removable); });
+    emit notifyChanged();
+}
+
+bool CQueueJob::confirmRemoval(const std::vector<CQueueRemoval::Candidate>& removable)
+{
+    if (!readSetting(CAppSettings(), keys::ConfirmDeleteSourceFileAfterEncryption))
+        return true;
+    QStringList lines{tr("Are you sure you want to delete the input files after encryption?"), QString()};
+    for (std::size_t i = 0; i < std::min(removable.size(), NamesInQuestion); ++i)
+        lines += pathText(removable[i].ended.request.input);
+    if (removable.size() > NamesInQuestion)
+        lines += tr("and %1 more").arg(removable.size() - NamesInQuestion);
+    QMessageBox box(QMessageBox::Question, tr("Deleting the input files"), lines.join(QLatin1Char('\n')),
+                    QMessageBox::Yes | QMessageBox::No, m_parts.form.window());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+void CQueueJob::onUiRemovalEnded()
+{
+    std::size_t removed = 0;
+    for (const auto& [index, removal] : m_removal.results()) {
+        removed += static_cast<std::size_t>(removal.removed());
+        m_parts.queue.note(index, [removal = removal] { return removalText(removal); });
+    }
+    m_parts.form.queueList().refresh();
+    if (!m_removal.results().empty())
+        m_parts.form.showMessage(Area::Input, removalMessage(removed, m_removal.results().size() - removed));
+    emit notifyChanged();
+}
+
+QString CQueueJob::title() const
+{
+    return tr("%1 files").arg(m_parts.queue.size());
+}

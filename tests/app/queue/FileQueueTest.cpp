@@ -1,0 +1,61 @@
+#include "app/queue/FileQueue.h"
+
+#include <gtest/gtest.h>
+
+using namespace thisapp;
+
+namespace {
+
+QueueEntry file(const char* path, std::int64_t size)
+{
+    QueueEntry entry{path, {}};
+    entry.file.kind = tessaly::platform::FileKind::Regular;
+    entry.file.inode = std::hash<std::string>()(path);
+    entry.file.size = size;
+    return entry;
+}
+
+QString reason()
+{
+    return QStringLiteral("reason");
+}
+
+TEST(FileQueueTest, TakesAPathOnceAndCountsWhatBecameOfIt)
+{
+    FileQueue queue;
+    queue.add({file("/a", 100), file("/b", 0), file("/a", 100)});
+    queue.add({file("/b", 0), file("/c", 50), file("/d", 7)});
+    ASSERT_EQ(queue.size(), 4U);
+    EXPECT_EQ(queue.totalSize(), 157);
+    EXPECT_TRUE(queue.isFresh());
+
+    queue.begin(true);
+    queue.end(1, EntryState::Skipped, reason); // beforehand, and never its turn
+    EXPECT_EQ(queue.startNext(), 0U);
+    queue.setProcessed(0, 40);
+    EXPECT_EQ(queue.progress().processed, 40);
+    EXPECT_EQ(queue.progress().total, 101 + 51 + 8);
+    tessaly::platform::FileStatus written = file("/a.enc", 156).file;
+    queue.setDone(0, "/a.enc", written);
+    EXPECT_TRUE(queue.owns(written) && queue.owns(file("/d", 0).file));
+    EXPECT_FALSE(queue.owns(file("/other", 0).file) || queue.owns({}));
+    EXPECT_EQ(queue.startNext(), 2U);
+    EXPECT_EQ(queue.position(), 3U);
+    queue.end(2, EntryState::Failed, reason);
+    EXPECT_EQ(queue.progress().processed, 101);
+    EXPECT_EQ(queue.progress().total, 101 + 8) << "a failure is no longer waited for";
+    queue.skipRest(reason);
+    EXPECT_FALSE(queue.startNext());
+    EXPECT_EQ(queue.count().done, 1U);
+    EXPECT_EQ(queue.count().failed, 1U);
+    EXPECT_EQ(queue.count().skipped, 2U);
+
+    queue.begin(false);
+    EXPECT_EQ(queue.runSize(), 3U) << "what is done stays";
+    EXPECT_EQ(queue.startNext(), 1U);
+    EXPECT_EQ(queue.position(), 1U);
+    queue.remove(0);
+    EXPECT_EQ(queue.entries()[0].path, "/b");
+}
+
+} // namespace

@@ -1,0 +1,217 @@
+#include "window/WindowHarness.h"
+
+#include "app/queue/CQueueModel.h"
+#include "common/settings/CAppSettings.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
+
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using namespace thisapp;
+using test::WindowHarness;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// More than one file in one go, as the user sees it.
+class QueueTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { set({}); }
+
+    static void set(const std::map<QString, QVariant>& values)
+    {
+        CAppSettings settings;
+        settings.clear();
+        settings.setValue("UseConfirmPassword", false);
+        for (const auto& [key, value] : values)
+            settings.setValue(key, value);
+    }
+
+    void give(const std::vector<const char*>& names)
+    {
+        QStringList paths;
+        for (const char* name : names)
+            paths += w.path(name);
+        w.window->processCommandLine(paths);
+    }
+    void run(Qt::Key key, const QString& password = "secret")
+    {
+        w.answerPassword(password);
+        QTest::keyClick(w.window.get(), key);
+        ASSERT_TRUE(w.waitForEnd());
+    }
+    /// Anew, with a list of its own.
+    void encrypt(const std::vector<const char*>& names)
+    {
+        QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+        give(names);
+        run(Qt::Key_F5);
+    }
+    QAbstractItemModel& list() { return *w.window->findChild<QTreeView*>("fileList")->model(); }
+    /// "name: state" of each file.
+    std::vector<std::string> states()
+    {
+        std::vector<std::string> lines;
+        for (int row = 0; row < list().rowCount(); ++row)
+            lines.push_back((list().index(row, CQueueModel::Name).data().toString() + ": " +
+                             list().index(row, CQueueModel::State).data().toString())
+                                .toStdString());
+        return lines;
+    }
+    const test::TempFolder& folder() const { return w.folder; }
+
+    WindowHarness w;
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(QueueTest, ProcessesAllWithOnePasswordWhateverBecomesOfOne)
+{
+    for (const char* name : {"a", "b", "c"})
+        w.writeInput(name, 70'000);
+    folder().write("b.enc", "former");
+    give({"a", "b", "c", "a", "sub", "none"});
+    EXPECT_EQ(states(), Lines({"a: Waiting", "b: Waiting", "c: Waiting"}));
+    EXPECT_EQ(w.window->windowTitle(), "3 files - Quillet");
+    run(Qt::Key_F5);
+    EXPECT_EQ(w.result(), "2 of 3 files encrypted, 1 skipped");
+    EXPECT_EQ(w.detail("resultMessage") + "/", folder() / "");
+    EXPECT_EQ(states()[1],
+              "b: Skipped: Output file already exists! A 'not rewrite' option has been selected.");
+    EXPECT_EQ(w.progress().percent(), 100.0F);
+
+    // What is not done is done with the next try, and nothing else.
+    fs::remove(folder() / "b.enc");
+    run(Qt::Key_F5);
+    EXPECT_EQ(w.result(), "1 of 1 files encrypted");
+    EXPECT_EQ(states(), Lines({"a: Done", "b: Done", "c: Done"}));
+
+    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+    EXPECT_EQ(list().rowCount(), 0);
+    folder().write("b.enc", std::string(70'056, 'x'));
+    give({"a.enc", "b.enc", "c.enc"});
+    EXPECT_TRUE(w.button("buttonDecrypt").isDefault());
+    run(Qt::Key_F6);
+    EXPECT_EQ(w.result(), "2 of 3 files decrypted, 1 failed");
+    EXPECT_EQ(states()[1], "b.enc: Failed: Corrupted data (error: 5/4003). Check the password and the "
+                           "algorithm.");
+    EXPECT_EQ(test::readFile(folder() / "a"), test::readFile(folder() / "a.dec"));
+    EXPECT_EQ(test::readFile(folder() / "c"), test::readFile(folder() / "c.dec"));
+}
+
+/// With rewriting on, too, no file of the list and no output of another one is written over.
+TEST_F(QueueTest, KeepsItsFilesFromEachOther)
+{
+    fs::create_directory(folder() / "x");
+    fs::create_directory(folder() / "y");
+    set({{"RewriteOutputFile", true}, {"UseDefaultOutputDir", true}, {"OutputDirPath", w.path("out")}});
+    for (const char* name : {"x/a", "y/a", "b"})
+        folder().write(name, name);
+    encrypt({"x/a", "y/a", "b"});
+    EXPECT_EQ(w.result(), "2 of 3 files encrypted, 1 skipped");
+    EXPECT_EQ(states()[1], "a: Skipped: The output belongs to another file of the list.");
+
+    set({{"RewriteOutputFile", true}});
+    folder().write("b.enc", "precious");
+    w.onDialog<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "Of the 2 files, 1 seem to be encrypted already.");
+        box.buttons().front()->click(); // encrypt again
+    });
+    encrypt({"b", "b.enc"});
+    EXPECT_EQ(states()[0], "b: Skipped: The output belongs to another file of the list.");
+    EXPECT_EQ(test::readFile(folder() / "b.enc"), "precious");
+    EXPECT_TRUE(fs::exists(folder() / "b.dec"));
+}
+
+TEST_F(QueueTest, StopsAsAWhole)
+{
+    for (const char* name : {"a", "b", "c"})
+        w.writeInput(name, 10);
+    fs::resize_file(folder() / "b", 4LL << 30);
+    ASSERT_TRUE(w.form().algFrame().setSelection({1, 601}));
+    give({"a", "b", "c"});
+    w.answerPassword("secret");
+    QTest::keyClick(w.window.get(), Qt::Key_F5);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return w.window->windowTitle().contains("2 of 3 - b - "); },
+                                WindowHarness::JobTimeoutMs));
+    EXPECT_FALSE(w.button("buttonClearList").isEnabled());
+    QTest::keyClick(w.window.get(), Qt::Key_F6);
+    EXPECT_EQ(w.progress().notice(), "Encryption/Decryption already running.");
+    QTest::keyClick(w.window.get(), Qt::Key_F8);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "Stopped: 1 of 3 files encrypted, 2 skipped");
+    EXPECT_EQ(states(), Lines({"a: Done", "b: Skipped: Stopped", "c: Skipped: Stopped"}));
+    EXPECT_FALSE(fs::exists(folder() / "b.enc"));
+    w.button("buttonClearList").click();
+    EXPECT_FALSE(w.form().isQueueShown());
+}
+
+TEST_F(QueueTest, DeletesInputsAfterOneQuestion)
+{
+    for (const bool agreed : {false, true}) {
+        set({{"DeleteSourceFileAfterEncryption", true}});
+        for (const char* name : {"a", "b", "c", "d"})
+            w.writeInput(name, 10);
+        fs::remove(folder() / "link");
+        fs::create_hard_link(folder() / "c", folder() / "link");
+        folder().write("d.enc", "former");
+        give({"a", "b", "c", "d"});
+        w.answerPassword("secret");
+        QTest::keyClick(w.window.get(), Qt::Key_F5);
+        w.onDialog<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "Are you sure you want to delete the input files after encryption?\n\n" +
+                                      w.path("a") + "\n" + w.path("b"));
+            EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+            box.button(agreed ? QMessageBox::Yes : QMessageBox::No)->click();
+        });
+        ASSERT_TRUE(w.waitForEnd());
+        EXPECT_EQ(fs::exists(folder() / "a"), !agreed);
+        EXPECT_EQ(fs::exists(folder() / "b"), !agreed);
+        EXPECT_TRUE(fs::exists(folder() / "c") && fs::exists(folder() / "d"));
+        EXPECT_EQ(states()[2], "c: Done: The input file has been kept: it has another name (hard link).");
+        for (const char* name : {"a.enc", "b.enc", "c.enc"})
+            EXPECT_TRUE(fs::remove(folder() / name));
+    }
+}
+
+TEST_F(QueueTest, GathersFilesUntilItHasRun)
+{
+    for (const char* name : {"a", "b", "c"})
+        w.writeInput(name, 10);
+    fs::create_directory(folder() / "sub");
+    const auto drop = [this](const std::vector<const char*>& names) {
+        QMimeData files;
+        QList<QUrl> urls;
+        for (const char* name : names)
+            urls += QUrl::fromLocalFile(w.path(name));
+        files.setUrls(urls);
+        QDragEnterEvent enter({}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&w.form(), &enter);
+        QDropEvent event({}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&w.form(), &event);
+    };
+    drop({"a", "sub"});
+    EXPECT_EQ(w.input().text(), w.path("a")) << "one file is as ever";
+    EXPECT_EQ(w.text("inputMessage"),
+              "Folders and devices are left out: only files can be encrypted or decrypted.");
+    drop({"a", "b"});
+    EXPECT_EQ(w.input().text(), "");
+    drop({"c"});
+    EXPECT_EQ(states().size(), 3U);
+    auto& view = *w.window->findChild<QTreeView*>("fileList");
+    view.setCurrentIndex(list().index(2, 0));
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(states().size(), 2U);
+    run(Qt::Key_F5);
+    EXPECT_EQ(w.result(), "2 of 2 files encrypted");
+    drop({"c"});
+    EXPECT_EQ(w.input().text(), w.path("c")) << "what has been done is not added to";
+    EXPECT_FALSE(w.form().isQueueShown());
+}
+
+} // namespace
