@@ -31,10 +31,10 @@ std::unique_ptr<crypto::ICipherEngine> make(bool encrypts)
 std::unique_ptr<crypto::ICipherEngine> engineOf(std::uint32_t algorithmId, bool encrypts)
 {
     switch (algorithmId) {
-#define BLOCK_CIPHER(id, name, cipher, key, block)                                                           \
+#define BLOCK_CIPHER(id, name, cipher, key, block, advice)                                                   \
     case id:                                                                                                 \
         return make<CBC_Mode<cipher>, key, block, block>(encrypts);
-#define STREAM_CIPHER(id, name, cipher, key, iv)                                                             \
+#define STREAM_CIPHER(id, name, cipher, key, iv, advice)                                                     \
     case id:                                                                                                 \
         return make<cipher, key, iv, 0>(encrypts);
 #include "crypto/catalogue/algorithms.def"

@@ -8,6 +8,7 @@
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/CkeyboardShortcutInfoDialog.h"
 #include "ui/options/COptionsDialog.h"
+#include "ui/password/CPasswordGeneratorDialog.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
@@ -65,9 +66,9 @@ public:
     void saveToolTip(const QString& name, QWidget& widget)
     {
         QToolTip::showText(widget.mapToGlobal({}), widget.toolTip(), &widget);
-        for (QWidget* window : QApplication::topLevelWidgets())
+        for (QWidget* window : QApplication::topLevelWidgets()) // at once: it may go at any time
             if (window->inherits("QTipLabel"))
-                save(name, *window);
+                window->grab().save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
         QToolTip::hideText();
     }
 
@@ -79,6 +80,10 @@ private:
 void savePasswordDialogs(Gallery& gallery)
 {
     CSetPasswordDialog encrypt;
+    encrypt.setSubject(
+        QStringLiteral("a rather long name of a file that nobody would type, and that has to be "
+                       "shortened in the middle.tar.gz"),
+        10);
     encrypt.setAlgorithmName(QStringLiteral("AES-256"));
     gallery.save(QStringLiteral("password_encrypt"), encrypt, [&encrypt] {
         QTest::keyClicks(encrypt.findChild<QLineEdit*>(QStringLiteral("lineEditPassword")),
@@ -97,7 +102,10 @@ void savePasswordDialogs(Gallery& gallery)
     CSetPasswordDialog decrypt;
     decrypt.setEncryptMode(false);
     decrypt.setAlgorithmName(QStringLiteral("AES-256"));
+    decrypt.setSubject(QStringLiteral("letter.txt.enc"), 0);
     gallery.save(QStringLiteral("password_decrypt"), decrypt);
+    CPasswordGeneratorDialog generator;
+    gallery.save(QStringLiteral("password_generator"), generator);
 }
 
 void saveKeyDialogs(Gallery& gallery)

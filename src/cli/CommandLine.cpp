@@ -35,10 +35,12 @@ CLI::App* addCipherCommand(CLI::App& app, Parsed& parsed, const char* name, cons
         ->capture_default_str();
     CLI::Option* password = command->add_option("--password-file", arguments.passwordFile,
                                                 "the password is its first line; - is standard input");
-    CLI::Option* key = command->add_option("--key-file", arguments.keyFile, "the key in hexadecimal");
-    CLI::Option* iv = command->add_option("--iv-file", arguments.ivFile, "the IV in hexadecimal");
+    CLI::Option* key = command->add_option("--key-file", arguments.keyFile,
+                                           "the key in hexadecimal, or what the window saved");
+    CLI::Option* iv =
+        command->add_option("--iv-file", arguments.ivFile, "the IV in hexadecimal, or what the window saved");
     password->type_name("FILE")->excludes(key)->excludes(iv);
-    key->type_name("FILE")->needs(iv);
+    key->type_name("FILE");
     iv->type_name("FILE")->needs(key);
     command->add_option("--output", arguments.output, defaultOutput)
         ->type_name("OUT")

@@ -1,5 +1,6 @@
 #include "cli/Secrets.h"
 
+#include "common/secret/KeyFile.h"
 #include "common/secret/PasswordRules.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Interrupts.h"
@@ -8,6 +9,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace cli {
@@ -63,26 +65,55 @@ bool acceptPassword(const SecretBytes& bytes, SecretText& password, std::string&
     return true;
 }
 
-bool readHexFile(const std::string& path, const char* what, std::uint32_t length, SecretBytes& bytes,
-                 std::string& problem)
+struct SKeyAndIv
 {
-    SecretBytes text;
-    if (!readSecretFile(path, false, text)) {
+    std::optional<SecretBytes> key;
+    std::optional<SecretBytes> iv;
+    bool isPair = false; ///< else the same bytes stand for either
+};
+
+/// Of hexadecimal digits, which may be either, or of what the window's "Save..." wrote, which has both.
+bool readKeyAndIv(const std::string& path, const char* what, SKeyAndIv& read, std::string& problem)
+{
+    SecretBytes bytes;
+    if (!readSecretFile(path, false, bytes)) {
         problem = "cannot read the " + std::string(what) + " file " + path;
         return false;
     }
-    auto decoded = tessaly::decodeHex({reinterpret_cast<const char*>(text.data()), text.size()});
-    if (!decoded) {
-        problem = "the " + std::string(what) + " is not hexadecimal";
-        return false;
-    }
-    if (decoded->size() != length) {
-        problem = "the " + std::string(what) + " has " + std::to_string(decoded->size()) +
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (auto saved = thisapp::parseKeyFile(text))
+        read = {std::move(saved->key), std::move(saved->iv), true};
+    else
+        read.key = read.iv = tessaly::decodeHex(text);
+    if (!read.key)
+        problem = "the " + std::string(what) + " is not hexadecimal: " + path;
+    return problem.empty();
+}
+
+bool hasLength(const SecretBytes& bytes, const char* what, std::uint32_t length, std::string& problem)
+{
+    if (bytes.size() != length)
+        problem = "the " + std::string(what) + " has " + std::to_string(bytes.size()) +
                   " bytes, the algorithm takes " + std::to_string(length);
+    return problem.empty();
+}
+
+bool readKeyFiles(const Arguments& arguments, tessaly::crypto::FileJobRequest& request, std::string& problem)
+{
+    SKeyAndIv key;
+    SKeyAndIv iv;
+    if (!readKeyAndIv(*arguments.keyFile, "key", key, problem) ||
+        (arguments.ivFile && !readKeyAndIv(*arguments.ivFile, "IV", iv, problem)))
+        return false;
+    if (!arguments.ivFile && !key.isPair) {
+        problem = "no IV in " + *arguments.keyFile + ": name its --iv-file";
         return false;
     }
-    bytes = std::move(*decoded);
-    return true;
+    request.key = std::move(*key.key);
+    request.iv = std::move(*(arguments.ivFile ? iv.iv : key.iv));
+    const auto& record = tessaly::crypto::findAlgorithm(arguments.algorithmId)->record;
+    return hasLength(request.key, "key", record.keyLength, problem) &&
+           hasLength(request.iv, "IV", record.ivLength, problem);
 }
 
 SecretOutcome askForPassword(bool twice, SecretText& password, std::string& problem)
@@ -108,13 +139,8 @@ SecretOutcome gatherSecret(const Arguments& arguments, tessaly::crypto::FileJobR
                            std::string& problem)
 {
     request.passwordMode = !arguments.keyFile;
-    if (arguments.keyFile) {
-        const auto& record = tessaly::crypto::findAlgorithm(arguments.algorithmId)->record;
-        return readHexFile(*arguments.keyFile, "key", record.keyLength, request.key, problem) &&
-                       readHexFile(*arguments.ivFile, "IV", record.ivLength, request.iv, problem)
-                   ? SecretOutcome::Ready
-                   : SecretOutcome::Unusable;
-    }
+    if (arguments.keyFile)
+        return readKeyFiles(arguments, request, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
     if (!arguments.passwordFile)
         return askForPassword(arguments.command == Command::Encrypt, request.password, problem);
     SecretBytes line;

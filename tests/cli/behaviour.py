@@ -143,15 +143,26 @@ class Behaviour(unittest.TestCase):
         for arguments in ([], ["encrypt"], ["frobnicate"], ["encrypt", "--nonsense", "plain"], ["encrypt", "plain"],
                           ["encrypt", "--output", "", "--password-file", "pw", "plain"],
                           ["encrypt", "--algorithm", "ROT13", "--password-file", "pw", "plain"],
-                          ["decrypt", "--salt", "plain"], ["decrypt", "--seal", "plain"], ["encrypt", "--seal", "--salt", "plain"], ["encrypt", "--key-file", "key", "plain"],
-                          ["encrypt", "--key-file", "key", "--iv-file", "iv", "--password-file", "pw", "plain"]):
+                          ["decrypt", "--salt", "plain"], ["decrypt", "--seal", "plain"], ["encrypt", "--seal", "--salt", "plain"],
+                          ["encrypt", "--iv-file", "iv", "plain"], ["encrypt", "--key-file", "key", "--iv-file", "iv", "--password-file", "pw", "plain"]):
             with self.subTest(arguments):
                 self.run_cli(*arguments, code=2)
+        self.assertIn("no IV", self.run_cli("encrypt", "--key-file", "key", "plain", code=1))
         self.assertIn("has 15 bytes", self.run_cli("encrypt", "--key-file", "key", "--iv-file", "iv", "plain", code=1))
         for password, word in (("", "empty"), ("zero\0byte", "control character"), ("a\rb", "line break"), ("\t", "tab")):
             self.write("pw", password)
             self.assertIn(word, self.encrypt("plain", code=1))
         self.assert_files("key", "iv")
+
+    def test_reads_what_the_window_saved(self):
+        self.write("key", "0011" * 16)
+        self.write("iv", "22" * 16)
+        self.write("saved", "Quillet key and initialization vector\r\nAlgorithm: AES-256\r\n"
+                            "Initialization vector (IV): %s\r\nKey: %s\r\n" % ("22222222 " * 4, "00110011 " * 8))
+        self.run_cli("encrypt", "--key-file", "saved", "--output", "e", "plain")
+        for secret in (["key", "--iv-file", "iv"], ["saved", "--iv-file", "saved"], ["key", "--iv-file", "saved"]):
+            self.run_cli("decrypt", "--key-file", *secret, "--force", "--output", "d", "e")
+            self.assertEqual(self.read("d"), self.read("plain"))
 
     def test_messages_show_names_as_they_are(self):
         for name, shown in ((b"a\nb", r"a\nb"), (b"\x1b[2J\xff", r"\x1B[2J\xFF"), ("\x9b\u202egnp.exe".encode(),

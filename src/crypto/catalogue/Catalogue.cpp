@@ -8,19 +8,21 @@ namespace tessaly::crypto {
 namespace {
 
 constexpr CatalogueEntry block(std::uint32_t id, std::string_view name, std::uint32_t key,
-                               std::uint32_t blockLength)
+                               std::uint32_t blockLength, AlgAdvice advice)
 {
-    return {id, name, {key, blockLength, CipherMode::Cbc, blockLength, false, false}};
+    return {id, name, {key, blockLength, CipherMode::Cbc, blockLength, false, false}, advice};
 }
 
-constexpr CatalogueEntry stream(std::uint32_t id, std::string_view name, std::uint32_t key, std::uint32_t iv)
+constexpr CatalogueEntry stream(std::uint32_t id, std::string_view name, std::uint32_t key, std::uint32_t iv,
+                                AlgAdvice advice)
 {
-    return {id, name, {key, iv, CipherMode::Stream, 0, name == "Panama", true}};
+    return {id, name, {key, iv, CipherMode::Stream, 0, name == "Panama", true}, advice};
 }
 
 constexpr std::array Entries{
-#define BLOCK_CIPHER(id, name, cipher, key, blockLength) block(id, name, key, blockLength),
-#define STREAM_CIPHER(id, name, cipher, key, iv) stream(id, name, key, iv),
+#define BLOCK_CIPHER(id, name, cipher, key, blockLength, advice)                                             \
+    block(id, name, key, blockLength, AlgAdvice::advice),
+#define STREAM_CIPHER(id, name, cipher, key, iv, advice) stream(id, name, key, iv, AlgAdvice::advice),
 #include "crypto/catalogue/algorithms.def"
 };
 

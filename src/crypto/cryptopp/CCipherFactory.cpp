@@ -13,9 +13,9 @@ namespace {
 using namespace ciphers;
 
 // Every length in the catalogue is one that the cipher itself declares.
-#define BLOCK_CIPHER(id, name, cipher, key, block)                                                           \
+#define BLOCK_CIPHER(id, name, cipher, key, block, advice)                                                   \
     static_assert(cipher::BLOCKSIZE == (block) && cipher::StaticGetValidKeyLength(key) == (key), name);
-#define STREAM_CIPHER(id, name, cipher, key, iv)                                                             \
+#define STREAM_CIPHER(id, name, cipher, key, iv, advice)                                                     \
     static_assert(cipher::IV_LENGTH == (iv) && cipher::StaticGetValidKeyLength(key) == (key), name);
 #include "crypto/catalogue/algorithms.def"
 
@@ -41,11 +41,11 @@ template <class Cipher>
 crypto::CryptoResult makeById(std::uint32_t algorithmId, std::unique_ptr<Cipher>& cipher)
 {
     switch (algorithmId) {
-#define BLOCK_CIPHER(id, name, cipherClass, key, block)                                                      \
+#define BLOCK_CIPHER(id, name, cipherClass, key, block, advice)                                              \
     case id:                                                                                                 \
         make<id, key, block, block, CBC_Mode<cipherClass>>(cipher);                                          \
         return {};
-#define STREAM_CIPHER(id, name, cipherClass, key, iv)                                                        \
+#define STREAM_CIPHER(id, name, cipherClass, key, iv, advice)                                                \
     case id:                                                                                                 \
         make<id, key, iv, 0, cipherClass>(cipher);                                                           \
         return {};

@@ -14,8 +14,9 @@ namespace thisapp {
 class ICryptoAlgProvider;
 
 /// Lists the provider's algorithms anew, in its order: the display name as text, the AlgSelection
-/// in the user role. A disabled algorithm is listed greyed and can't be chosen.
-void fillAlgList(QListWidget& list, const ICryptoAlgProvider& provider);
+/// in the user role, the columns as AlgColumns.h has them, advice as tool tip. A disabled algorithm is
+/// listed greyed and can't be chosen. With recommendedFirst the recommended ones stand before the others.
+void fillAlgList(QListWidget& list, const ICryptoAlgProvider& provider, bool recommendedFirst = false);
 /// Likewise; leaves no item current.
 void fillAlgList(QComboBox& box, const ICryptoAlgProvider& provider);
 

@@ -5,9 +5,11 @@
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/style/FitToScreen.h"
 #include "ui/style/TextSize.h"
 #include "ui_CAlgInfoDialog.h"
 
+#include <QListWidget>
 #include <QShowEvent>
 #include <chrono>
 #include <utility>
@@ -33,11 +35,13 @@ CAlgInfoDialog::CAlgInfoDialog(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::CAlgInfoDialog>())
 {
     m_ui->setupUi(this);
-    m_ui->plainTextEditInfo->setMinimumSize(thisapp::textSize(*this, 60, 20));
+    m_ui->frameList->list().setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_ui->splitterPanes->setStretchFactor(1, 1);
+    m_ui->plainTextEditInfo->setMinimumSize(thisapp::textSize(*this, 20, 4));
     m_timer.setSingleShot(true);
     m_timer.setInterval(PrintDelay);
     connect(&m_timer, &QTimer::timeout, this, &CAlgInfoDialog::onUiPrintAlgInfo);
-    connect(m_ui->listWidgetAlg, &QListWidget::itemSelectionChanged, this,
+    connect(&m_ui->frameList->list(), &QListWidget::itemSelectionChanged, this,
             &CAlgInfoDialog::onUiItemSelectionChanged);
     connect(m_ui->buttonClose, &QPushButton::clicked, this, &QDialog::accept);
 }
@@ -60,13 +64,22 @@ void CAlgInfoDialog::showEvent(QShowEvent* event)
 {
     if (m_provider && m_fillOnNextShow.with([](bool& flag) { return std::exchange(flag, false); }))
         fill();
+    if (!event->spontaneous()) {
+        const int listWidth = m_ui->frameList->sizeHint().width();
+        const QSize text = thisapp::textSize(*this, 60, 24);
+        m_ui->splitterPanes->setSizes({listWidth, text.width()});
+        const QMargins margins = layout()->contentsMargins();
+        thisapp::fitToScreen(*this, {listWidth + m_ui->splitterPanes->handleWidth() + text.width() +
+                                         margins.left() + margins.right(),
+                                     text.height()});
+    }
     QDialog::showEvent(event);
 }
 
 void CAlgInfoDialog::fill()
 {
-    QListWidget& list = *m_ui->listWidgetAlg;
-    thisapp::fillAlgList(list, *m_provider);
+    m_ui->frameList->setProvider(*m_provider);
+    QListWidget& list = m_ui->frameList->list();
     if (const int row = thisapp::findAlg(list, m_selection); row >= 0) {
         list.setCurrentRow(row);
         list.scrollToItem(list.currentItem(), QAbstractItemView::PositionAtCenter);
@@ -83,7 +96,7 @@ void CAlgInfoDialog::onUiItemSelectionChanged()
 void CAlgInfoDialog::onUiPrintAlgInfo()
 {
     QString report;
-    const QListWidget& list = *m_ui->listWidgetAlg;
+    const QListWidget& list = m_ui->frameList->list();
     for (int row = 0; row < list.count(); ++row) {
         const QListWidgetItem& item = *list.item(row);
         if (!item.isSelected())

@@ -1,5 +1,6 @@
 #include "ui/algorithms/CSelectAlgFrame.h"
 
+#include "ui/algorithms/AlgColumns.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 #include "ui_CSelectAlgFrame.h"
@@ -13,6 +14,7 @@ CSelectAlgFrame::CSelectAlgFrame(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->comboBoxAlg);
+    m_ui->comboBoxAlg->setItemDelegate(new thisapp::AlgItemDelegate(m_ui->comboBoxAlg));
     connect(m_ui->comboBoxAlg, QOverload<int>::of(&QComboBox::activated), this,
             &CSelectAlgFrame::onUiAlgActivated);
 }

@@ -11,6 +11,7 @@ std::optional<SDefaultAlgOutcome> askDefaultAlgorithm(QWidget* parent, const ICr
     CSetAlgDialog dialog(parent);
     dialog.setProvider(provider);
     dialog.setSelection(stored && provider.isValid(*stored) ? *stored : DefaultAlgSelection);
+    dialog.setUseAsDefault(true);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const AlgSelection chosen = dialog.selection();

@@ -1,5 +1,6 @@
 #include "ui/info/CTextViewDialog.h"
 
+#include "ui/style/FitToScreen.h"
 #include "ui/style/TextSize.h"
 #include "ui_CTextViewDialog.h"
 
@@ -16,7 +17,7 @@ CTextViewDialog::CTextViewDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui
     connect(m_ui->buttonRefresh, &QPushButton::clicked, this, &CTextViewDialog::onUiRefresh);
     connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
             &CTextViewDialog::onUiRefresh);
-    resize(thisapp::textSize(*this, 100, 30));
+    thisapp::fitToScreen(*this, thisapp::textSize(*this, 100, 30));
 }
 
 CTextViewDialog::~CTextViewDialog() = default;

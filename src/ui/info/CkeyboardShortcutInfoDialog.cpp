@@ -1,5 +1,6 @@
 #include "ui/info/CkeyboardShortcutInfoDialog.h"
 
+#include "ui/style/FitToScreen.h"
 #include "ui/style/TextSize.h"
 #include "ui_CkeyboardShortcutInfoDialog.h"
 
@@ -9,7 +10,7 @@ CkeyboardShortcutInfoDialog::CkeyboardShortcutInfoDialog(QWidget* parent)
     : QDialog(parent), m_ui(new Ui::CkeyboardShortcutInfoDialog)
 {
     m_ui->setupUi(this);
-    resize(thisapp::textSize(*this, 72, 18));
+    thisapp::fitToScreen(*this, thisapp::textSize(*this, 72, 18));
 }
 
 CkeyboardShortcutInfoDialog::~CkeyboardShortcutInfoDialog() = default;

@@ -19,6 +19,7 @@ CAdvancedOptionsFrame::CAdvancedOptionsFrame(QWidget* parent)
                                   static_cast<unsigned>(row.level));
     }
     m_ui->labelViewLog->setLinkText(tr("View log file"));
+    thisapp::showDescriptionsAsToolTips(*this);
     connect(m_ui->comboLevel, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &CAdvancedOptionsFrame::changed);
     connect(m_ui->checkUseLogFile, &QCheckBox::toggled, this, &CAdvancedOptionsFrame::changed);
@@ -53,5 +54,6 @@ void CAdvancedOptionsFrame::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
         m_ui->labelViewLog->setLinkText(tr("View log file"));
+        thisapp::showDescriptionsAsToolTips(*this);
     }
 }

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QEvent>
+#include <algorithm>
 
 using thisapp::SAppOptions;
 
@@ -105,9 +106,7 @@ void CGeneralOptionsFrame::store(SAppOptions& options) const
         options.*box.option = box.widget->isChecked();
     if (m_ui->comboLanguage->currentIndex() >= 0)
         options.localeId = m_ui->comboLanguage->currentData().toUInt();
-    options.setDefaultAlgorithm(options.useDefaultAlgorithmAtStarting
-                                    ? m_ui->comboAlgorithm->currentData().value<thisapp::AlgSelection>()
-                                    : thisapp::AlgSelection());
+    options.setDefaultAlgorithm(m_ui->comboAlgorithm->currentData().value<thisapp::AlgSelection>());
     const QString typed = outputDir().trimmed();
     options.outputDirPath = QDir::toNativeSeparators(thisapp::folderPath(typed).value_or(typed));
 }
@@ -132,6 +131,23 @@ void CGeneralOptionsFrame::setConfirmDeleteEnabled(bool enabled)
     m_ui->checkConfirmDelete->setEnabled(enabled);
 }
 
+QSize CGeneralOptionsFrame::minimumSizeHint() const
+{
+    const QMargins margins = m_ui->columns->contentsMargins();
+    return {std::max(m_ui->leftColumn->minimumSize().width(), m_ui->rightColumn->minimumSize().width()) +
+                margins.left() + margins.right(),
+            m_ui->columns->minimumSize().height()};
+}
+
+void CGeneralOptionsFrame::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    const QMargins margins = m_ui->columns->contentsMargins();
+    const int wanted = m_ui->leftColumn->minimumSize().width() + m_ui->columns->spacing() +
+                       m_ui->rightColumn->minimumSize().width() + margins.left() + margins.right();
+    m_ui->columns->setDirection(width() < wanted ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
 void CGeneralOptionsFrame::changeEvent(QEvent* event)
 {
     QFrame::changeEvent(event);
@@ -143,7 +159,7 @@ void CGeneralOptionsFrame::changeEvent(QEvent* event)
 
 void CGeneralOptionsFrame::fillTexts()
 {
-    thisapp::showDescriptionAsToolTip(*m_ui->checkSeal);
+    thisapp::showDescriptionsAsToolTips(*this);
     fillShortcuts();
 }
 

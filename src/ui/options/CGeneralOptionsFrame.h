@@ -18,7 +18,7 @@ namespace Ui {
 class CGeneralOptionsFrame;
 }
 
-/// The "General settings" tab of the options dialog.
+/// The "General settings" tab of the options dialog: two columns where there is the room, else one.
 class CGeneralOptionsFrame : public QFrame
 {
     Q_OBJECT
@@ -38,7 +38,6 @@ public:
     void setOptions(const thisapp::SAppOptions& options);
     /// Sets the values of this tab, and nothing else. A language that isn't offered stays as it was.
     /// The default output folder is spelt out where its text means one (see common/settings/TextRules.h).
-    /// The algorithm is none while there is to be no default one, so that the stored one stays.
     void store(thisapp::SAppOptions& options) const;
 
     /// The default output folder, as typed.
@@ -46,6 +45,9 @@ public:
     void setOutputDir(const QString& path);
     void focusOutputDir();
     void setConfirmDeleteEnabled(bool enabled);
+
+    /// Of one column.
+    QSize minimumSizeHint() const override;
 
 signals:
     void browseClicked();
@@ -55,6 +57,7 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct Box;

@@ -5,7 +5,9 @@
 #include "common/settings/TextRules.h"
 #include "ui/info/CTextViewDialog.h"
 #include "ui/info/TextTail.h"
-#include "ui/style/TextSize.h"
+#include "ui/options/NamingWarning.h"
+#include "ui/style/FitToScreen.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui_COptionsDialog.h"
 
 #include <QCloseEvent>
@@ -13,33 +15,15 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QShowEvent>
-#include <QStyle>
-
-#include <algorithm>
 
 using thisapp::NamingDirection;
 using thisapp::NamingSettings;
-
-namespace {
-
-const QString SampleInput = QStringLiteral("MyFile.txt");
-
-} // namespace
 
 COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::COptionsDialog)
 {
     m_ui->setupUi(this);
     setNamingTexts();
-    for (QScrollArea* area : {m_ui->scrollGeneral, m_ui->scrollNames, m_ui->scrollAdvanced}) {
-        // The tab's own background shall show through.
-        area->viewport()->setAutoFillBackground(false);
-        area->widget()->setAutoFillBackground(false);
-        // Wide enough to scroll down only.
-        const int width = area->widget()->minimumSizeHint().width() +
-                          style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area);
-        area->setMinimumWidth(std::min(width, thisapp::textSize(*this, 90, 1).width()));
-    }
-
+    thisapp::showDescriptionAsToolTip(*m_ui->buttonRestore);
     connect(m_ui->frameGeneral, &CGeneralOptionsFrame::browseClicked, this,
             &COptionsDialog::onUiOpenDefaultOutputDir);
     connect(m_ui->frameGeneral, &CGeneralOptionsFrame::languageChanged, this,
@@ -50,8 +34,8 @@ COptionsDialog::COptionsDialog(QWidget* parent) : QDialog(parent), m_ui(new Ui::
     connect(m_ui->frameAdvanced, &CAdvancedOptionsFrame::changed, this, &COptionsDialog::updateSamples);
     connect(m_ui->frameAdvanced, &CAdvancedOptionsFrame::viewLogFileClicked, this,
             &COptionsDialog::onUiViewLogFileClicked);
+    connect(m_ui->buttonRestore, &QPushButton::clicked, this, &COptionsDialog::onUiRestoreDefaults);
     connectNaming();
-    resize(thisapp::textSize(*this, 90, 38));
 }
 
 COptionsDialog::~COptionsDialog() = default;
@@ -110,9 +94,12 @@ void COptionsDialog::onUiApply()
     if (!takeOver())
         return;
     if (m_receiver != nullptr)
-        setApplied(m_receiver->appOptionsChanged(m_options));
+        setApplied(m_receiver->appOptionsChanged(m_taken));
     m_ui->frameGeneral->setOutputDir(m_options.outputDirPath);
     m_ui->frameGeneral->setLanguage(m_options.localeId);
+    if (m_ui->buttonApply->hasFocus())
+        m_ui->buttonOk->setFocus();
+    settle();
     if (m_problem.isEmpty())
         m_ui->lineEditMsg->showMessage(tr("The options were applied."), MessageKind::Success);
     else
@@ -121,7 +108,7 @@ void COptionsDialog::onUiApply()
 
 void COptionsDialog::setApplied(const thisapp::SAppliedOptions& applied)
 {
-    m_options.localeId = applied.localeId;
+    m_options.localeId = m_taken.localeId = applied.localeId;
     m_problem = applied.problem;
 }
 
@@ -132,16 +119,30 @@ bool COptionsDialog::takeOver()
     if (options.useDefaultOutputDir && !thisapp::folderPath(options.outputDirPath)) {
         m_ui->tabs->setCurrentIndex(0);
         m_ui->frameGeneral->focusOutputDir();
-        m_ui->lineEditMsg->showMessage(namingWarning(NamingSettings(options)), thisapp::MessageKind::Error);
+        m_ui->lineEditMsg->showMessage(thisapp::namingWarning(NamingSettings(options)),
+                                       thisapp::MessageKind::Error);
         return false;
     }
-    m_options = options;
+    m_options = m_taken = options;
+    const bool chosen =
+        options.useDefaultAlgorithmAtStarting && (!m_settled.useDefaultAlgorithmAtStarting ||
+                                                  options.defaultAlgorithm() != m_settled.defaultAlgorithm());
+    if (!chosen)
+        m_taken.setDefaultAlgorithm({});
     return true;
 }
 
 void COptionsDialog::onUiCancel()
 {
     reject();
+}
+
+void COptionsDialog::onUiRestoreDefaults()
+{
+    thisapp::SAppOptions defaults;
+    defaults.localeId = shownOptions().localeId;
+    showOptions(defaults);
+    updateSamples();
 }
 
 void COptionsDialog::onUiOpenDefaultOutputDir()
@@ -181,16 +182,31 @@ void COptionsDialog::onUiDeleteSourceFileAfterEncryptionChanged(int state)
     m_ui->frameGeneral->setConfirmDeleteEnabled(state == Qt::Checked);
 }
 
+void COptionsDialog::showOptions(const thisapp::SAppOptions& options)
+{
+    const NamingSettings naming(options);
+    m_ui->frameGeneral->setOptions(options);
+    m_ui->frameEncryption->setParts(naming.encryption);
+    m_ui->frameDecryption->setParts(naming.decryption);
+    m_ui->frameAdvanced->setOptions(options);
+}
+
+/// From here on the controls differ from what is in effect only after a change.
+void COptionsDialog::settle()
+{
+    m_settled = shownOptions();
+    m_ui->buttonApply->setEnabled(false);
+}
+
 void COptionsDialog::showEvent(QShowEvent* event)
 {
+    if (!event->spontaneous())
+        thisapp::fitToScreen(*this);
     QDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    const NamingSettings naming(m_options);
-    m_ui->frameGeneral->setOptions(m_options);
-    m_ui->frameEncryption->setParts(naming.encryption);
-    m_ui->frameDecryption->setParts(naming.decryption);
-    m_ui->frameAdvanced->setOptions(m_options);
+    showOptions(m_options);
+    settle();
     updateSamples();
     if (!m_problem.isEmpty())
         m_ui->lineEditMsg->showMessage(m_problem, thisapp::MessageKind::Warning);
@@ -208,6 +224,7 @@ void COptionsDialog::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
         setNamingTexts();
+        thisapp::showDescriptionAsToolTip(*m_ui->buttonRestore);
     }
 }
 
@@ -235,36 +252,13 @@ thisapp::SAppOptions COptionsDialog::shownOptions() const
 
 void COptionsDialog::updateSamples()
 {
-    const NamingSettings naming(shownOptions());
+    const thisapp::SAppOptions options = shownOptions();
+    const NamingSettings naming(options);
     const auto sample = [&](NamingDirection direction) {
-        return thisapp::outputFileName(SampleInput, direction, naming, QDate::currentDate());
+        return thisapp::outputFileName(thisapp::SampleInput, direction, naming, QDate::currentDate());
     };
     m_ui->frameEncryption->setSample(sample(NamingDirection::Encryption));
     m_ui->frameDecryption->setSample(sample(NamingDirection::Decryption));
-    m_ui->lineEditMsg->showMessage(namingWarning(naming), thisapp::MessageKind::Warning);
-}
-
-QString COptionsDialog::namingWarning(const NamingSettings& naming) const
-{
-    if (!naming.autogenerate)
-        return {};
-    if (naming.useDefaultOutputDir && !thisapp::folderPath(naming.outputDirPath))
-        return tr("The default output folder must be an absolute path.");
-    if (naming.useDefaultOutputDir)
-        return naming.outputDirPath.isEmpty()
-                   ? tr("No default output folder is given: files go beside their input.")
-                   : QString();
-    const auto nextName = [&](const QString& name) {
-        return thisapp::outputFileName(name, thisapp::namingDirection(name, naming), naming,
-                                       QDate::currentDate());
-    };
-    const auto sameName = [](const QString& a, const QString& b) {
-        return a.compare(b, Qt::CaseInsensitive) == 0;
-    };
-    const QString encrypted = nextName(SampleInput);
-    if (sameName(encrypted, SampleInput))
-        return tr("Encrypted files would get the names of their input files.");
-    if (sameName(nextName(encrypted), encrypted))
-        return tr("Decrypted files would get the names of their input files.");
-    return {};
+    m_ui->lineEditMsg->showMessage(thisapp::namingWarning(naming), thisapp::MessageKind::Warning);
+    m_ui->buttonApply->setEnabled(options != m_settled);
 }

@@ -13,7 +13,6 @@ namespace thisapp {
 class IAppOptionsChanged;
 struct SAppliedOptions;
 class ICryptoAlgProvider;
-struct NamingSettings;
 } // namespace thisapp
 namespace Ui {
 class COptionsDialog;
@@ -40,18 +39,20 @@ public:
     void setReceiver(thisapp::IAppOptionsChanged* receiver) { m_receiver = receiver; }
 
     /// What the dialog shows when it opens.
-    void setOptions(const thisapp::SAppOptions& options) { m_options = options; }
+    void setOptions(const thisapp::SAppOptions& options) { m_options = m_taken = options; }
     /// A sentence that the dialog opens with: what of the options is not in effect. May be empty.
     void setProblem(const QString& problem) { m_problem = problem; }
     /// What came of the options that the dialog returned, for the next time it opens.
     void setApplied(const thisapp::SAppliedOptions& applied);
-    /// What OK or Apply took over last; what was set as long as neither did.
-    const thisapp::SAppOptions& options() const { return m_options; }
+    /// What OK or Apply took over last; what was set as long as neither did. The default algorithm is
+    /// none unless the user chose it here, so that what the window has selected stays.
+    const thisapp::SAppOptions& options() const { return m_taken; }
 
 public slots:
     void onUiOk();
     void onUiApply();
     void onUiCancel();
+    void onUiRestoreDefaults();
     void onUiOpenDefaultOutputDir();
     void onUiLanguageChanged(int index);
     void onUiViewLogFileClicked(const QString& path);
@@ -81,12 +82,15 @@ private:
     void connectNaming();
     void setNamingTexts();
     thisapp::SAppOptions shownOptions() const;
+    void showOptions(const thisapp::SAppOptions& options);
     bool takeOver();
     void updateSamples();
-    QString namingWarning(const thisapp::NamingSettings& naming) const;
+    void settle();
 
     std::unique_ptr<Ui::COptionsDialog> m_ui;
     thisapp::IAppOptionsChanged* m_receiver = nullptr;
     thisapp::SAppOptions m_options;
+    thisapp::SAppOptions m_taken;
+    thisapp::SAppOptions m_settled; ///< what the controls showed when nothing had been changed
     QString m_problem;
 };

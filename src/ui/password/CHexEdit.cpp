@@ -4,6 +4,7 @@
 #include "ui/style/ThemeChange.h"
 
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QStyle>
 #include <algorithm>
@@ -50,6 +51,15 @@ void CHexEdit::insertFromMimeData(const QMimeData* source)
     QPlainTextEdit::insertFromMimeData(&cut);
 }
 
+void CHexEdit::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !event->modifiers().testFlag(Qt::ShiftModifier))
+        emit notifyEntered();
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}
+
 void CHexEdit::recolor()
 {
     if (!m_valid)
@@ -68,4 +78,12 @@ QSize CHexEdit::sizeHint() const
     const int width = fontMetrics().horizontalAdvance(QString(CharactersPerLine + 1, QLatin1Char('0')));
     return {width + margins + style()->pixelMetric(QStyle::PM_ScrollBarExtent),
             fontMetrics().lineSpacing() * (2 * lines + 1) / 2 + margins};
+}
+
+QSize CHexEdit::minimumSizeHint() const
+{
+    constexpr int Characters = 36;
+    const QSize wanted = sizeHint();
+    return {std::min(wanted.width(), fontMetrics().averageCharWidth() * Characters),
+            std::min(wanted.height(), fontMetrics().lineSpacing() * 5 / 2)};
 }

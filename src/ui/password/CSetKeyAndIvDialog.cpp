@@ -1,19 +1,20 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 
 #include "common/path/PathText.h"
+#include "common/secret/KeyFile.h"
 #include "crypto/key/RandomBytes.h"
 #include "io/PrivateFile.h"
 #include "lib/secret/Hex.h"
 #include "ui/password/HexCheck.h"
-#include "ui/password/KeyAndIvText.h"
+#include "ui/password/SecretClipboard.h"
 #include "ui/password/SecretFields.h"
+#include "ui/style/FitToScreen.h"
 #include "ui/style/PlainToolTip.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
-#include <QClipboard>
 #include <QFileDialog>
-#include <QMimeData>
+#include <QMessageBox>
 #include <QShowEvent>
 
 using namespace tessaly;
@@ -38,8 +39,10 @@ CSetKeyAndIvDialog::CSetKeyAndIvDialog(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->labelNormalMode->setLinkText(tr("Show simple options"));
-    m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 90, 1).width());
-    thisapp::showDescriptionAsToolTip(*m_ui->checkBoxSeal);
+    m_ui->buttonCopy->setAccessibleDescription(
+        tr("Puts key and IV on the clipboard, from where they are removed after %1 seconds.")
+            .arg(thisapp::SecretClipboardTime.count()));
+    thisapp::showDescriptionsAsToolTips(*this);
     connectWidgets();
 }
 
@@ -55,6 +58,9 @@ void CSetKeyAndIvDialog::connectWidgets()
     connect(m_ui->buttonGenerate, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiGenerate);
     connect(m_ui->buttonCopy, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiCopy);
     connect(m_ui->buttonSave, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiSave);
+    connect(m_ui->buttonLoad, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiLoad);
+    for (CHexEdit* field : {m_ui->plainTextEditIv, m_ui->plainTextEditKey})
+        connect(field, &CHexEdit::notifyEntered, m_ui->buttonOk, &QPushButton::click);
     connect(m_ui->labelNormalMode, &QLabel::linkActivated, this, &CSetKeyAndIvDialog::onUiSwitchToNormalMode);
     connect(m_ui->checkBoxSeal, &QCheckBox::toggled, m_ui->checkBoxUseSalt, &QWidget::setDisabled);
     connect(m_ui->buttonOk, &QPushButton::clicked, this, &CSetKeyAndIvDialog::onUiOk);
@@ -91,7 +97,8 @@ void CSetKeyAndIvDialog::prepare()
     showTexts();
     m_ui->checkBoxSeal->setVisible(m_encrypt);
     m_ui->checkBoxUseSalt->setVisible(m_encrypt);
-    m_ui->frameTools->setVisible(m_encrypt);
+    for (QWidget* tool : {m_ui->buttonGenerate, m_ui->buttonCopy, m_ui->buttonSave})
+        tool->setVisible(m_encrypt);
     m_ui->checkBoxSeal->setChecked(m_seal);
     m_ui->checkBoxUseSalt->setChecked(m_useSalt);
     m_ui->checkBoxRewrite->setChecked(m_rewriteOutputFile);
@@ -102,8 +109,9 @@ void CSetKeyAndIvDialog::prepare()
     m_iv.clear();
     m_switchToNormal = false;
     fillFields();
+    m_mayRegenerate = false;
     m_ui->plainTextEditIv->setFocus();
-    adjustSize();
+    thisapp::fitToScreen(*this);
 }
 
 void CSetKeyAndIvDialog::showTexts()
@@ -140,11 +148,13 @@ void CSetKeyAndIvDialog::fillFields()
 
 void CSetKeyAndIvDialog::onUiKeyChanged()
 {
+    m_mayRegenerate = false;
     check();
 }
 
 void CSetKeyAndIvDialog::onUiIvChanged()
 {
+    m_mayRegenerate = false;
     check();
 }
 
@@ -178,32 +188,49 @@ SecretText CSetKeyAndIvDialog::textToKeep() const
 {
     const auto iv = decodeHex(thisapp::typedText(*m_ui->plainTextEditIv).view());
     const auto key = decodeHex(thisapp::typedText(*m_ui->plainTextEditKey).view());
-    return thisapp::keyAndIvText(m_algorithmName, key.value_or(SecretBytes()), iv.value_or(SecretBytes()));
+    return thisapp::keyFileText(m_algorithmName.toStdString(), key.value_or(SecretBytes()),
+                                iv.value_or(SecretBytes()));
+}
+
+/// Asks before it loses what somebody typed, loaded, or has kept already.
+bool CSetKeyAndIvDialog::mayReplaceFields()
+{
+    const bool empty =
+        m_ui->plainTextEditIv->document()->isEmpty() && m_ui->plainTextEditKey->document()->isEmpty();
+    return empty || m_mayRegenerate ||
+           QMessageBox::question(this, windowTitle(),
+                                 tr("Replace the key and IV that stand in the fields?")) == QMessageBox::Yes;
+}
+
+void CSetKeyAndIvDialog::showFields(const SecretBytes& key, const SecretBytes& iv)
+{
+    thisapp::setTypedText(*m_ui->plainTextEditIv, encodeHex(iv));
+    thisapp::setTypedText(*m_ui->plainTextEditKey, encodeHex(key));
 }
 
 void CSetKeyAndIvDialog::onUiGenerate()
 {
     SecretBytes key;
     SecretBytes iv;
+    if (!mayReplaceFields())
+        return;
     if (!crypto::randomBytes(m_ivLength, iv).ok() || !crypto::randomBytes(m_keyLength, key).ok()) {
         m_ui->lineEditMsg->showMessage(tr("The system's random generator failed."), MessageKind::Error);
         return;
     }
-    thisapp::setTypedText(*m_ui->plainTextEditIv, encodeHex(iv));
-    thisapp::setTypedText(*m_ui->plainTextEditKey, encodeHex(key));
+    showFields(key, iv);
+    m_mayRegenerate = true;
     m_ui->lineEditMsg->showMessage(
         tr("Copy or save the key and IV: without them the file cannot be decrypted."), MessageKind::Warning);
 }
 
 void CSetKeyAndIvDialog::onUiCopy()
 {
-    const SecretText text = textToKeep();
-    auto* mimeData = new QMimeData;
-    mimeData->setText(QString::fromUtf8(text.c_str(), static_cast<int>(text.size())));
-    // Asks clipboard managers to keep it out of their history.
-    mimeData->setData(QStringLiteral("x-kde-passwordManagerHint"), QByteArrayLiteral("secret"));
-    QGuiApplication::clipboard()->setMimeData(mimeData);
-    m_ui->lineEditMsg->showMessage(tr("The key and IV are on the clipboard."), MessageKind::Success);
+    thisapp::copySecret(textToKeep());
+    m_mayRegenerate = false;
+    m_ui->lineEditMsg->showMessage(
+        tr("The key and IV are on the clipboard for %1 seconds.").arg(thisapp::SecretClipboardTime.count()),
+        MessageKind::Success);
 }
 
 void CSetKeyAndIvDialog::onUiSave()
@@ -221,13 +248,45 @@ void CSetKeyAndIvDialog::onUiSave()
         m_ui->lineEditMsg->showMessage(
             tr("The key and IV could not be saved: %1").arg(tr("no answer from the disk")),
             MessageKind::Error);
-    else if (saved.get()->ok())
+    else if (saved.get()->ok()) {
+        m_mayRegenerate = false;
         m_ui->lineEditMsg->showMessage(tr("The key and IV were saved. Only you can read the file."),
                                        MessageKind::Success);
-    else
+    } else
         m_ui->lineEditMsg->showMessage(tr("The key and IV could not be saved: %1")
                                            .arg(qt_error_string(static_cast<int>(saved.get()->code))),
                                        MessageKind::Error);
+}
+
+void CSetKeyAndIvDialog::onUiLoad()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Load key and IV"), QString(),
+                                                      tr("Text files") + QStringLiteral(" (*.txt);;") +
+                                                          tr("All files") + QStringLiteral(" (*)"));
+    if (path.isEmpty() || !mayReplaceFields())
+        return;
+    const auto read = m_disk.start<std::optional<SecretBytes>>([file = thisapp::textPath(path)] {
+        SecretBytes bytes;
+        return io::readSmallFile(file, bytes).ok() ? std::optional(std::move(bytes)) : std::nullopt;
+    });
+    if (!m_disk.wait(read) || !read.get()) {
+        m_ui->lineEditMsg->showMessage(tr("The file cannot be read."), MessageKind::Error);
+        return;
+    }
+    const SecretBytes& bytes = *read.get();
+    const auto saved = thisapp::parseKeyFile({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    if (!saved) {
+        m_ui->lineEditMsg->showMessage(tr("The file holds no key and IV."), MessageKind::Error);
+        return;
+    }
+    showFields(saved->key, saved->iv);
+    const QString savedFor = QString::fromStdString(saved->algorithm);
+    if (!savedFor.isEmpty() && savedFor != m_algorithmName)
+        m_ui->lineEditMsg->showMessage(tr("The key and IV were saved for %1. The selected algorithm is %2.")
+                                           .arg(savedFor, m_algorithmName),
+                                       MessageKind::Warning);
+    else if (check())
+        m_ui->lineEditMsg->showMessage(tr("The key and IV were loaded."), MessageKind::Success);
 }
 
 void CSetKeyAndIvDialog::onUiOk()

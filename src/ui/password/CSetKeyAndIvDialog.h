@@ -61,6 +61,7 @@ private slots:
     void onUiGenerate();
     void onUiCopy();
     void onUiSave();
+    void onUiLoad();
     void onUiSwitchToNormalMode(const QString& link);
     void onUiOk();
     void onUiCancel();
@@ -69,6 +70,8 @@ private:
     void connectWidgets();
     void prepare();
     void showTexts();
+    bool mayReplaceFields();
+    void showFields(const tessaly::SecretBytes& key, const tessaly::SecretBytes& iv);
     void fillFields();
     bool check();
     void takeResults();
@@ -84,6 +87,8 @@ private:
     bool m_useSalt = false;
     bool m_rewriteOutputFile = false;
     bool m_switchToNormal = false;
+    /// The fields hold what Generate put there, and nobody keeps it.
+    bool m_mayRegenerate = false;
     QString m_algorithmName;
     STyped m_typed;
     tessaly::SecretBytes m_key;

@@ -2,23 +2,30 @@
 
 #include "common/secret/PasswordRules.h"
 #include "lib/platform/CapsLock.h"
+#include "ui/password/CPasswordGeneratorDialog.h"
 #include "ui/password/CapsLockWatcher.h"
 #include "ui/password/PasswordStrength.h"
 #include "ui/password/SecretFields.h"
+#include "ui/style/EyeIcon.h"
+#include "ui/style/FitToScreen.h"
 #include "ui/style/PlainToolTip.h"
 #include "ui/style/TextSize.h"
 #include "ui_CSetPasswordDialog.h"
 
+#include <QAction>
 #include <QCoreApplication>
+#include <QMessageBox>
 #include <QShowEvent>
 
 CSetPasswordDialog::CSetPasswordDialog(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::CSetPasswordDialog>())
 {
     m_ui->setupUi(this);
-    m_ui->lineEditMsg->setMinimumWidth(thisapp::textSize(*this, 56, 1).width());
+    m_ui->pageContents->setMinimumWidth(thisapp::textSize(*this, 56, 1).width());
+    m_ui->labelStrength->setMinimumHeight(m_ui->labelPassword->sizeHint().height());
     m_ui->labelAdvancedMode->setLinkText(tr("Show advanced options"));
-    thisapp::showDescriptionAsToolTip(*m_ui->checkBoxSeal);
+    thisapp::showDescriptionsAsToolTips(*this);
+    addEye();
     connectWidgets();
 }
 
@@ -34,6 +41,7 @@ void CSetPasswordDialog::connectWidgets()
             &CSetPasswordDialog::onUiConfirmPasswordChanged);
     connect(m_ui->checkBoxShowPassword, &QCheckBox::toggled, this,
             &CSetPasswordDialog::onUiShowPasswordToggled);
+    connect(m_ui->buttonGenerate, &QPushButton::clicked, this, &CSetPasswordDialog::onUiGenerate);
     connect(m_ui->labelAdvancedMode, &QLabel::linkActivated, this,
             &CSetPasswordDialog::onUiSwitchToAdvancedMode);
     connect(m_ui->checkBoxSeal, &QCheckBox::toggled, m_ui->checkBoxUseSalt, &QWidget::setDisabled);
@@ -45,6 +53,14 @@ void CSetPasswordDialog::connectWidgets()
     capsLock->watch(*m_ui->lineEditConfirmPassword);
     connect(capsLock, &CapsLockWatcher::notifyCapsLockChanged, this,
             &CSetPasswordDialog::onUiCapsLockChanged);
+}
+
+/// The check box for the mouse that is at the field already.
+void CSetPasswordDialog::addEye()
+{
+    m_eye = m_ui->lineEditPassword->addAction(thisapp::eyeIcon(false), QLineEdit::TrailingPosition);
+    m_eye->setCheckable(true);
+    connect(m_eye, &QAction::triggered, m_ui->checkBoxShowPassword, &QCheckBox::setChecked);
 }
 
 void CSetPasswordDialog::setSubject(const QString& fileName, int others)
@@ -78,7 +94,10 @@ void CSetPasswordDialog::prepare()
     setAccessibleDescription(m_ui->textEditInfo->toPlainText());
 
     m_ui->frameConfirmPassword->setVisible(confirms());
-    m_ui->labelStrength->setVisible(m_encrypt);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(m_ui->strengthBar), static_cast<QWidget*>(m_ui->labelStrength),
+          static_cast<QWidget*>(m_ui->buttonGenerate)})
+        widget->setVisible(m_encrypt);
     m_ui->checkBoxSeal->setVisible(m_encrypt);
     m_ui->checkBoxUseSalt->setVisible(m_encrypt);
     m_ui->labelAdvancedMode->setVisible(m_showAdvancedOptions);
@@ -93,8 +112,10 @@ void CSetPasswordDialog::prepare()
     clearFields();
     showStrength(QString());
     checkPasswords();
+    for (QLineEdit* field : {m_ui->lineEditPassword, m_ui->lineEditConfirmPassword})
+        thisapp::prepareSecret(*field);
     m_ui->lineEditPassword->setFocus();
-    adjustSize();
+    thisapp::fitToScreen(*this);
 }
 
 void CSetPasswordDialog::onUiPasswordChanged(const QString& text)
@@ -110,6 +131,9 @@ void CSetPasswordDialog::onUiConfirmPasswordChanged(const QString& /*text*/)
 
 void CSetPasswordDialog::onUiShowPasswordToggled(bool show)
 {
+    m_eye->setChecked(show);
+    m_eye->setIcon(thisapp::eyeIcon(show));
+    m_eye->setText(show ? tr("Hide password") : tr("Show password"));
     const QLineEdit::EchoMode mode = show ? QLineEdit::Normal : QLineEdit::Password;
     for (QLineEdit* field : {m_ui->lineEditPassword, m_ui->lineEditConfirmPassword}) {
         field->setEchoMode(mode);
@@ -121,6 +145,24 @@ void CSetPasswordDialog::onUiShowPasswordToggled(bool show)
 void CSetPasswordDialog::onUiCapsLockChanged(bool on)
 {
     m_ui->labelCapsLock->showMessage(on ? tr("Caps Lock is on.") : QString(), thisapp::MessageKind::Warning);
+}
+
+void CSetPasswordDialog::onUiGenerate()
+{
+    CPasswordGeneratorDialog generator(this);
+    if (generator.exec() != QDialog::Accepted)
+        return;
+    const bool typed =
+        !m_ui->lineEditPassword->text().isEmpty() || !m_ui->lineEditConfirmPassword->text().isEmpty();
+    if (typed &&
+        QMessageBox::question(this, windowTitle(), tr("Replace the password that stands in the field?")) !=
+            QMessageBox::Yes)
+        return;
+    QString password =
+        QString::fromUtf8(generator.password().c_str(), static_cast<int>(generator.password().size()));
+    m_ui->lineEditPassword->setText(password);
+    m_ui->lineEditConfirmPassword->setText(password);
+    m_ui->buttonOk->setFocus();
 }
 
 /// True unless the password can't be taken, or a confirmation is asked for and differs; shows what is
@@ -157,6 +199,7 @@ void CSetPasswordDialog::showStrength(const QString& password)
     if (!m_encrypt)
         return;
     const thisapp::SStrengthNotice notice = thisapp::strengthNotice(password);
+    m_ui->strengthBar->showStrength(notice);
     m_ui->labelStrength->showMessage(notice.text, notice.kind);
 }
 

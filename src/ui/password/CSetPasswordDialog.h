@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <memory>
 
+class QAction;
 namespace Ui {
 class CSetPasswordDialog;
 }
@@ -49,12 +50,14 @@ private slots:
     void onUiConfirmPasswordChanged(const QString& text);
     void onUiShowPasswordToggled(bool show);
     void onUiCapsLockChanged(bool on);
+    void onUiGenerate();
     void onUiSwitchToAdvancedMode(const QString& link);
     void onUiOk();
     void onUiCancel();
 
 private:
     void connectWidgets();
+    void addEye();
     void prepare();
     bool confirms() const { return m_encrypt && m_useConfirmPassword; }
     bool checkPasswords();
@@ -64,6 +67,7 @@ private:
     void clearFields();
 
     std::unique_ptr<Ui::CSetPasswordDialog> m_ui;
+    QAction* m_eye = nullptr; ///< owned by the password field
     bool m_encrypt = true;
     bool m_useConfirmPassword = true;
     bool m_showPassword = false;

@@ -3,6 +3,7 @@
 #include "ui/password/SecretFields.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <array>
 #include <zxcvbn.h>
 
@@ -56,23 +57,18 @@ double guessBits(const QString& password)
     return ZxcvbnMatch(text.c_str(), known, nullptr);
 }
 
-const SStrengthRow& rowOf(const QString& password)
-{
-    const double bits = guessBits(password);
-    for (const SStrengthRow& row : Rows)
-        if (bits < row.belowBits)
-            return row;
-    return Rows.back();
-}
-
 } // namespace
+
+SStrengthNotice strengthNotice(double bits)
+{
+    static_assert(Rows.size() == HighestStrength);
+    const auto* row = std::ranges::find_if(Rows, [bits](const auto& each) { return bits < each.belowBits; });
+    return {StrengthTexts::tr(row->text), row->kind, static_cast<int>(row - Rows.begin()) + 1};
+}
 
 SStrengthNotice strengthNotice(const QString& password)
 {
-    if (password.isEmpty())
-        return {QString(), MessageKind::Plain};
-    const SStrengthRow& row = rowOf(password);
-    return {StrengthTexts::tr(row.text), row.kind};
+    return password.isEmpty() ? SStrengthNotice() : strengthNotice(guessBits(password));
 }
 
 } // namespace thisapp

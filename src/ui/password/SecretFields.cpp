@@ -26,11 +26,23 @@ SecretText secretText(const QString& text)
     return secret;
 }
 
+void prepareSecret(QLineEdit& field)
+{
+    constexpr int Room = 512;
+    const QSignalBlocker blocker(field);
+    QString empty;
+    empty.reserve(Room);
+    field.setText(empty);
+}
+
 void clearSecret(QLineEdit& field)
 {
     const QSignalBlocker blocker(field);
-    QString text = field.text(); // shares the field's storage
+    // Both share the field's storage.
+    QString text = field.text();
+    QString shown = field.displayText();
     wipe(text);
+    wipe(shown);
     field.setText(QString()); // unlike clear(), drops the undo history
 }
 

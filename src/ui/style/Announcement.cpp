@@ -3,7 +3,9 @@
 #include <QAccessible>
 #include <QAccessibleInterface>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
+#include <chrono>
 #include <deque>
 
 namespace thisapp {
@@ -66,6 +68,17 @@ void announce(QWidget* source, const QString& text)
         QAccessibleEvent event(announcement, type);
         QAccessible::updateAccessibility(&event);
     }
+}
+
+void announceWhenSettled(QTimer& timer, QWidget& source, std::function<QString()> text)
+{
+    constexpr std::chrono::milliseconds Pause{600};
+    timer.setSingleShot(true);
+    timer.setInterval(Pause);
+    QObject::connect(&timer, &QTimer::timeout, &source, [&source, text = std::move(text)] {
+        if (source.isVisible())
+            announce(&source, text());
+    });
 }
 
 } // namespace thisapp

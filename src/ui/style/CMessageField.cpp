@@ -1,5 +1,6 @@
 #include "ui/style/CMessageField.h"
 
+#include "ui/style/Announcement.h"
 #include "ui/style/PlainToolTip.h"
 #include "ui/style/ThemeChange.h"
 
@@ -7,6 +8,10 @@ CMessageField::CMessageField(QWidget* parent) : QLineEdit(parent)
 {
     setReadOnly(true);
     setFrame(false);
+    setFocusPolicy(Qt::NoFocus);
+    constexpr int InnerMargin = 2; // Qt's own, which would set the text off from what stands above
+    setTextMargins(-InnerMargin, 0, -InnerMargin, 0);
+    thisapp::announceWhenSettled(m_announcement, *this, [this] { return text(); });
     thisapp::onThemeChange(*this, [this] {
         setStyleSheet(styleSheet());
         recolor();
@@ -15,9 +20,12 @@ CMessageField::CMessageField(QWidget* parent) : QLineEdit(parent)
 
 void CMessageField::showMessage(const QString& text, thisapp::MessageKind kind)
 {
+    if (text != this->text())
+        m_announcement.start();
     m_kind = kind;
     recolor();
     setText(text);
+    setFocusPolicy(text.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     setCursorPosition(0);
     thisapp::setPlainToolTip(*this, text);
 }

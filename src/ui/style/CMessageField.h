@@ -3,8 +3,10 @@
 #include "ui/style/MessageStyle.h"
 
 #include <QLineEdit>
+#include <QTimer>
 
-/// The one-line read-only field in which a dialog reports problems and outcomes.
+/// The one-line read-only field in which a dialog reports problems and outcomes, also to a screen
+/// reader. Tab reaches it only while it has something to tell.
 class CMessageField final : public QLineEdit
 {
     Q_OBJECT
@@ -20,4 +22,5 @@ private:
     void recolor();
 
     thisapp::MessageKind m_kind = thisapp::MessageKind::Plain;
+    QTimer m_announcement;
 };

@@ -3,8 +3,9 @@
 #include "ui/style/MessageStyle.h"
 
 #include <QLabel>
+#include <QTimer>
 
-/// A plain text in its kind's colour.
+/// A plain text in its kind's colour, which a screen reader speaks when it changes.
 class CMessageLabel final : public QLabel
 {
     Q_OBJECT
@@ -18,4 +19,5 @@ private:
     void recolor();
 
     thisapp::MessageKind m_kind = thisapp::MessageKind::Plain;
+    QTimer m_announcement;
 };

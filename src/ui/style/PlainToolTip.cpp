@@ -16,4 +16,11 @@ void showDescriptionAsToolTip(QWidget& widget)
     widget.setToolTip(Qt::convertFromPlainText(widget.accessibleDescription(), Qt::WhiteSpaceNormal));
 }
 
+void showDescriptionsAsToolTips(QWidget& form)
+{
+    for (QWidget* widget : form.findChildren<QWidget*>())
+        if (!widget->accessibleDescription().isEmpty())
+            showDescriptionAsToolTip(*widget);
+}
+
 } // namespace thisapp

@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QSignalSpy>
 
@@ -73,6 +74,46 @@ TEST(SetAlgDialog, FillsOnceForEachRequest)
     EXPECT_EQ(dialog.selection(), Enabled);
 }
 
+TEST(SetAlgDialog, FiltersByEveryColumnAndPutsTheRecommendedFirst)
+{
+    const CCryptoAlgProvider provider;
+    CSetAlgDialog dialog;
+    dialog.setProvider(provider);
+    dialog.setSelection(thisapp::DefaultAlgSelection);
+    open(dialog);
+    auto& list = child<QListWidget>(dialog, "listWidgetAlg");
+    auto& filter = child<QLineEdit>(dialog, "lineEditFilter");
+    const auto shown = [&list] {
+        QStringList names;
+        for (int row = 0; row < list.count(); ++row)
+            if (!list.item(row)->isHidden())
+                names += list.item(row)->text();
+        return names.join(' ');
+    };
+    const std::pair<const char*, const char*> cases[] = {
+        {"SERPENT", "Serpent-128 Serpent-192 Serpent-256"},
+        {"blocks of 1024", "Threefish-1024"},
+        {" recommended", "AES-256 Twofish-256 Serpent-256 Camellia-256"},
+        {"short key", "Skipjack"},
+        {"no such", ""},
+    };
+    for (const auto& [text, names] : cases) {
+        filter.setText(text);
+        EXPECT_EQ(shown(), names);
+        EXPECT_EQ(child(dialog, "buttonOk").isEnabled(), *names != '\0');
+    }
+    filter.setText("serpent");
+    press(Qt::Key_F, Qt::AltModifier);
+    press(Qt::Key_Down); // in the list, from the field
+    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 451}));
+    filter.clear();
+    press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(shown().startsWith("AES-256 Twofish-256 Serpent-256 Camellia-256 Panama ")) << shown();
+    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 451}));
+    press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(shown().startsWith("Panama ")) << "the catalogue's order again";
+}
+
 TEST(SelectAlgFrame, FindsByTypingAndTellsOnlyOfTheUsersChoices)
 {
     const CCryptoAlgProvider provider;
@@ -125,23 +166,23 @@ TEST(DefaultAlgCommand, OpensOnTheStoredDefaultOrTheBuiltInOne)
         const auto outcome = thisapp::askDefaultAlgorithm(nullptr, provider, stored);
         ASSERT_TRUE(outcome);
         EXPECT_EQ(outcome->current, opensOn);
-        EXPECT_FALSE(outcome->storeAsDefault);
+        EXPECT_TRUE(outcome->storeAsDefault);
     }
 }
 
-TEST(DefaultAlgCommand, StoresWhenAskedToAndDoesNothingWhenCancelled)
+TEST(DefaultAlgCommand, StoresUnlessToldOtherwiseAndDoesNothingWhenCancelled)
 {
     const CCryptoAlgProvider provider;
     whenModal([](QWidget& modal) {
         press(Qt::Key_Down);
         press(Qt::Key_U, Qt::AltModifier);
-        EXPECT_TRUE(child<QCheckBox>(modal, "checkBoxUseAsDefault").isChecked());
+        EXPECT_FALSE(child<QCheckBox>(modal, "checkBoxUseAsDefault").isChecked());
         press(Qt::Key_Return);
     });
     const auto outcome = thisapp::askDefaultAlgorithm(nullptr, provider, AlgSelection{1, 400});
     ASSERT_TRUE(outcome);
     EXPECT_EQ(outcome->current, (AlgSelection{1, 401}));
-    EXPECT_TRUE(outcome->storeAsDefault);
+    EXPECT_FALSE(outcome->storeAsDefault);
 
     whenModal([](QWidget&) { press(Qt::Key_Escape); });
     EXPECT_FALSE(thisapp::askDefaultAlgorithm(nullptr, provider, std::nullopt));

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -68,6 +69,13 @@ protected:
     COptionsDialog dialog;
 };
 
+/// Without the default algorithm, as it is when nobody chose one.
+SAppOptions unchosen(SAppOptions options)
+{
+    options.setDefaultAlgorithm({});
+    return options;
+}
+
 /// Presses Tab until a widget has the focus; false when it is never reached.
 bool tabTo(const QWidget& target)
 {
@@ -82,7 +90,7 @@ TEST_F(OptionsDialog, ShowsAndReturnsEveryValue)
         show(options);
         press(Qt::Key_Return);
         EXPECT_EQ(dialog.result(), QDialog::Accepted);
-        EXPECT_EQ(dialog.options(), options);
+        EXPECT_EQ(dialog.options(), unchosen(options)) << "what the window has selected stays";
     }
     EXPECT_TRUE(applied.empty()) << "after OK it is the caller who hands the options on";
     EXPECT_EQ(child<QComboBox>(dialog, "comboLevel").currentText(), "DEBUG");
@@ -131,10 +139,10 @@ TEST_F(OptionsDialog, EveryCheckBoxStandsForItsOption)
         (*found)->toggle();
         SAppOptions expected;
         expected.*option = !(expected.*option);
-        if (!expected.useDefaultAlgorithmAtStarting)
-            expected.setDefaultAlgorithm({}); // leaves the stored one alone
+        EXPECT_TRUE(child(dialog, "buttonApply").isEnabled()) << label;
         dialog.onUiApply();
-        EXPECT_EQ(applied.back(), expected) << label;
+        EXPECT_EQ(unchosen(applied.back()), unchosen(expected)) << label;
+        EXPECT_FALSE(child(dialog, "buttonApply").isEnabled()) << label;
         (*found)->toggle();
     }
 }
@@ -162,6 +170,16 @@ TEST_F(OptionsDialog, ApplyHandsOverAndCancelKeepsThat)
     EXPECT_EQ(dialog.options(), applied[0]) << "closing the window cancels";
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_EQ(applied.size(), 1U);
+}
+
+TEST_F(OptionsDialog, RestoresTheDefaultsOfAllButTheLanguage)
+{
+    show(test::changedOptions());
+    child<QPushButton>(dialog, "buttonRestore").click();
+    dialog.onUiOk();
+    SAppOptions expected;
+    expected.localeId = 1031;
+    EXPECT_EQ(dialog.options(), expected) << "with the default algorithm, as it is another one";
 }
 
 TEST_F(OptionsDialog, DependentControlsFollowTheirCheckBoxes)
@@ -219,6 +237,16 @@ TEST_F(OptionsDialog, WarnsOfNamesThatCannotWork)
     EXPECT_EQ(text("lineEditMsg"), "No default output folder is given: files go beside their input.");
     write(child(dialog, "editOutputDir"), " /tmp ");
     EXPECT_EQ(text("lineEditMsg"), "");
+    QWidget& ext = inFrame("frameEncryption", "editExt");
+    for (const auto& [typed, warning] :
+         {std::pair("a.enc", "Files are not recognised by an extension with a dot inside."),
+          {"e?c", "Windows and most memory sticks take no names with one of <>:\"|?*"},
+          {"e", ""}}) {
+        write(ext, typed);
+        EXPECT_EQ(text("lineEditMsg"), warning);
+    }
+    write(ext, QByteArray(255, 'x').constData());
+    EXPECT_EQ(text("lineEditMsg"), "File names would become longer than a file system takes.");
     dialog.onUiOk();
     EXPECT_EQ(dialog.options().outputDirPath, "/tmp");
 }
@@ -337,8 +365,10 @@ TEST_F(OptionsDialog, EveryControlHasAMnemonicOfItsOwnOnItsTab)
         std::set<QString> seen;
         const auto check = [&](const QString& label) {
             const QString key = QKeySequence::mnemonic(label).toString();
-            // The link has none, and the letters of the other are all taken.
-            EXPECT_NE(key.isEmpty(), label != "Shortcut keys:" && !label.startsWith("<a ")) << label;
+            // The link has none, and the letters of the others are all taken.
+            EXPECT_NE(key.isEmpty(),
+                      label != "Shortcut keys:" && label != "Restore defaults" && !label.startsWith("<a "))
+                << label;
             EXPECT_TRUE(key.isEmpty() || seen.insert(key).second) << tab << ": " << label;
         };
         for (int i = 0; i < tabs.count(); ++i)
@@ -395,6 +425,7 @@ TEST_F(OptionsDialog, KeyboardAlone)
     press(Qt::Key_End);
     press(Qt::Key_U, Qt::AltModifier);
     press(Qt::Key_A, Qt::AltModifier);
+    const SAppOptions last = dialog.options();
     EXPECT_TRUE(tabTo(child(dialog, "buttonCancel")));
     EXPECT_TRUE(tabTo(child(dialog, "checkUseLogFile")));
     press(Qt::Key_Return);
@@ -409,8 +440,9 @@ TEST_F(OptionsDialog, KeyboardAlone)
     expected.decFileNameSuffix = "-s";
     expected.logLevel = 6;
     expected.useLogFile = true;
-    EXPECT_EQ(dialog.options(), expected);
+    EXPECT_EQ(last, expected);
     EXPECT_EQ(applied, std::vector{expected});
+    EXPECT_EQ(dialog.options(), unchosen(expected)) << "it was applied before";
 }
 
 } // namespace

@@ -95,9 +95,9 @@ TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     type("0102");
     press(Qt::Key_Tab);
     type("a1a2");
-    press(Qt::Key_Return); // a line break in the key
+    press(Qt::Key_Return, Qt::ShiftModifier); // a line break in the key
     type("a3a4");
-    for (const char* name : {"buttonGenerate", "buttonCopy", "buttonSave", "checkBoxSeal"}) {
+    for (const char* name : {"buttonGenerate", "buttonCopy", "buttonSave", "buttonLoad", "checkBoxSeal"}) {
         press(Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), &child(dialog, name));
     }
@@ -109,7 +109,7 @@ TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     press(Qt::Key_Space); // rewrite
     press(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &child(dialog, "labelNormalMode"));
-    press(Qt::Key_Tab);
+    key.setFocus();
     press(Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.switchToNormal());
@@ -188,8 +188,8 @@ TEST_F(KeyAndIvDialog, ForgetsEverythingWhenCancelled)
     EXPECT_FALSE(key.document()->isUndoAvailable());
 }
 
-/// Saves through the file dialog; confirms if it asks whether to replace the file.
-void saveFrom(QWidget& dialog, const std::string& path)
+/// Saves or loads through the file dialog; says yes to whatever it asks.
+void useFile(QWidget& dialog, Qt::Key mnemonic, const std::string& path)
 {
     QApplication::setActiveWindow(&dialog);
     whenModal([path](QWidget& modal) {
@@ -199,7 +199,7 @@ void saveFrom(QWidget& dialog, const std::string& path)
             whenModal([](QWidget&) { press(Qt::Key_Y, Qt::AltModifier); });
         QTest::keyClick(&name, Qt::Key_Return);
     });
-    press(Qt::Key_S, Qt::AltModifier);
+    press(mnemonic, Qt::AltModifier);
 }
 
 TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
@@ -220,7 +220,7 @@ TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
     press(Qt::Key_C, Qt::AltModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), text);
 
-    saveFrom(dialog, folder / "key.txt");
+    useFile(dialog, Qt::Key_S, folder / "key.txt");
     EXPECT_EQ(message(), "The key and IV were saved. Only you can read the file.");
     EXPECT_EQ(test::readFile(folder / "key.txt"), text.toStdString());
     using std::filesystem::perms;
@@ -229,7 +229,13 @@ TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
     const std::filesystem::directory_iterator files(folder.path());
     EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "a temporary file is left";
 
-    saveFrom(dialog, "/proc/key.txt"); // where nobody can write
+    iv.setPlainText("not what was saved");
+    useFile(dialog, Qt::Key_L, folder / "key.txt"); // over what was typed
+    EXPECT_EQ(message(), "The key and IV were loaded.");
+    EXPECT_EQ(test::readFile(folder / "key.txt").find(iv.toPlainText().toStdString() + "\nKey: "),
+              text.toStdString().find(iv.toPlainText().toStdString()));
+
+    useFile(dialog, Qt::Key_S, "/proc/key.txt"); // where nobody can write
     EXPECT_TRUE(message().startsWith("The key and IV could not be saved: ")) << message();
 }
 

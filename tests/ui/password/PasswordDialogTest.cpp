@@ -86,6 +86,7 @@ TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     EXPECT_EQ(password.echoMode(), QLineEdit::Password);
     press(Qt::Key_Space); // show password
     EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
+    press(Qt::Key_Tab); // generate
     press(Qt::Key_Tab);
     EXPECT_FALSE(child(dialog, "checkBoxUseSalt").isEnabled()) << "a seal has one";
     press(Qt::Key_Space); // no seal
@@ -163,11 +164,13 @@ TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
     EXPECT_TRUE(confirmation.hasFocus());
     press(Qt::Key_P, Qt::AltModifier);
     type("secret");
-    const QString storage = password.text(); // shares the field's characters
+    const QString storage = password.text();      // shares the field's characters
+    const QString shown = password.displayText(); // and the copy that it shows
     press(Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_TRUE(dialog.password().empty());
     EXPECT_EQ(storage, QString(6, QChar(0)));
+    EXPECT_EQ(shown, QString(6, QChar(0)));
     EXPECT_EQ(password.text(), QString());
     EXPECT_FALSE(password.isUndoAvailable());
 }
