@@ -20,47 +20,98 @@ import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
 ACTIVE = {pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_MENU_ITEM,
           pyatspi.ROLE_CHECK_MENU_ITEM, pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LINK, pyatspi.ROLE_TOGGLE_BUTTON,
           pyatspi.ROLE_TEXT, pyatspi.ROLE_PASSWORD_TEXT, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_SLIDER,
-          pyatspi.ROLE_BUTTON_MENU, pyatspi.ROLE_ENTRY}
+          pyatspi.ROLE_PUSH_BUTTON_MENU, pyatspi.ROLE_ENTRY}
 NAMED = ACTIVE | {pyatspi.ROLE_PROGRESS_BAR, pyatspi.ROLE_MENU, pyatspi.ROLE_PAGE_TAB, pyatspi.ROLE_LIST,
-                  pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE, pyatspi.ROLE_TREE_TABLE, pyatspi.ROLE_DIALOG, pyatspi.ROLE_FRAME}
+                  pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE, pyatspi.ROLE_TREE_TABLE, pyatspi.ROLE_DIALOG}
 # Qt's own widgets within a widget, which nobody comes to.
 WITHIN = {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_SPIN_BUTTON}
+# Named after what they stand for, by the list or table that they are in.
+PARTS = {pyatspi.ROLE_TABLE_CELL, pyatspi.ROLE_LIST_ITEM, pyatspi.ROLE_TREE_ITEM, pyatspi.ROLE_FRAME,
+         pyatspi.ROLE_TABLE_COLUMN_HEADER, pyatspi.ROLE_TABLE_ROW_HEADER, pyatspi.ROLE_SCROLL_PANE}
 
-MENU_DIALOGS = [("Options...", "Options"), ("Default algorithm...", "Default algorithm"),
-                ("Information about algorithms...", ""), ("Keyboard shortcuts...", ""), ("About...", "")]
+# What opens a dialog, from the tool bar, and what opens one from there.
+DIALOGS = [("Options", []), ("Default algorithm", []), ("Information about algorithms", []),
+           ("Keyboard shortcuts", []), ("About", []), ("Encrypt", ["Generate...", "Show advanced options"])]
+SECRET = "Tr0ub4dor-and-3"
 
 
-def eventually(look):
-    end = time.monotonic() + PATIENCE
+def eventually(look, seconds=PATIENCE):
+    end = time.monotonic() + seconds
     while not (answer := look()) and time.monotonic() < end:
         time.sleep(0.05)
     return answer
 
 
+def states(node, *wanted):
+    return all(node.getState().contains(state) for state in wanted)
+
+
+def name_of(node):
+    """Of a list to choose from, Qt gives the choice as the name, and the label apart."""
+    if node.getRole() != pyatspi.ROLE_COMBO_BOX:
+        return node.name
+    labels = [relation.getTarget(0).name for relation in node.getRelationSet()
+              if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY]
+    return labels[0] if labels else ""
+
+
 class Walk:
-    def __init__(self):
+    def __init__(self, application):
+        self.application = application
         self.faults = []
         self.count = 0
 
     def window(self, window):
         print(f"== {window.name or '(no name)'}")
+        if not window.name:
+            self.faults.append("a window without a title")
         self.node(window, 0, False)
+        for tab in pyatspi.findAllDescendants(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB)[1:]:
+            do(tab, "Press")
+            page = eventually(lambda: find(window, lambda n: n.name == tab.name and n != tab and
+                                           states(n, pyatspi.STATE_SHOWING)) or tab)
+            self.node(page if page != tab else window, 1, False)
 
     def node(self, node, depth, within):
         role = node.getRole()
-        actions = actions_of(node)
-        showing = node.getState().contains(pyatspi.STATE_VISIBLE)
-        if role in NAMED and showing and not within:
-            self.count += 1
-            line = f"{'  ' * depth}{node.getRoleName()} \"{node.name}\" {', '.join(actions)}"
-            print(line)
-            if not node.name:
-                self.faults.append("no name: " + path_to(node))
-            if role in ACTIVE and not actions:
-                self.faults.append("no action: " + path_to(node))
+        is_reached = states(node, pyatspi.STATE_FOCUSABLE, pyatspi.STATE_SHOWING) and role not in PARTS
+        shown = states(node, pyatspi.STATE_VISIBLE) or node.parent.getRole() == pyatspi.ROLE_POPUP_MENU
+        if shown and not within and (role in NAMED or is_reached):
+            self.control(node, depth)
         for child in node:
             if child is not None:
                 self.node(child, depth + 1, within or role in WITHIN)
+
+    def control(self, node, depth):
+        name, actions = name_of(node), actions_of(node)
+        self.count += 1
+        print(f"{'  ' * depth}{node.getRoleName()} \"{name}\" {', '.join(actions)}")
+        if not name and node.getRole() != pyatspi.ROLE_SEPARATOR:
+            self.faults.append("no name: " + path_to(node))
+        if node.getRole() in ACTIVE and not actions and states(node, pyatspi.STATE_ENABLED, pyatspi.STATE_FOCUSABLE):
+            self.faults.append("no action: " + path_to(node))
+
+    def dialog(self, parent, name, inner):
+        """Opens it, walks it and what it opens, and closes it."""
+        before = windows(self.application)
+        opener = find(parent, lambda n: n.name == name and states(n, pyatspi.STATE_SHOWING))
+        if opener is None:
+            self.faults.append(f"nothing that opens {name}")
+            return
+        dialog = opened(self.application, opener, before)
+        if dialog is None:
+            self.faults.append(f"no dialog of {name}")
+            return
+        self.window(dialog)
+        for further in inner:
+            self.dialog(dialog, further, [])
+        closer = next(filter(None, (button(dialog, text) for text in ("Cancel", "Close", "OK"))), None)
+        if closer is None:
+            self.faults.append(f"nothing that closes {name}")
+            return
+        do(closer, "Press")
+        if not eventually(lambda: len(windows(self.application)) == len(before)):
+            self.faults.append(f"the dialog of {name} stays")
 
 
 def actions_of(node):
@@ -79,8 +130,12 @@ def path_to(node):
     return " in ".join(steps)
 
 
-def find(node, role, name):
-    return pyatspi.findDescendant(node, lambda n: n.getRole() == role and n.name == name)
+def find(node, predicate):
+    return pyatspi.findDescendant(node, predicate)
+
+
+def button(node, name):
+    return find(node, lambda n: n.getRole() == pyatspi.ROLE_PUSH_BUTTON and n.name == name)
 
 
 def do(node, *wanted):
@@ -90,17 +145,36 @@ def do(node, *wanted):
     node.queryAction().doAction(names.index(name))
 
 
+def click(node):
+    """In its middle: an action that opens a dialog would not return before that is closed."""
+    box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    subprocess.run(["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2), "click", "1"],
+                   check=True, timeout=PATIENCE)
+
+
 def windows(application):
     return [window for window in application if window is not None]
 
 
-def close(application, dialog):
-    """As Escape does."""
-    for name in ("Cancel", "Close", "OK", "No"):
-        if button := find(dialog, pyatspi.ROLE_PUSH_BUTTON, name):
-            do(button, "Press")
-            break
-    return eventually(lambda: len(windows(application)) == 1)
+def opened(application, opener, before):
+    """The window that it opens. A click is lost where another dialog is just going."""
+    for _ in range(PATIENCE // 2):
+        click(opener)
+        dialog = eventually(lambda: next((w for w in windows(application) if w not in before), None), 2)
+        if dialog is not None:
+            return dialog
+    return None
+
+
+def encrypt(walk, main):
+    """Leaves the window with a result."""
+    dialog = opened(walk.application, button(main, "Encrypt"), [main])
+    for field in pyatspi.findAllDescendants(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
+        field.queryEditableText().setTextContents(SECRET)
+    do(button(dialog, "OK"), "Press")
+    if not eventually(lambda: len(windows(walk.application)) == 1 and find(
+            main, lambda n: "successfully" in n.name and states(n, pyatspi.STATE_SHOWING))):
+        walk.faults.append("no result to read")
 
 
 def walk(quillet, home):
@@ -110,30 +184,18 @@ def walk(quillet, home):
     process = subprocess.Popen([quillet, file], env=os.environ | {
         "HOME": home, "XDG_CONFIG_HOME": home, "XDG_DATA_HOME": home, "XDG_STATE_HOME": home,
         "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
-    walk = Walk()
     try:
         desktop = pyatspi.Registry.getDesktop(0)
         application = eventually(lambda: next((a for a in desktop if a is not None and len(a) > 0 and
                                                a.get_process_id() == process.pid), None))
+        walk = Walk(application)
         main = application[0]
-        eventually(lambda: main.getState().contains(pyatspi.STATE_SHOWING))
+        eventually(lambda: "letter.txt" in main.name)
         walk.window(main)
-        openers = [(pyatspi.ROLE_MENU_ITEM, item) for item, _ in MENU_DIALOGS] + \
-                  [(pyatspi.ROLE_PUSH_BUTTON, "Encrypt")]
-        for role, name in openers:
-            opener = find(main, role, name)
-            if opener is None:
-                walk.faults.append(f"nothing that opens a dialog: {name}")
-                continue
-            do(opener, "Press")
-            dialog = eventually(lambda: next((w for w in windows(application) if w != main), None))
-            if dialog is None:
-                walk.faults.append(f"no dialog of {name}")
-                continue
-            walk.window(dialog)
-            if not close(application, dialog):
-                walk.faults.append(f"the dialog of {name} stays")
-                break
+        for name, inner in DIALOGS:
+            walk.dialog(main, name, inner)
+        encrypt(walk, main)
+        walk.window(main)
     finally:
         process.terminate()
         process.wait(PATIENCE)
