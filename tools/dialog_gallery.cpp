@@ -11,6 +11,7 @@
 #include "ui/password/CPasswordGeneratorDialog.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
+#include "ui/style/TextSize.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -161,8 +162,15 @@ void saveAlgorithmDialogs(Gallery& gallery)
     gallery.save(QStringLiteral("algorithm_info"), info);
 }
 
+/// As many as the program has.
 const thisapp::Shortcuts SomeShortcuts{{Qt::Key_F5, "Start encryption"},
-                                       {thisapp::ctrl(Qt::Key_F8), "Clear entered data"}};
+                                       {Qt::Key_F6, "Start decryption"},
+                                       {Qt::Key_F8, "Stop encryption/decryption"},
+                                       {thisapp::ctrl(Qt::Key_F8), "Clear entered data"},
+                                       {thisapp::ctrl(Qt::Key_F9), "Open folder with input file"},
+                                       {thisapp::ctrl(Qt::Key_F10), "Open folder with output file"},
+                                       {thisapp::ctrl(Qt::Key_O), "Add file to encrypt/decrypt"},
+                                       {thisapp::ctrl(Qt::Key_N), "Add file to encrypt/decrypt"}};
 
 void saveOptionsDialog(Gallery& gallery)
 {
@@ -180,7 +188,7 @@ void saveOptionsDialog(Gallery& gallery)
                  [=] { scrollBar->setValue(scrollBar->maximum()); });
     dialog.findChild<QCheckBox*>(QStringLiteral("checkUseOutputDir"))->setChecked(true);
     gallery.save(QStringLiteral("options_small"), dialog, [&dialog] { dialog.resize(400, 300); });
-    dialog.resize(dialog.sizeHint());
+    dialog.resize(thisapp::textSize(dialog, 116, 40));
     auto* folder = dialog.findChild<QLineEdit*>(QStringLiteral("editOutputDir"));
     gallery.save(QStringLiteral("options_folder"), dialog, [&dialog, folder] {
         folder->setText(QStringLiteral("sftp://host/folder"));

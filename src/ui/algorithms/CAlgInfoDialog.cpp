@@ -37,7 +37,7 @@ CAlgInfoDialog::CAlgInfoDialog(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->frameList->list().setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_ui->splitterPanes->setStretchFactor(1, 1);
-    m_ui->plainTextEditInfo->setMinimumSize(thisapp::textSize(*this, 20, 4));
+    m_ui->plainTextEditInfo->setMinimumSize(thisapp::textSize(*this, 24, 4));
     m_timer.setSingleShot(true);
     m_timer.setInterval(PrintDelay);
     connect(&m_timer, &QTimer::timeout, this, &CAlgInfoDialog::onUiPrintAlgInfo);

@@ -1,8 +1,10 @@
 #include "ui/algorithms/CAlgListFrame.h"
 
 #include "ui/algorithms/AlgListFiller.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui_CAlgListFrame.h"
 
+#include <QAction>
 #include <QKeyEvent>
 
 using thisapp::AlgSelection;
@@ -30,6 +32,9 @@ CAlgListFrame::CAlgListFrame(QWidget* parent) : QFrame(parent), m_ui(std::make_u
     m_ui->setupUi(this);
     setFocusProxy(m_ui->listWidgetAlg);
     m_ui->lineEditFilter->installEventFilter(this);
+    if (auto* clear = m_ui->lineEditFilter->findChild<QAction*>()) // Qt leaves its button without a name
+        clear->setText(tr("Clear the filter"));
+    thisapp::showDescriptionsAsToolTips(*this);
     m_ui->checkBoxRecommendedFirst->setChecked(recommendedFirst);
     connect(m_ui->lineEditFilter, &QLineEdit::textChanged, this, &CAlgListFrame::onUiFilterChanged);
     connect(m_ui->checkBoxRecommendedFirst, &QCheckBox::toggled, this, &CAlgListFrame::onUiRecommendedFirst);

@@ -131,6 +131,21 @@ void CGeneralOptionsFrame::setConfirmDeleteEnabled(bool enabled)
     m_ui->checkConfirmDelete->setEnabled(enabled);
 }
 
+QSize CGeneralOptionsFrame::twoColumns(const QSize& left, const QSize& right) const
+{
+    const QMargins margins = m_ui->columns->contentsMargins();
+    return {left.width() + m_ui->columns->spacing() + right.width() + margins.left() + margins.right(),
+            std::max(left.height(), right.height()) + margins.top() + margins.bottom()};
+}
+
+QSize CGeneralOptionsFrame::sizeHint() const
+{
+    // Beside a scroll bar, too, which shows until the columns have their places.
+    const int spare = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) +
+                      2 * fontMetrics().averageCharWidth();
+    return twoColumns(m_ui->leftColumn->sizeHint(), m_ui->rightColumn->sizeHint()) + QSize(spare, 0);
+}
+
 QSize CGeneralOptionsFrame::minimumSizeHint() const
 {
     const QMargins margins = m_ui->columns->contentsMargins();
@@ -142,10 +157,8 @@ QSize CGeneralOptionsFrame::minimumSizeHint() const
 void CGeneralOptionsFrame::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
-    const QMargins margins = m_ui->columns->contentsMargins();
-    const int wanted = m_ui->leftColumn->minimumSize().width() + m_ui->columns->spacing() +
-                       m_ui->rightColumn->minimumSize().width() + margins.left() + margins.right();
-    m_ui->columns->setDirection(width() < wanted ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    const QSize wanted = twoColumns(m_ui->leftColumn->minimumSize(), m_ui->rightColumn->minimumSize());
+    m_ui->columns->setDirection(width() < wanted.width() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 void CGeneralOptionsFrame::changeEvent(QEvent* event)

@@ -46,6 +46,8 @@ public:
     void focusOutputDir();
     void setConfirmDeleteEnabled(bool enabled);
 
+    /// Of two columns, however many there are now.
+    QSize sizeHint() const override;
     /// Of one column.
     QSize minimumSizeHint() const override;
 
@@ -60,6 +62,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QSize twoColumns(const QSize& left, const QSize& right) const;
+
     struct Box;
     std::vector<Box> boxes() const;
     void indentDependents();

@@ -36,6 +36,8 @@ CPasswordGeneratorDialog::CPasswordGeneratorDialog(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->comboKind->addItem(tr("Random words"));
     m_ui->comboKind->addItem(tr("Random characters"));
+    for (auto* inner : m_ui->spinCount->findChildren<QLineEdit*>())
+        inner->setAccessibleName(m_ui->spinCount->accessibleName());
     QLineEdit& field = *m_ui->lineEditPassword;
     field.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     constexpr int ShownCharacters = 58;

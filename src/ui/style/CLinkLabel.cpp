@@ -2,6 +2,7 @@
 
 #include "ui/style/ThemeChange.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -10,10 +11,33 @@ namespace {
 
 constexpr char Target[] = "#";
 
+class AccessibleLink final : public QAccessibleWidget
+{
+public:
+    explicit AccessibleLink(CLinkLabel* label) : QAccessibleWidget(label, QAccessible::Link) {}
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction())
+            static_cast<CLinkLabel*>(widget())->follow();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+};
+
+QAccessibleInterface* makeAccessible(const QString&, QObject* object)
+{
+    auto* label = qobject_cast<CLinkLabel*>(object);
+    return label != nullptr ? new AccessibleLink(label) : nullptr;
+}
+
 } // namespace
 
 CLinkLabel::CLinkLabel(QWidget* parent) : QLabel(parent)
 {
+    static const bool known = (QAccessible::installFactory(makeAccessible), true);
+    Q_UNUSED(known)
     setTextFormat(Qt::RichText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     setFocusPolicy(Qt::StrongFocus);
@@ -29,11 +53,16 @@ void CLinkLabel::setLinkText(const QString& text)
     setAccessibleName(text);
 }
 
+void CLinkLabel::follow()
+{
+    emit linkActivated(QLatin1String(Target));
+}
+
 void CLinkLabel::keyPressEvent(QKeyEvent* event)
 {
     const int key = event->key();
     if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
-        emit linkActivated(QLatin1String(Target));
+        follow();
     else
         QLabel::keyPressEvent(event);
 }

@@ -2,7 +2,8 @@
 
 #include <QLabel>
 
-/// A label that is one hyperlink, for mouse and keyboard: Tab reaches it, Enter or Space follows it.
+/// A label that is one hyperlink, for mouse, keyboard and screen reader: Tab reaches it, Enter or Space
+/// follows it.
 class CLinkLabel final : public QLabel
 {
     Q_OBJECT
@@ -12,6 +13,8 @@ public:
 
     /// Shows a plain text as a link with the target "#".
     void setLinkText(const QString& text);
+    /// As a click on it does.
+    void follow();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -3,6 +3,7 @@
 #include "ui/style/ThemeChange.h"
 #include "ui/style/WheelGuard.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -16,6 +17,13 @@ CRoundedComboBox::CRoundedComboBox(QWidget* parent) : QComboBox(parent)
                        "QComboBox:focus, QComboBox:on { border-color: palette(highlight); }"
                        "QComboBox::drop-down { border: none; width: 1.6em; }"));
     thisapp::onThemeChange(*this, [this] { setStyleSheet(styleSheet()); });
+}
+
+void CRoundedComboBox::showEvent(QShowEvent* event)
+{
+    for (auto* list : findChildren<QAbstractItemView*>())
+        list->setAccessibleName(accessibleName());
+    QComboBox::showEvent(event);
 }
 
 // A style sheet can show the arrow only from an image, which knows no palette.

@@ -12,5 +12,6 @@ public:
     explicit CRoundedComboBox(QWidget* parent = nullptr);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };

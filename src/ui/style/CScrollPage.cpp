@@ -10,6 +10,9 @@ CScrollPage::CScrollPage(QWidget* parent) : QScrollArea(parent)
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
     viewport()->setAutoFillBackground(false);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int most) {
+        setViewportMargins(0, 0, most > 0 ? fontMetrics().averageCharWidth() : 0, 0);
+    });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now != nullptr && widget() != nullptr && widget()->isAncestorOf(now))
             ensureWidgetVisible(now);
@@ -30,7 +33,7 @@ QSize CScrollPage::minimumSizeHint() const
     const QFontMetrics metrics = fontMetrics();
     const int wanted =
         widget() != nullptr ? std::max(widget()->minimumSizeHint().width(), widget()->minimumWidth()) : 0;
-    return {std::min(wanted + verticalScrollBar()->sizeHint().width(),
+    return {std::min(wanted + verticalScrollBar()->sizeHint().width() + metrics.averageCharWidth(),
                      metrics.averageCharWidth() * MostCharacters),
             std::min(metrics.lineSpacing() * Lines, sizeHint().height())};
 }
