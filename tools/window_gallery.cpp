@@ -1,4 +1,4 @@
-// Saves a picture of the main window in each of its states: window_gallery FOLDER [dark] [narrow].
+// Saves a picture of the main window in each of its states: window_gallery FOLDER [dark] [narrow | small].
 // QT_SCALE_FACTOR=2 doubles the scale.
 #include "window/WindowHarness.h"
 
@@ -18,17 +18,52 @@ QPalette darkPalette()
     QPalette palette(QColor(0x35, 0x35, 0x35));
     palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
     palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    palette.setColor(QPalette::Link, QColor(0x6c, 0xb4, 0xf0));
     for (const auto role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
         palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
     return palette;
 }
 
+void run(test::WindowHarness& w, Qt::Key key, const char* password)
+{
+    w.answerPassword(password);
+    QTest::keyClick(w.window.get(), key);
+}
+
+/// A list of files: waiting, at work, done and failed.
+void saveQueue(test::WindowHarness& w, const std::function<void(const char*)>& save)
+{
+    QStringList files;
+    for (const char* name : {"Accounts 2025.ods", "Accounts 2026.ods",
+                             "Contract with a very long name, signed by both "
+                             "sides and translated, final version.pdf",
+                             "holiday.mp4", "notes.txt", "photo-001.jpg", "photo-002.jpg", "photo-003.jpg",
+                             "scan.tiff", "thesis.tex", "todo.txt"}) {
+        w.writeInput(name, 40'000 + 1000 * std::string_view(name).size());
+        files += w.path(name);
+    }
+    std::filesystem::resize_file(w.folder / "holiday.mp4", 300 << 20);
+    w.folder.write("scan.tiff.enc", "former");
+    std::filesystem::create_directory(w.folder / "folder");
+    w.window->processCommandLine(files + QStringList(w.path("folder")));
+    save("list");
+    run(w, Qt::Key_F5, "secret");
+    (void)QTest::qWaitFor([&w] { return w.progress().percent() > 35; }, 60'000);
+    save("list_running");
+    (void)w.waitForEnd();
+    save("list_done");
+    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+    for (QString& file : files)
+        file += ".enc";
+    w.window->processCommandLine(files);
+    run(w, Qt::Key_F6, "secret");
+    (void)w.waitForEnd();
+    save("list_failed");
+    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+}
+
 void saveAll(test::WindowHarness& w, const std::function<void(const char*)>& save)
 {
-    const auto run = [&w](Qt::Key key, const char* password) {
-        w.answerPassword(password);
-        QTest::keyClick(w.window.get(), key);
-    };
     save("idle");
 
     const char* name = "Quarterly report with a rather long name 2026-11.pdf";
@@ -38,25 +73,30 @@ void saveAll(test::WindowHarness& w, const std::function<void(const char*)>& sav
     w.window->processCommandLine({w.path(name)});
     save("ready");
 
-    run(Qt::Key_F5, "secret");
+    run(w, Qt::Key_F5, "secret");
     (void)QTest::qWaitFor([&w] { return w.progress().percent() > 35; }, 60'000);
     save("running");
     QTest::keyClick(w.window.get(), Qt::Key_F8);
     (void)w.waitForEnd();
     save("cancelled");
 
-    run(Qt::Key_F5, "secret");
+    run(w, Qt::Key_F5, "secret");
     (void)w.waitForEnd();
     save("success");
     w.window->processCommandLine({w.path((std::string(name) + ".enc").c_str())});
-    run(Qt::Key_F6, "wrong");
+    run(w, Qt::Key_F6, "wrong");
     (void)w.waitForEnd();
     save("wrong_password");
+    w.form().algFrame().setSelection({1, 252});
+    run(w, Qt::Key_F6, "secret");
+    (void)w.waitForEnd();
+    save("offer");
+    saveQueue(w, save);
 
     CAppSettings().setValue(QStringLiteral("SealFiles"), true);
     const std::string sealedName = "sealed.enc";
     w.window->processCommandLine({"-ifile", w.path(name), "-ofile", w.path(sealedName.c_str())});
-    run(Qt::Key_F5, "secret");
+    run(w, Qt::Key_F5, "secret");
     (void)QTest::qWaitFor([&w] { return !w.progress().message().isEmpty(); });
     save("making_key");
     (void)w.waitForEnd();
@@ -64,7 +104,7 @@ void saveAll(test::WindowHarness& w, const std::function<void(const char*)>& sav
     std::fstream(w.folder / sealedName, std::ios::in | std::ios::out | std::ios::binary).seekp(100 << 20)
         << "changed";
     w.window->processCommandLine({"-ifile", w.path(sealedName.c_str()), "-ofile", w.path("opened")});
-    run(Qt::Key_F6, "secret");
+    run(w, Qt::Key_F6, "secret");
     (void)w.waitForEnd();
     save("damaged");
 }
@@ -91,6 +131,8 @@ int main(int argc, char** argv)
     test::WindowHarness harness(thisapp::lookAtInput, {});
     if (arguments.contains(QStringLiteral("narrow")))
         harness.window->resize(480, harness.window->height());
+    if (arguments.contains(QStringLiteral("small")))
+        harness.window->resize(480, 400);
     saveAll(harness, [&](const char* name) {
         QTest::qWait(150);
         harness.window->grab().save(

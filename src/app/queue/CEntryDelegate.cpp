@@ -18,7 +18,8 @@ void CEntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
     QStyleOptionProgressBar bar;
     bar.QStyleOption::operator=(option);
-    bar.rect = option.rect.adjusted(2, 2, -2, -2);
+    const int margin = option.rect.height() / 6;
+    bar.rect = option.rect.adjusted(3 * margin, margin, -margin, -margin);
     bar.state |= QStyle::State_Horizontal;
     bar.maximum = 100;
     bar.progress = percent.toInt();

@@ -1,6 +1,7 @@
 #include "app/queue/CQueueList.h"
 
 #include "app/queue/CEntryDelegate.h"
+#include "app/queue/CNameDelegate.h"
 #include "app/queue/CQueueModel.h"
 #include "app/queue/FileQueue.h"
 #include "app/widgets/SymbolicIcon.h"
@@ -44,19 +45,25 @@ CQueueList::CQueueList(const FileQueue& queue, QWidget* parent)
     m_clear->setObjectName(QStringLiteral("buttonClearList"));
     m_view->setObjectName(QStringLiteral("fileList"));
     m_view->setModel(m_model);
-    m_view->setItemDelegate(new CEntryDelegate(m_view));
+    m_view->setItemDelegateForColumn(CQueueModel::State, new CEntryDelegate(m_view));
+    m_view->setItemDelegateForColumn(CQueueModel::Name, new CNameDelegate(m_view));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->setTabKeyNavigation(false);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->header()->setSectionsMovable(false);
     m_view->header()->setStretchLastSection(true);
     m_view->header()->setMinimumSectionSize(1);
-    m_view->setMinimumHeight(4 * fontMetrics().height());
+    m_view->setMinimumHeight(5 * fontMetrics().height());
+    m_view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_view->installEventFilter(this);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) {
+                if (current.isValid())
+                    emit notifyCurrent(current.row());
+            });
     connect(m_add, &QPushButton::clicked, this, &CQueueList::notifyAdd);
     connect(m_clear, &QPushButton::clicked, this, &CQueueList::notifyClear);
     retranslate();
@@ -73,7 +80,12 @@ void CQueueList::refreshEntry(int row)
 {
     m_model->refreshEntry(row);
     if (m_queue.entries()[static_cast<std::size_t>(row)].state == EntryState::Running)
-        m_view->scrollTo(m_model->index(row, 0));
+        show(row);
+}
+
+void CQueueList::show(int row)
+{
+    m_view->scrollTo(m_model->index(row, 0));
 }
 
 void CQueueList::setRunning(bool running)
@@ -146,7 +158,7 @@ void CQueueList::shareWidth()
     const int size = m_view->fontMetrics().horizontalAdvance(QStringLiteral("1000.0 MiB")) +
                      2 * m_view->fontMetrics().averageCharWidth();
     const int rest = std::max(0, m_view->viewport()->width() - size);
-    m_view->setColumnWidth(CQueueModel::Name, rest / 2);
+    m_view->setColumnWidth(CQueueModel::Name, rest * 9 / 20);
     m_view->setColumnWidth(CQueueModel::Size, size);
 }
 

@@ -25,6 +25,8 @@ public:
     void refresh();
     /// That one has changed; a running one is brought into sight.
     void refreshEntry(int row);
+    /// Brings it into sight.
+    void show(int row);
     void setRunning(bool running);
     /// Files hover over it.
     void setHighlighted(bool highlighted);
@@ -32,6 +34,8 @@ public:
 signals:
     void notifyAdd();
     void notifyClear();
+    /// The user looks at that one.
+    void notifyCurrent(int row);
     /// In descending order.
     void notifyRemove(const QList<int>& rows);
 

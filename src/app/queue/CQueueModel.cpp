@@ -63,7 +63,9 @@ QVariant stateGlyph(EntryState state)
     case EntryState::Running:
         break;
     }
-    return {};
+    QPixmap blank = glyph("success", MessageKind::Plain); // so that all texts begin in line
+    blank.fill(Qt::transparent);
+    return blank;
 }
 
 } // namespace
@@ -112,6 +114,8 @@ QVariant CQueueModel::data(const QModelIndex& index, int role) const
         }
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignVCenter | (index.column() == Size ? Qt::AlignRight : Qt::AlignLeft));
+    if (role == Qt::SizeHintRole)
+        return QSize(0, QFontMetrics(QGuiApplication::font()).height() * 3 / 2);
     if (index.column() == State && role == Qt::DecorationRole)
         return stateGlyph(entry.state);
     if (index.column() == State && role == PercentRole && entry.state == EntryState::Running)

@@ -1,7 +1,9 @@
 #include "app/widgets/CDropHint.h"
 
 #include "app/widgets/CElidedLabel.h"
+#include "app/widgets/LegibleNames.h"
 #include "app/widgets/SymbolicIcon.h"
+#include "ui/style/ThemeChange.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -29,6 +31,11 @@ CDropHint::CDropHint(QWidget* parent)
     m_detail->setWordWrap(true);
     m_icon->setMinimumHeight(iconSize());
     setCursor(Qt::PointingHandCursor);
+    for (QLabel* label : std::initializer_list<QLabel*>{m_headline, m_detail}) {
+        label->setForegroundRole(QPalette::Text); // not that of a button
+        thisapp::keepLegible(*label);
+        thisapp::onThemeChange(*label, [label] { thisapp::keepLegible(*label); });
+    }
     setAutoDefault(true); // Enter presses it, too
 }
 
@@ -77,9 +84,21 @@ QSize CDropHint::sizeHint() const
     return layout()->sizeHint();
 }
 
+/// The name alone.
 QSize CDropHint::minimumSizeHint() const
 {
-    return layout()->minimumSize();
+    return {0, 2 * fontMetrics().height()};
+}
+
+/// What there is no room for is left out, the name last.
+void CDropHint::resizeEvent(QResizeEvent* event)
+{
+    QPushButton::resizeEvent(event);
+    const int line = fontMetrics().height();
+    m_icon->setVisible(height() > 6 * line);
+    m_detail->setVisible(height() > 4 * line);
+    const int margin = height() > 6 * line ? line : line / 4;
+    layout()->setContentsMargins(line, margin, line, margin);
 }
 
 void CDropHint::changeEvent(QEvent* event)

@@ -1,6 +1,8 @@
 #include "app/widgets/CLineEditForFile.h"
 
+#include "app/widgets/LegibleNames.h"
 #include "ui/style/PlainToolTip.h"
+#include "ui/style/ThemeChange.h"
 
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
@@ -11,6 +13,8 @@
 CLineEditForFile::CLineEditForFile(QWidget* parent) : QLineEdit(parent)
 {
     setAcceptDrops(true);
+    thisapp::keepLegible(*this);
+    thisapp::onThemeChange(*this, [this] { thisapp::keepLegible(*this); });
     connect(this, &QLineEdit::textChanged, this, &CLineEditForFile::onUiTextChanged);
 }
 

@@ -25,9 +25,6 @@ CProgressBarFrame::CProgressBarFrame(QWidget* parent)
     m_bar->setTextVisible(false);
     m_notice->hide();
     m_notice->setAnnounced(true);
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // so that what stands beside it keeps its place
-    setSizePolicy(policy);
     m_bar->setAccessibleName(tr("Progress"));
     hide(); // before it has a parent, showing it would make a window of it
 }

@@ -7,18 +7,17 @@
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/widgets/SymbolicIcon.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
-#include "ui/style/ThemeChange.h"
 
 #include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -26,8 +25,16 @@
 
 using namespace thisapp;
 
+namespace {
+
+/// In the window's usual size.
+constexpr int UsualHintLines = 8;
+
+} // namespace
+
 CJobFrame::CJobFrame(const FileQueue& queue, QWidget* parent)
     : CDragDropFrame(parent),
+      m_area(new QScrollArea),
       m_subject(new QStackedWidget),
       m_queueList(new CQueueList(queue)),
       m_queueMessage(new CMessageLine),
@@ -71,9 +78,8 @@ CJobFrame::CJobFrame(const FileQueue& queue, QWidget* parent)
     setRunning(false, false);
     retranslate();
     setDirection(NamingDirection::Encryption);
-    onThemeChange(*this, [this] { keepNamesLegible(); });
-    keepNamesLegible();
     m_input->setFocus();
+    fitHint();
 }
 
 /// In a very large window the column stays in reach of the eye: its width and the hint's height are
@@ -89,14 +95,13 @@ void CJobFrame::showColumn(QVBoxLayout* column)
     centred->addStretch();
     centred->addWidget(content, 1);
     centred->addStretch();
-    auto* area = new QScrollArea;
-    area->setWidget(page);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
+    m_area->setWidget(page);
+    m_area->setWidgetResizable(true);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(area);
+    layout->addWidget(m_area);
 }
 
 /// What the job is about: one file with its fields, or the list.
@@ -136,6 +141,8 @@ QLayout* CJobFrame::makeRows()
     addRow(0, m_inputLabel, m_input, m_browseInput, m_inputMessage);
     addRow(2, m_outputLabel, m_output, m_browseOutput, m_outputMessage);
     grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(
+        m_algFrame->layout()->spacing()); // its combo box stands in line with the fields
     grid->setVerticalSpacing(fontMetrics().height() / 4);
     return grid;
 }
@@ -232,6 +239,8 @@ void CJobFrame::setDirection(NamingDirection direction)
 
 void CJobFrame::setRunning(bool running, bool stoppable)
 {
+    if (running && m_encrypt->isEnabled())
+        bringIntoSight(*m_progress);
     const std::initializer_list<QWidget*> idleWidgets = {
         m_hint,   m_inputLabel,   m_input,    m_browseInput, m_outputLabel,
         m_output, m_browseOutput, m_algFrame, m_encrypt,     m_decrypt};
@@ -255,6 +264,8 @@ void CJobFrame::showMessage(Area area, Message message)
         m_outputMessage->setMessage(std::move(message));
         break;
     case Area::Result:
+        if (!message.isEmpty())
+            bringIntoSight(*m_result);
         m_result->setMessage(std::move(message));
         break;
     }
@@ -288,30 +299,31 @@ void CJobFrame::resizeEvent(QResizeEvent* event)
     fitHint();
 }
 
+void CJobFrame::bringIntoSight(QWidget& widget)
+{
+    QTimer::singleShot(0, &widget,
+                       [this, &widget] { m_area->ensureWidgetVisible(&widget, 0, 0); }); // once laid out
+}
+
+QSize CJobFrame::sizeHint() const
+{
+    return {90 * fontMetrics().averageCharWidth(),
+            m_heightBesideHint + UsualHintLines * fontMetrics().height()};
+}
+
 /// The hint's height depends on that of the window alone, not on what there is to say: whoever aims at it
 /// finds it where it was.
 void CJobFrame::fitHint()
 {
     const int line = fontMetrics().height();
     if (m_heightBesideHint == 0) {
-        m_hint->setFixedHeight(0);
-        const QWidget* page = m_subject->parentWidget()->parentWidget();
-        m_heightBesideHint = page->sizeHint().height() + 2 * line;
+        // With the progress, and a result of two lines.
+        m_hint->setFixedHeight(UsualHintLines * line);
+        m_heightBesideHint = m_area->widget()->sizeHint().height() + m_progress->sizeHint().height() +
+                             (2 - UsualHintLines) * line;
     }
     m_hint->setFixedHeight(
         std::clamp(height() - m_heightBesideHint, m_hint->minimumSizeHint().height(), 18 * line));
-}
-
-/// While a job is running, too.
-void CJobFrame::keepNamesLegible()
-{
-    const std::initializer_list<QWidget*> widgets = {m_hint, m_input, m_output};
-    for (QWidget* widget : widgets) {
-        QPalette palette = QGuiApplication::palette();
-        for (const auto role : {QPalette::WindowText, QPalette::Text})
-            palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
-        widget->setPalette(palette);
-    }
 }
 
 void CJobFrame::retranslate()

@@ -15,6 +15,7 @@ class CQueueList;
 class CSelectAlgFrame;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QStackedWidget;
 class QToolButton;
 class QVBoxLayout;
@@ -46,6 +47,8 @@ public:
     CQueueList& queueList() { return *m_queueList; }
     CProgressBarFrame& progressFrame() { return *m_progress; }
 
+    /// Nothing scrolls, and a usual message fits in.
+    QSize sizeHint() const override;
     void setDropReceiver(IFilesDragDropEvent* receiver);
     /// The file at hand and its size in bytes; none when the input isn't usable.
     void showFile(const QString& path, qint64 size);
@@ -83,14 +86,15 @@ protected:
 private:
     void showColumn(QVBoxLayout* column);
     QWidget* makeSubject();
-    void keepNamesLegible();
     void fitHint();
+    void bringIntoSight(QWidget& widget);
     QLayout* makeRows();
     QLayout* makeButtons();
     void connectWidgets();
     void retranslate();
     void refreshHint();
 
+    QScrollArea* m_area;
     QStackedWidget* m_subject;
     CQueueList* m_queueList;
     CMessageLine* m_queueMessage;

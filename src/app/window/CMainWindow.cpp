@@ -6,9 +6,12 @@
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/window/CJobFrame.h"
 #include "app/window/CRequestHost.h"
+#include "app/window/CWindowPlace.h"
 #include "app/window/Commands.h"
 #include "app/window/InputRemovalOffer.h"
+#include "common/naming/OutputNaming.h"
 #include "common/path/PathText.h"
+#include "common/settings/CAppSettings.h"
 #include "lib/logger/Log.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
@@ -58,8 +61,7 @@ CMainWindow::CMainWindow(const WindowServices& services)
     QCoreApplication::instance()->installEventFilter(this);
     connectForm();
     connectJob();
-    // Room for the progress and for messages of more than one line.
-    resize(fontMetrics().averageCharWidth() * 90, sizeHint().height() + 5 * fontMetrics().height());
+    new CWindowPlace(*this, sizeHint());
     refresh();
 }
 
@@ -238,6 +240,8 @@ void CMainWindow::onUiInputRemovalFinished()
 void CMainWindow::onUiInputFacts()
 {
     m_fields.showFacts();
+    if (!m_queueJob.isActive())
+        m_form->setDirection(namingDirection(m_input.facts().path, readNamingSettings(CAppSettings())));
     refresh();
 }
 

@@ -39,6 +39,7 @@ CQueueJob::CQueueJob(const Parts& parts)
 {
     connect(&m_parts.disk, &CDiskWork::notifyAnswered, this, &CQueueJob::onUiLooked);
     connect(&m_parts.form.queueList(), &CQueueList::notifyClear, this, &CQueueJob::clear);
+    connect(&m_parts.form.queueList(), &CQueueList::notifyCurrent, this, &CQueueJob::onUiCurrent);
     connect(&m_parts.form.queueList(), &CQueueList::notifyRemove, this, &CQueueJob::onUiRemove);
     connect(&m_run, &CQueueRun::notifyEntry, this, &CQueueJob::onUiEntry);
     connect(&m_run, &CQueueRun::notifyProgress, this, &CQueueJob::onUiProgress);
@@ -122,6 +123,16 @@ void CQueueJob::clear()
     show();
 }
 
+/// The list has room for the beginning of a reason only.
+void CQueueJob::onUiCurrent(int row)
+{
+    const QueueEntry& entry = m_parts.queue.entries()[static_cast<std::size_t>(row)];
+    if (entry.reason)
+        m_parts.form.showMessage(
+            Area::Input, {entry.state == EntryState::Failed ? MessageKind::Error : MessageKind::Warning,
+                          entry.reason, pathText(entry.path)});
+}
+
 void CQueueJob::onUiRemove(const QList<int>& rows)
 {
     for (const int row : rows)
@@ -186,6 +197,11 @@ void CQueueJob::onUiProgress()
 void CQueueJob::onUiEnded()
 {
     m_parts.form.queueList().refresh();
+    const auto problem = std::ranges::find_if(m_parts.queue.entries(), [](const QueueEntry& entry) {
+        return entry.state == EntryState::Failed || entry.state == EntryState::Skipped;
+    });
+    if (problem != m_parts.queue.entries().end())
+        m_parts.form.queueList().show(static_cast<int>(problem - m_parts.queue.entries().begin()));
     m_parts.display.showQueueEnd(queueMessage(m_operation, m_parts.queue, m_run.isStopped()), m_parts.queue);
     const CAppSettings settings;
     std::vector<CQueueRemoval::Candidate> encrypted = m_run.takeEncrypted();

@@ -66,6 +66,7 @@ signals:
 
 private slots:
     void onUiLooked();
+    void onUiCurrent(int row);
     void onUiRemove(const QList<int>& rows);
     void onUiEntry(std::size_t index);
     void onUiProgress();

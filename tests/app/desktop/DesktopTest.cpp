@@ -26,6 +26,9 @@ class Observer : public QObject
 public:
     QStringList seen;
 
+signals:
+    void ActionInvoked(uint id, const QString& key);
+
 public slots:
     void update(const QString& application, const QVariantMap& properties)
     {
@@ -34,8 +37,11 @@ public slots:
         seen << QString("%1 %2 %3").arg(application).arg(progress).arg(isVisible);
     }
     uint Notify(const QString& application, uint, const QString& icon, const QString& summary,
-                const QString& body, const QStringList&, const QVariantMap& hints, int timeout)
+                const QString& body, const QStringList& actions, const QVariantMap& hints, int timeout)
     {
+        emit ActionInvoked(1, "of another notification");
+        if (!actions.isEmpty())
+            emit ActionInvoked(1, actions[0]);
         const QString entry = hints["desktop-entry"].toString();
         seen << QStringList{application, icon, summary, body, entry, QString::number(timeout)}.join('|');
         return 1;
@@ -60,8 +66,9 @@ protected:
         desktop.taskbarProgress().setValue(40);
         desktop.taskbarProgress().setValue(40);
         desktop.taskbarProgress().setValue(101);
-        desktop.notifier().notify("Done", "<b> & \"c\"");
+        desktop.notifier().notify("Done", "<b> & \"c\"", {"Open", [] { ++opened; }});
     }
+    static inline int opened = 0;
 };
 
 TEST_F(DesktopTest, TellsTheSessionBus)
@@ -79,11 +86,14 @@ TEST_F(DesktopTest, TellsTheSessionBus)
     ASSERT_TRUE(connection.connect({}, {}, "com.canonical.Unity.LauncherEntry", "Update", &observer,
                                    SLOT(update(QString, QVariantMap))));
     ASSERT_TRUE(connection.registerService("org.freedesktop.Notifications"));
-    ASSERT_TRUE(connection.registerObject("/org/freedesktop/Notifications", &observer,
-                                          QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(
+        connection.registerObject("/org/freedesktop/Notifications", &observer,
+                                  QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
     {
         Desktop desktop;
         use(desktop);
+        EXPECT_TRUE(QTest::qWaitFor([] { return opened > 0; }));
+        EXPECT_EQ(opened, 1);
     } // a bar still visible is taken down
     const QString app = "application://quillet.desktop ";
     const QStringList expected = {app + "0.1 1", app + "0.4 1", app + "1 1",

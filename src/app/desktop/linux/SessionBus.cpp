@@ -1,5 +1,6 @@
 #include "app/desktop/linux/SessionBus.h"
 
+#include "app/desktop/linux/BusSignals.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
 #include "lib/sync/Signal.h"
@@ -11,6 +12,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 #include <tuple>
 #include <vector>
 
@@ -41,13 +43,18 @@ class SessionBusWriter final : public tessaly::thread::IRunnable
 public:
     SessionBusWriter() { m_thread.setRunnable(this); }
 
-    void push(const QDBusMessage& message)
+    using Task = std::function<void(QDBusConnection& bus)>;
+
+    void push(const Task& task)
     {
-        m_pending.with([&message](auto& pending) { pending.push_back(message); });
+        m_pending.with([&task](auto& pending) { pending.push_back(task); });
         std::ignore = m_wakeUp.set();
         if (!m_thread.isRunning())
             std::ignore = m_thread.start();
     }
+
+    /// Lives as long as the thread does, which may have it connected.
+    BusSignals received;
 
     /// False when the bus doesn't answer in time.
     bool finish()
@@ -75,15 +82,15 @@ public:
 private:
     void sendPending()
     {
-        const QDBusConnection bus(connectionName());
-        std::vector<QDBusMessage> messages;
-        m_pending.with([&messages](auto& pending) { messages.swap(pending); });
+        QDBusConnection bus(connectionName());
+        std::vector<Task> tasks;
+        m_pending.with([&tasks](auto& pending) { tasks.swap(pending); });
         if (bus.isConnected())
-            for (const QDBusMessage& message : messages)
-                bus.send(message);
+            for (const Task& task : tasks)
+                task(bus);
     }
 
-    tessaly::sync::internal::SafeData<tessaly::sync::Locker, std::vector<QDBusMessage>> m_pending;
+    tessaly::sync::internal::SafeData<tessaly::sync::Locker, std::vector<Task>> m_pending;
     tessaly::sync::Signal m_wakeUp;
     std::atomic<bool> m_finishing{false};
     tessaly::thread::Thread m_thread;
@@ -101,7 +108,20 @@ SessionBus::~SessionBus()
 
 void SessionBus::send(const QDBusMessage& message)
 {
-    m_writer->push(message);
+    m_writer->push([message](const QDBusConnection& bus) { bus.send(message); });
+}
+
+void SessionBus::listen(const QString& service, const QString& path, const QString& interface,
+                        const QString& name)
+{
+    m_writer->push([=, to = &m_writer->received](QDBusConnection& bus) {
+        bus.connect(service, path, interface, name, to, SLOT(take(QDBusMessage)));
+    });
+}
+
+const BusSignals& SessionBus::received() const
+{
+    return m_writer->received;
 }
 
 } // namespace thisapp::desktop

@@ -3,13 +3,16 @@
 #include <memory>
 
 class QDBusMessage;
+class QString;
 
 namespace thisapp::desktop {
 
+class BusSignals;
 class SessionBusWriter;
 
 /// Sends messages on the session bus from a thread of its own, because connecting to a bus may take
-/// long. Without a bus they are dropped. Used by one thread, once the application object exists.
+/// long, and hands on the signals that come. Without a bus they are dropped. Used by one thread, once the
+/// application object exists.
 class SessionBus
 {
 public:
@@ -21,6 +24,9 @@ public:
 
     /// A signal, or a method call whose answer nobody needs. Returns at once.
     void send(const QDBusMessage& message);
+    /// From now on received() tells of that signal. Returns at once.
+    void listen(const QString& service, const QString& path, const QString& interface, const QString& name);
+    const BusSignals& received() const;
 
 private:
     std::unique_ptr<SessionBusWriter> m_writer;
