@@ -11,7 +11,7 @@ import time
 PATIENCE = 10  # seconds
 
 if "QUILLET_WALK" not in os.environ:
-    sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -noreset", "dbus-run-session", "--",
+    sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
                              sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=120).returncode)
 
 import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
@@ -21,17 +21,16 @@ ACTIVE = {pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_B
           pyatspi.ROLE_CHECK_MENU_ITEM, pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LINK, pyatspi.ROLE_TOGGLE_BUTTON,
           pyatspi.ROLE_TEXT, pyatspi.ROLE_PASSWORD_TEXT, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_SLIDER,
           pyatspi.ROLE_PUSH_BUTTON_MENU, pyatspi.ROLE_ENTRY}
-NAMED = ACTIVE | {pyatspi.ROLE_PROGRESS_BAR, pyatspi.ROLE_MENU, pyatspi.ROLE_PAGE_TAB, pyatspi.ROLE_LIST,
-                  pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE, pyatspi.ROLE_TREE_TABLE, pyatspi.ROLE_DIALOG}
+LISTS = {pyatspi.ROLE_LIST, pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE, pyatspi.ROLE_TREE_TABLE}
+NAMED = ACTIVE | LISTS | {pyatspi.ROLE_PROGRESS_BAR, pyatspi.ROLE_MENU, pyatspi.ROLE_PAGE_TAB, pyatspi.ROLE_DIALOG}
 # Qt's own widgets within a widget, which nobody comes to.
 WITHIN = {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_SPIN_BUTTON}
-# Named after what they stand for, by the list or table that they are in.
-PARTS = {pyatspi.ROLE_TABLE_CELL, pyatspi.ROLE_LIST_ITEM, pyatspi.ROLE_TREE_ITEM, pyatspi.ROLE_FRAME,
-         pyatspi.ROLE_TABLE_COLUMN_HEADER, pyatspi.ROLE_TABLE_ROW_HEADER, pyatspi.ROLE_SCROLL_PANE}
+# These hand the focus on to what they hold.
+PASSING = {pyatspi.ROLE_FRAME, pyatspi.ROLE_FILLER, pyatspi.ROLE_SCROLL_PANE}
 
 # What opens a dialog, from the tool bar, and what opens one from there.
 DIALOGS = [("Options", []), ("Default algorithm", []), ("Information about algorithms", []),
-           ("Keyboard shortcuts", []), ("About", []), ("Encrypt", ["Generate...", "Show advanced options"])]
+           ("Keyboard shortcuts", []), ("About", []), ("Encrypt", ["Generate..."])]
 SECRET = "Tr0ub4dor-and-3"
 
 
@@ -66,21 +65,19 @@ class Walk:
         if not window.name:
             self.faults.append("a window without a title")
         self.node(window, 0, False)
-        for tab in pyatspi.findAllDescendants(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB)[1:]:
+        for tab in find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB)[1:]:
             do(tab, "Press")
-            page = eventually(lambda: find(window, lambda n: n.name == tab.name and n != tab and
-                                           states(n, pyatspi.STATE_SHOWING)) or tab)
-            self.node(page if page != tab else window, 1, False)
+            eventually(lambda: states(tab, pyatspi.STATE_SELECTED))
+            self.node(tab.parent.parent, 1, False)
 
     def node(self, node, depth, within):
         role = node.getRole()
-        is_reached = states(node, pyatspi.STATE_FOCUSABLE, pyatspi.STATE_SHOWING) and role not in PARTS
+        is_reached = states(node, pyatspi.STATE_FOCUSABLE, pyatspi.STATE_SHOWING) and role not in PASSING
         shown = states(node, pyatspi.STATE_VISIBLE) or node.parent.getRole() == pyatspi.ROLE_POPUP_MENU
         if shown and not within and (role in NAMED or is_reached):
             self.control(node, depth)
-        for child in node:
-            if child is not None:
-                self.node(child, depth + 1, within or role in WITHIN)
+        for child in children(node):
+            self.node(child, depth + 1, within or role in WITHIN)
 
     def control(self, node, depth):
         name, actions = name_of(node), actions_of(node)
@@ -105,13 +102,27 @@ class Walk:
         self.window(dialog)
         for further in inner:
             self.dialog(dialog, further, [])
-        closer = next(filter(None, (button(dialog, text) for text in ("Cancel", "Close", "OK"))), None)
+        self.close(dialog, before)
+
+    def close(self, dialog, before):
+        closer = button(dialog, "Cancel", "Close")
         if closer is None:
-            self.faults.append(f"nothing that closes {name}")
+            self.faults.append(f"nothing that closes {dialog.name}")
             return
         do(closer, "Press")
         if not eventually(lambda: len(windows(self.application)) == len(before)):
-            self.faults.append(f"the dialog of {name} stays")
+            self.faults.append(f"the dialog {dialog.name} stays")
+
+    def advanced(self, main):
+        """The dialog of key and initialisation vector takes the place of the one for the password."""
+        password = opened(self.application, button(main, "Encrypt"), [main])
+        link = find(password, lambda n: n.name == "Show advanced options" and states(n, pyatspi.STATE_SHOWING))
+        key = link and opened(self.application, link, [main, password])
+        if key:
+            self.window(key)
+        else:
+            self.faults.append("no dialog of advanced options")
+        self.close(key or password, [main])
 
 
 def actions_of(node):
@@ -130,12 +141,23 @@ def path_to(node):
     return " in ".join(steps)
 
 
+def children(node):
+    """What is in lists and tables is named after what it stands for, and is too much to look at."""
+    return [] if node.getRole() in LISTS else [child for child in node if child is not None]
+
+
+def find_all(node, predicate):
+    return [node] * predicate(node) + [found for child in children(node) for found in find_all(child, predicate)]
+
+
 def find(node, predicate):
-    return pyatspi.findDescendant(node, predicate)
+    if predicate(node):
+        return node
+    return next(filter(None, (find(child, predicate) for child in children(node))), None)
 
 
-def button(node, name):
-    return find(node, lambda n: n.getRole() == pyatspi.ROLE_PUSH_BUTTON and n.name == name)
+def button(node, *names):
+    return find(node, lambda n: n.getRole() == pyatspi.ROLE_PUSH_BUTTON and n.name in names)
 
 
 def do(node, *wanted):
@@ -146,10 +168,10 @@ def do(node, *wanted):
 
 
 def click(node):
-    """In its middle: an action that opens a dialog would not return before that is closed."""
+    """Where the text of a link is, too. An action that opens a dialog would not return before that is closed."""
     box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    subprocess.run(["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2), "click", "1"],
-                   check=True, timeout=PATIENCE)
+    x, y = box.x + min(box.width, 40) // 2, box.y + box.height // 2
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True, timeout=PATIENCE)
 
 
 def windows(application):
@@ -169,7 +191,7 @@ def opened(application, opener, before):
 def encrypt(walk, main):
     """Leaves the window with a result."""
     dialog = opened(walk.application, button(main, "Encrypt"), [main])
-    for field in pyatspi.findAllDescendants(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
+    for field in find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
         field.queryEditableText().setTextContents(SECRET)
     do(button(dialog, "OK"), "Press")
     if not eventually(lambda: len(windows(walk.application)) == 1 and find(
@@ -183,7 +205,7 @@ def walk(quillet, home):
         stream.write("x")
     process = subprocess.Popen([quillet, file], env=os.environ | {
         "HOME": home, "XDG_CONFIG_HOME": home, "XDG_DATA_HOME": home, "XDG_STATE_HOME": home,
-        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
+        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "ASAN_OPTIONS": "detect_leaks=0"})
     try:
         desktop = pyatspi.Registry.getDesktop(0)
         application = eventually(lambda: next((a for a in desktop if a is not None and len(a) > 0 and
@@ -194,6 +216,7 @@ def walk(quillet, home):
         walk.window(main)
         for name, inner in DIALOGS:
             walk.dialog(main, name, inner)
+        walk.advanced(main)
         encrypt(walk, main)
         walk.window(main)
     finally:

@@ -105,6 +105,7 @@ void CMessageLine::refresh()
         textPalette.setColor(group, QPalette::WindowText, color);
     m_text->setPalette(textPalette);
     m_text->setText(m_message.now());
+    m_text->setVisible(!text().isEmpty()); // nothing to come to
     setMinimumHeight(fontMetrics().height());
     m_detail->setWholeText(detail());
     m_detail->setVisible(!detail().isEmpty());
