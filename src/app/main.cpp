@@ -18,6 +18,7 @@
 #include "lib/platform/Path.h"
 #include "lib/platform/Process.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
+#include "ui/style/MaskedText.h"
 
 #include <QApplication>
 #include <QDir>
@@ -98,6 +99,7 @@ int runApplication(int& argc, char** argv)
 {
     std::optional<desktop::LeanStart> leanStart(std::in_place);
     const QApplication application(argc, argv);
+    maskTextOfSecretFields();
     // Ctrl-C in the terminal, a log-out or a request to terminate ends a job as closing the window does.
     // Outlives the window and the wait for its worker, so that a second one cannot cut that short.
     const platform::Interrupts interrupts([] {

@@ -14,6 +14,7 @@ if "QUILLET_WALK" not in os.environ:
     sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
                              sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=120).returncode)
 
+from gi.repository import GLib  # noqa: E402
 import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
 
 # What a user works with; everything else is there to hold these or to be read.
@@ -189,10 +190,15 @@ def opened(application, opener, before):
 
 
 def encrypt(walk, main):
-    """Leaves the window with a result."""
+    """Leaves the window with a result. What is typed into a masked field is nothing to tell on the bus."""
+    told = []
+    pyatspi.Registry.registerEventListener(lambda event: told.append(event.any_data), "object:text-changed:insert")
     dialog = opened(walk.application, button(main, "Encrypt"), [main])
     for field in find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
         field.queryEditableText().setTextContents(SECRET)
+    bullets = "\u2022" * len(SECRET)
+    if not eventually(lambda: GLib.MainContext.default().iteration(False) and told.count(bullets) == 2) or SECRET in told:
+        walk.faults.append(f"told of the password: {told}")
     do(button(dialog, "OK"), "Press")
     if not eventually(lambda: len(windows(walk.application)) == 1 and find(
             main, lambda n: "successfully" in n.name and states(n, pyatspi.STATE_SHOWING))):
