@@ -135,7 +135,6 @@ class Session:
             for step in self.steps:
                 item = eventually(lambda: find_item(step), 3)
                 if not item:
-                    if "QUILLET_PICTURES" in os.environ: subprocess.run(["import", "-window", "root", f"/tmp/desktop/miss.png"])
                     break
                 press(item)
             else:
@@ -196,11 +195,8 @@ def drive(quillet, manager):
                 eventually(lambda: os.path.exists(log), 5)
                 time.sleep(0.5)
                 starts = arrived(log)
-            if starts == []:
-                subprocess.run(["import", "-window", "root", f"/tmp/desktop/{manager}.png"])
         same = len(starts) == 1 and sorted(starts[0]) == sorted(expected)
         print(f"{'ok  ' if same else 'FAIL'} {label}", "" if same else fault or f"{len(starts)} starts: {starts}", flush=True)
-        if not same and "QUILLET_PICTURES" in os.environ: sys.exit(1)
         return same
 
     for number, name in enumerate(NAMES):
@@ -217,12 +213,10 @@ def drive(quillet, manager):
     with Session(manager, f"{home}/one3/here") as session:
         fault = session.choose()
         title = eventually(lambda: xdotool("search", "--onlyvisible", "--name", "Password"), 10)
-        subprocess.run(["import", "-window", "root", f"/tmp/desktop/{manager}-real.png"])
         for window in xdotool("search", "--class", "quillet"):
             pid = xdotool("getwindowpid", window)
             if pid:
-                try: os.kill(int(pid[0]), 15)
-                except OSError: pass
+                os.kill(int(pid[0]), 15)
     print(f"{'ok  ' if title else 'FAIL'} the real program asks for the password", fault, flush=True)
 
 
@@ -237,7 +231,7 @@ def main():
         return
     for manager in sys.argv[2:] or MANAGERS:
         with tempfile.TemporaryDirectory(prefix="quillet-", ignore_cleanup_errors=True) as home:
-            environment = {"PATH": os.environ["PATH"], "HOME": home, "LANG": "C.UTF-8", "QUILLET_DRIVEN": manager, **{k: v for k, v in os.environ.items() if k == "QUILLET_PICTURES"},
+            environment = {"PATH": os.environ["PATH"], "HOME": home, "LANG": "C.UTF-8", "QUILLET_DRIVEN": manager,
                            "XDG_RUNTIME_DIR": home + "/run", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
                            "GIO_USE_VFS": "local", "XDG_CURRENT_DESKTOP": "X-Generic"}
             os.mkdir(home + "/run", 0o700)
