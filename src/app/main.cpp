@@ -38,10 +38,10 @@ namespace {
 /// How long the end of the program waits for a job that it has stopped.
 constexpr unsigned PatienceMs = 2000;
 
-constexpr char Usage[] = R"(Usage: quillet [FILE]
-       quillet [-encrypt | -decrypt] [-start] [-ifile FILE] [-ofile FILE] [-algorithm NAME]
+constexpr char Usage[] = R"(Usage: quillet [FILE]...
+       quillet [-encrypt | -decrypt] [-start] [-ifile FILE] [-ofile FILE] [-algorithm NAME] [FILE]...
 
-  FILE             opens the window with this input file
+  FILE             opens the window with this input file; more than one make a list
   -ifile FILE      the input file
   -ofile FILE      the output file; without it a name is proposed
   -algorithm NAME  the algorithm, such as "AES-256"

@@ -76,11 +76,10 @@ void CQueueList::refresh()
     shareWidth();
 }
 
-void CQueueList::refreshEntry(int row)
+void CQueueList::refreshStates(int running)
 {
-    m_model->refreshEntry(row);
-    if (m_queue.entries()[static_cast<std::size_t>(row)].state == EntryState::Running)
-        show(row);
+    m_model->refreshStates();
+    show(running);
 }
 
 void CQueueList::show(int row)

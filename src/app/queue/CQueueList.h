@@ -23,8 +23,8 @@ public:
 
     /// The files are others than before.
     void refresh();
-    /// That one has changed; a running one is brought into sight.
-    void refreshEntry(int row);
+    /// The files' states have changed; that one is running, and brought into sight.
+    void refreshStates(int running);
     /// Brings it into sight.
     void show(int row);
     void setRunning(bool running);

@@ -81,9 +81,9 @@ void CQueueModel::refresh()
     endResetModel();
 }
 
-void CQueueModel::refreshEntry(int row)
+void CQueueModel::refreshStates()
 {
-    emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    emit dataChanged(index(0, State), index(rowCount() - 1, State));
 }
 
 int CQueueModel::rowCount(const QModelIndex& parent) const

@@ -21,7 +21,8 @@ public:
 
     /// The files are others than before.
     void refresh();
-    void refreshEntry(int row);
+    /// The same files in other states.
+    void refreshStates();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -45,7 +45,7 @@ void CQueueRun::next()
         end();
         return;
     }
-    emit notifyEntry(*m_current);
+    emit notifyNews();
     m_look = m_disk.start<EntryLook>(
         [path = m_queue.entries()[*m_current].path, naming = readNamingSettings(CAppSettings())] {
             return lookAtEntry(path, naming);
@@ -91,8 +91,7 @@ void CQueueRun::showJobProgress()
     if (!m_current)
         return;
     m_queue.setProcessed(*m_current, m_job.progress().processed);
-    emit notifyEntry(*m_current);
-    emit notifyProgress();
+    emit notifyNews();
 }
 
 void CQueueRun::takeJobEnd()
@@ -116,16 +115,14 @@ void CQueueRun::takeJobEnd()
     m_queue.setDone(*m_current, ended.request.output, ended.outcome.output.status);
     if (ended.operation == Operation::Encrypt)
         m_encrypted.push_back({*m_current, std::move(ended)});
-    emit notifyEntry(*m_current);
-    emit notifyProgress();
+    emit notifyNews();
     next();
 }
 
 void CQueueRun::endWith(EntryState state, std::function<QString()> reason)
 {
     m_queue.end(*m_current, state, std::move(reason));
-    emit notifyEntry(*m_current);
-    emit notifyProgress();
+    emit notifyNews();
     next();
 }
 

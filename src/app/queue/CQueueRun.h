@@ -46,9 +46,8 @@ public:
     std::optional<std::size_t> current() const { return m_current; }
 
 signals:
-    /// That file has changed.
-    void notifyEntry(std::size_t index);
-    void notifyProgress();
+    /// Something of the queue has changed.
+    void notifyNews();
     void notifyEnded();
 
 private slots:

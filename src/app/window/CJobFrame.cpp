@@ -320,7 +320,7 @@ void CJobFrame::fitHint()
         // With the progress, and a result of two lines.
         m_hint->setFixedHeight(UsualHintLines * line);
         m_heightBesideHint = m_area->widget()->sizeHint().height() + m_progress->sizeHint().height() +
-                             (2 - UsualHintLines) * line;
+                             (4 - UsualHintLines) * line;
     }
     m_hint->setFixedHeight(
         std::clamp(height() - m_heightBesideHint, m_hint->minimumSizeHint().height(), 18 * line));

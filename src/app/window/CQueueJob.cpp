@@ -26,6 +26,7 @@ using namespace thisapp;
 namespace {
 
 constexpr std::size_t NamesInQuestion = 5;
+constexpr int ShowEveryMs = 50;
 
 bool isNamedEncrypted(const QueueEntry& entry, const NamingSettings& naming)
 {
@@ -37,12 +38,14 @@ bool isNamedEncrypted(const QueueEntry& entry, const NamingSettings& naming)
 CQueueJob::CQueueJob(const Parts& parts)
     : m_parts(parts), m_run(m_parts.queue, m_parts.job, m_parts.disk), m_removal(m_parts.disk)
 {
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(ShowEveryMs);
     connect(&m_parts.disk, &CDiskWork::notifyAnswered, this, &CQueueJob::onUiLooked);
     connect(&m_parts.form.queueList(), &CQueueList::notifyClear, this, &CQueueJob::clear);
     connect(&m_parts.form.queueList(), &CQueueList::notifyCurrent, this, &CQueueJob::onUiCurrent);
     connect(&m_parts.form.queueList(), &CQueueList::notifyRemove, this, &CQueueJob::onUiRemove);
-    connect(&m_run, &CQueueRun::notifyEntry, this, &CQueueJob::onUiEntry);
-    connect(&m_run, &CQueueRun::notifyProgress, this, &CQueueJob::onUiProgress);
+    connect(&m_run, &CQueueRun::notifyNews, this, &CQueueJob::onUiNews);
+    connect(&m_timer, &QTimer::timeout, this, &CQueueJob::onUiShow);
     connect(&m_run, &CQueueRun::notifyEnded, this, &CQueueJob::onUiEnded);
     connect(&m_removal, &CQueueRemoval::notifyEnded, this, &CQueueJob::onUiRemovalEnded);
 }
@@ -173,18 +176,21 @@ void CQueueJob::leaveOutEncrypted()
             m_parts.queue.end(i, EntryState::Skipped, [] { return tr("It seems to be encrypted already."); });
 }
 
-void CQueueJob::onUiEntry(std::size_t index)
+/// Small files come faster than anybody reads.
+void CQueueJob::onUiNews()
 {
-    m_parts.form.queueList().refreshEntry(static_cast<int>(index));
-    if (m_run.current() == index)
-        m_parts.display.setName(tr("%1 of %2").arg(m_parts.queue.position()).arg(m_parts.queue.runSize()) +
-                                QStringLiteral(" - ") +
-                                pathText(m_parts.queue.entries()[index].path.filename()));
-    emit notifyChanged();
+    if (!m_timer.isActive())
+        m_timer.start();
 }
 
-void CQueueJob::onUiProgress()
+void CQueueJob::onUiShow()
 {
+    if (const auto current = m_run.current()) {
+        m_parts.form.queueList().refreshStates(static_cast<int>(*current));
+        m_parts.display.setName(tr("%1 of %2").arg(m_parts.queue.position()).arg(m_parts.queue.runSize()) +
+                                QStringLiteral(" - ") +
+                                pathText(m_parts.queue.entries()[*current].path.filename()));
+    }
     const auto [processed, total] = m_parts.queue.progress();
     const JobPhase phase = m_parts.job.progress().phase;
     // The disk's turn comes with every file, and is mostly too short to be read of.
@@ -196,6 +202,7 @@ void CQueueJob::onUiProgress()
 
 void CQueueJob::onUiEnded()
 {
+    m_timer.stop();
     m_parts.form.queueList().refresh();
     const auto problem = std::ranges::find_if(m_parts.queue.entries(), [](const QueueEntry& entry) {
         return entry.state == EntryState::Failed || entry.state == EntryState::Skipped;

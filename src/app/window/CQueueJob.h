@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <future>
 #include <vector>
@@ -68,8 +69,8 @@ private slots:
     void onUiLooked();
     void onUiCurrent(int row);
     void onUiRemove(const QList<int>& rows);
-    void onUiEntry(std::size_t index);
-    void onUiProgress();
+    void onUiNews();
+    void onUiShow();
     void onUiEnded();
     void onUiRemovalEnded();
 
@@ -83,6 +84,7 @@ private:
     const Parts m_parts;
     CQueueRun m_run;
     CQueueRemoval m_removal;
+    QTimer m_timer;
     std::shared_future<thisapp::QueueLook> m_look;
     thisapp::Operation m_operation = thisapp::Operation::Encrypt;
     bool m_redoAll = true;

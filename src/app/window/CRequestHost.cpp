@@ -86,7 +86,7 @@ OnEncrypted CRequestHost::askAboutEncrypted(int encrypted, int all)
 {
     QMessageBox box(QMessageBox::Question, tr("Encrypt again"),
                     all == 1
-                        ? tr("This file seems to be encrypted already.")
+                        ? tr("This file seems to be encrypted already")
                         : tr("Of the %1 files, %2 seem to be encrypted already.").arg(all).arg(encrypted),
                     QMessageBox::NoButton, &m_window);
     box.setInformativeText(tr("What is encrypted twice must be decrypted twice."));

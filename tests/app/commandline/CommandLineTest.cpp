@@ -22,18 +22,23 @@ const Case Cases[] = {
     {"one existing file is the input", {" here "}, {Enc, false, "here", {}, {}, {}}},
     {"blanks may belong to a file", {" doc"}, {Enc, false, " doc", {}, {}, {}}},
     {"of the output, too", {"-ofile", " doc"}, {Enc, false, {}, " doc", {}, {}}},
-    {"one other word is nothing", {"there"}, {}},
+    {"one other word may be a file yet", {"there"}, {Enc, false, {}, {}, {}, {}, {"there"}}},
+    {"several words are more files",
+     {"-decrypt", "-ifile", "a", "b", "-x", "-start", "c d"},
+     {Dec, true, "a", {}, {}, {}, {"b", "c d"}}},
     {"one option is still an option", {"-start"}, {Enc, true, {}, {}, {}, {}}},
     {"both signs, any case", {"/IFILE", "x", "-DeCrypt"}, {Dec, false, "x", {}, {}, {}}},
     {"the input stays as it is, the output is trimmed",
      {"-ifile", " x ", "-ofile", " y "},
      {Enc, false, " x ", "y", {}, {}}},
     {"an option takes no option as value", {"-ifile", "-start"}, {Enc, true, {}, {}, {}, {}}},
-    {"nor an unknown one", {"-ifile", "-x", "y"}, {}},
+    {"nor an unknown one", {"-ifile", "-x", "y"}, {Enc, false, {}, {}, {}, {}, {"y"}}},
     {"an option that stands last takes no value", {"-start", "-ofile"}, {Enc, true, {}, {}, {}, {}}},
-    {"a word of another length is unknown", {"-starts", "-decryp", "here"}, {}},
+    {"a word of another length is unknown",
+     {"-starts", "-decryp", "here"},
+     {Enc, false, {}, {}, {}, {}, {"here"}}},
     {"a value may begin with a slash", {"-ifile", "/tmp/x"}, {Enc, false, "/tmp/x", {}, {}, {}}},
-    {"unless it is an option", {"-ifile", "/START", "x"}, {Enc, true, {}, {}, {}, {}}},
+    {"unless it is an option", {"-ifile", "/START", "x"}, {Enc, true, {}, {}, {}, {}, {"x"}}},
     {"elsewhere a slash is always an option", {"-ifile", "/tmp/x"}, {}, SlashRule::AnyWord},
     {"the last one counts",
      {"-decrypt", "-encrypt", "-ifile", "a", "-ifile", "b"},
@@ -54,6 +59,7 @@ TEST(CommandLineTest, ReadsEveryFormOfTheArguments)
         EXPECT_EQ(line.output, c.expected.output);
         EXPECT_EQ(line.algorithm, c.expected.algorithm);
         EXPECT_EQ(line.library, c.expected.library);
+        EXPECT_EQ(line.words, c.expected.words);
     }
 }
 

@@ -154,6 +154,32 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
 
+TEST_P(JobRequestTest, AsksOnceForAllFilesOfAList)
+{
+    host.output = path("out.txt");
+    const QStringList names{"a.txt", "b.ENC", "c"};
+    QStringList asked;
+    host.password = [&asked](PasswordEntry& entry) {
+        asked = entry.names;
+        entry.password = SecretText("secret");
+        return true;
+    };
+    const bool encrypts = GetParam() == Operation::Encrypt;
+    for (const OnEncrypted answer : {OnEncrypted::Cancel, OnEncrypted::LeaveOut}) {
+        host.onEncrypted = answer;
+        asked.clear();
+        JobRequest request(GetParam(), host, host);
+        EXPECT_EQ(request.runForList(names).has_value(), !encrypts || answer != OnEncrypted::Cancel);
+        EXPECT_EQ(request.onEncrypted(), encrypts ? answer : OnEncrypted::Encrypt);
+        EXPECT_EQ(asked, encrypts && answer == OnEncrypted::Cancel ? QStringList() : names);
+    }
+    folder.write("x.enc", "");
+    host.input = path("x.enc");
+    host.output = path("x");
+    host.onEncrypted = OnEncrypted::Cancel;
+    EXPECT_EQ(JobRequest(GetParam(), host, host).run().has_value(), !encrypts);
+}
+
 /// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one. What a
 /// text means is settled once.
 TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)

@@ -1,5 +1,6 @@
 #include "window/WindowHarness.h"
 
+#include "app/widgets/CDropHint.h"
 #include "common/settings/CAppSettings.h"
 #include "support/Environment.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
@@ -7,10 +8,13 @@
 #include "ui/options/COptionsDialog.h"
 #include "ui/style/CLinkLabel.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QProgressBar>
+#include <QScreen>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -515,6 +519,36 @@ TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
     w.window->processCommandLine({"-algorithm", "no such", "-ifile", w.path("missing")});
     EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "AES-128");
     EXPECT_EQ(w.output().text(), w.path("out")) << "no proposal for what isn't there";
+}
+
+TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
+{
+    EXPECT_TRUE(w.window->screen()->availableGeometry().contains(w.window->frameGeometry()));
+    EXPECT_LE(w.window->minimumSizeHint().height(), 300);
+    w.window->setGeometry(70, 60, 420, 380);
+    w.window->close();
+    EXPECT_EQ(WindowHarness().window->geometry(), QRect(70, 60, 420, 380));
+}
+
+TEST_F(MainWindowTest, TellsAScreenReaderWhatIsWhat)
+{
+    w.writeInput("in", 10);
+    w.window->processCommandLine({w.path("in")});
+    w.progress().setProgress(50, {});
+    for (QWidget* widget : w.window->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        auto* accessible = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
+    }
+    const auto& hint = *w.window->findChild<CDropHint*>();
+    auto* accessible = QAccessible::queryAccessibleInterface(const_cast<CDropHint*>(&hint));
+    EXPECT_EQ(accessible->role(), QAccessible::Button);
+    EXPECT_EQ(accessible->text(QAccessible::Name), "in");
+    EXPECT_TRUE(
+        accessible->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    auto* bar = QAccessible::queryAccessibleInterface(w.window->findChild<QProgressBar*>());
+    EXPECT_EQ(bar->text(QAccessible::Name), "Progress");
 }
 
 TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
