@@ -103,7 +103,8 @@ Exec={exec} {options}-ifile %F
 constexpr std::string_view Script = R"(#!/bin/sh
 {head}program={shell}
 if [ ! -x "$program" ]; then
-  text={gone}
+  text={gone}"
+$0"
   command -v zenity >/dev/null && exec zenity --error --no-markup --text "$text"
   command -v kdialog >/dev/null && exec kdialog --error "$text"
   command -v xmessage >/dev/null && exec xmessage "$text"
@@ -134,9 +135,10 @@ std::string listValue(std::string value)
 
 std::string goneText(const std::string& program)
 {
-    const QString text = QCoreApplication::translate("ShellIntegration",
-                                                     "Quillet is not at %1 any more. Start it once from its "
-                                                     "new place, and this entry of the menu works again.");
+    const QString text = QCoreApplication::translate(
+        "ShellIntegration",
+        "Quillet is not at %1 any more. Start it once from its new place to mend this entry of "
+        "the menu, or delete the entry:");
     return text.arg(QString::fromLocal8Bit(program.c_str())).toStdString();
 }
 
