@@ -8,7 +8,7 @@ import sys
 import tempfile
 import time
 
-PATIENCE = 10  # seconds
+PATIENCE = 20  # seconds, for a loaded machine
 
 if "QUILLET_WALK" not in os.environ:
     sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
