@@ -44,6 +44,7 @@ JOBS = {
     "decrypt": ("decrypt", "encrypted", ["--password-file", "pw"], False),
     "decrypt --force": ("decrypt", "encrypted", ["--password-file", "pw", "--force"], True),
     "decrypt, sealed": ("decrypt", "sealed", [*KEY, "--force"], True),
+    "encrypt, standard input": ("encrypt", "-", ["--password-file", "pw"], False),
     "decrypt, wrong password": ("decrypt", "encrypted", ["--password-file", "wrong", "--force"], True),
 }
 
@@ -89,8 +90,9 @@ class Sweep:
             write("out", b"precious")
         environment = {**os.environ, "LD_PRELOAD": SHIM, "FAIL_CALL": call, "FAIL_AT": str(at),
                        "FAIL_ERROR": str(error), "FAIL_COUNT": "count"}
-        done = subprocess.run([CLI, command, *options, "--output", "out", source], env=environment,
-                              stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
+        with open("plain" if source == "-" else os.devnull) as stdin:
+            done = subprocess.run([CLI, command, *options, "--output", "out", source], env=environment, stdin=stdin,
+                                  capture_output=True, timeout=60)
         self.runs += 1
         return done.returncode, done.stderr.decode()
 

@@ -30,8 +30,7 @@ void reportRemovedOutput(const SEncryptData& data, IMessageAreas& areas)
 {
     if (data.outcome.outputDeleted)
         areas.showMessage(Area::Output,
-                          {MessageKind::Warning, [] { return Text::tr("Output file has been deleted."); },
-                           pathText(data.request.output)});
+                          {MessageKind::Warning, lostOutputText, pathText(data.request.output)});
 }
 
 /// The files of a job in a line.
@@ -136,6 +135,16 @@ QString openFolderText()
     return Text::tr("Open folder");
 }
 
+bool hasLostFormerOutput(const SEncryptData& data)
+{
+    return data.outcome.outputDeleted && data.request.existing == crypto::ExistingOutput::RemoveFirst;
+}
+
+QString lostOutputText()
+{
+    return Text::tr("Output file has been deleted.");
+}
+
 QString algorithmName(std::uint32_t id)
 {
     return QString::fromLatin1(crypto::displayName(id).data());
@@ -153,7 +162,7 @@ QString failureText(const SEncryptData& data)
                              ? advice(data.outcome.result.first(), data.request.passwordMode)
                              : QString();
     QStringList sentences{errorText(data.outcome.result) + QLatin1Char('.'), hint,
-                          data.outcome.outputDeleted ? Text::tr("Output file has been deleted.") : QString()};
+                          hasLostFormerOutput(data) ? lostOutputText() : QString()};
     sentences.removeAll(QString());
     return sentences.join(QLatin1Char(' '));
 }

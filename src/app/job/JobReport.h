@@ -23,6 +23,10 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas, std::function
 /// The link that does so.
 QString openFolderText();
 
+/// A job that was not completed has removed a former output.
+bool hasLostFormerOutput(const SEncryptData& data);
+QString lostOutputText();
+
 /// As the user knows it.
 QString algorithmName(std::uint32_t id);
 

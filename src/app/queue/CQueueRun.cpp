@@ -104,6 +104,9 @@ void CQueueRun::takeJobEnd()
     ended.outcome.root = {};
     ended.outcome.input.place = ended.outcome.output.place = nullptr; // there may be thousands of files
     if (ended.outcome.cancelled) {
+        if (hasLostFormerOutput(ended))
+            m_queue.end(*m_current, EntryState::Skipped,
+                        [] { return tr("Stopped") + QStringLiteral(". ") + lostOutputText(); });
         end();
         return;
     }

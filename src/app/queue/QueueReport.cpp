@@ -21,12 +21,13 @@ QString summary(Operation operation, FileQueue::Count count, std::size_t all, bo
     const QString done = operation == Operation::Encrypt ? Text::tr("%1 of %2 files encrypted")
                                                          : Text::tr("%1 of %2 files decrypted");
     QStringList parts{done.arg(count.done).arg(all)};
-    //: Follows "9 of 11 files encrypted"
     const auto add = [&parts](const QString& text, std::size_t number) {
         if (number > 0)
             parts += text.arg(number);
     };
+    //: Follows "9 of 11 files encrypted"
     add(Text::tr("%1 failed"), count.failed);
+    //: Follows "9 of 11 files encrypted"
     add(Text::tr("%1 skipped"), count.skipped);
     const QString text = parts.join(QStringLiteral(", "));
     return isStopped ? Text::tr("Stopped: %1").arg(text) : text;

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QScreen>
+#include <QWidget>
 
 namespace thisapp {
 
@@ -53,6 +55,8 @@ QStringList run(QWidget* parent, const QString& title, const QString& folder, QF
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     if (!folder.isEmpty())
         dialog.setDirectory(folder);
+    if (const QScreen* screen = parent->screen()) // at a large scale the toolkit's own is larger
+        dialog.resize(dialog.sizeHint().boundedTo(screen->availableSize() * 9 / 10));
     if (dialog.exec() != QDialog::Accepted)
         return {};
     QStringList chosen;

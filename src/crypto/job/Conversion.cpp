@@ -131,8 +131,9 @@ private:
         if (!isNoPlainFile(result) || m_done.cancelled)
             return result;
         AlgorithmSearch search(m_request, m_cipher.algorithmId());
-        if (search.read(m_in).ok())
-            m_done.fittingAlgorithm = search.findPlain();
+        if (const CryptoResult read = search.read(m_in); !read.ok())
+            return read;
+        m_done.fittingAlgorithm = search.findPlain();
         return m_done.fittingAlgorithm || !within ? result : unseal(*within, search);
     }
 

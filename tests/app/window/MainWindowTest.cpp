@@ -527,6 +527,8 @@ TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
     EXPECT_LE(w.window->minimumSizeHint().height(), 300);
     w.window->setGeometry(70, 60, 420, 380);
     w.window->close();
+    EXPECT_GT(WindowHarness().window->y(), 60) << "the other one is not covered";
+    w.window.reset();
     EXPECT_EQ(WindowHarness().window->geometry(), QRect(70, 60, 420, 380));
 }
 
