@@ -1,8 +1,10 @@
 #include "ui/algorithms/CSelectAlgFrame.h"
 
+#include "ui/algorithms/AlgAdviceText.h"
 #include "ui/algorithms/AlgColumns.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui_CSelectAlgFrame.h"
 
 #include <QEvent>
@@ -15,6 +17,8 @@ CSelectAlgFrame::CSelectAlgFrame(QWidget* parent)
     m_ui->setupUi(this);
     setFocusProxy(m_ui->comboBoxAlg);
     m_ui->comboBoxAlg->setItemDelegate(new thisapp::AlgItemDelegate(m_ui->comboBoxAlg));
+    connect(m_ui->comboBoxAlg, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &CSelectAlgFrame::showAdvice);
     connect(m_ui->comboBoxAlg, QOverload<int>::of(&QComboBox::activated), this,
             &CSelectAlgFrame::onUiAlgActivated);
 }
@@ -59,9 +63,17 @@ void CSelectAlgFrame::setLabelWidth(int width)
 
 void CSelectAlgFrame::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        showAdvice();
+    }
     QFrame::changeEvent(event);
+}
+
+void CSelectAlgFrame::showAdvice()
+{
+    m_ui->comboBoxAlg->setAccessibleDescription(thisapp::algAdvice(selection().algorithm).sentence);
+    thisapp::showDescriptionAsToolTip(*m_ui->comboBoxAlg);
 }
 
 void CSelectAlgFrame::onUiAlgActivated(int index)

@@ -45,6 +45,8 @@ private slots:
     void onUiAlgActivated(int index);
 
 private:
+    void showAdvice();
+
     std::unique_ptr<Ui::CSelectAlgFrame> m_ui;
     const thisapp::ICryptoAlgProvider* m_provider = nullptr;
     int m_reportedIndex = -1;

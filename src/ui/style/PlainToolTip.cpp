@@ -13,7 +13,8 @@ void setPlainToolTip(QWidget& widget, const QString& text)
 void showDescriptionAsToolTip(QWidget& widget)
 {
     // Qt breaks only rich text into lines.
-    widget.setToolTip(Qt::convertFromPlainText(widget.accessibleDescription(), Qt::WhiteSpaceNormal));
+    const QString text = widget.accessibleDescription();
+    widget.setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
 }
 
 void showDescriptionsAsToolTips(QWidget& form)

@@ -1,8 +1,11 @@
 #include "ui/Widgets.h"
 #include "ui/password/CapsLockWatcher.h"
 #include "ui/password/PasswordStrength.h"
+#include "ui/password/SecretClipboard.h"
 
+#include <QClipboard>
 #include <QLineEdit>
+#include <QMimeData>
 
 namespace {
 
@@ -67,6 +70,30 @@ TEST(CapsLockWatcher, LearnsFromThePlatformAndFromTheKeys)
             send(field, key);
         EXPECT_EQ(on, test.on) << test.keys;
     }
+}
+
+TEST(SecretClipboard, ForgetsWhatItPutThereAndNothingElse)
+{
+    using namespace std::chrono_literals;
+    const auto& clipboard = *QApplication::clipboard();
+    const auto afterwards = [&clipboard](const char* copiedSince) {
+        thisapp::copySecret(tessaly::SecretText("s\xc3\xa4"
+                                                "cret"),
+                            20ms);
+        EXPECT_EQ(clipboard.text(), QString::fromUtf8("s\xc3\xa4"
+                                                      "cret"));
+        EXPECT_TRUE(clipboard.mimeData()->hasFormat("x-kde-passwordManagerHint"));
+        if (copiedSince != nullptr)
+            QApplication::clipboard()->setText(QString::fromUtf8(copiedSince));
+        QTest::qWait(60);
+        return clipboard.text();
+    };
+    EXPECT_EQ(afterwards(nullptr), "");
+    EXPECT_EQ(afterwards("mine"), "mine");
+    EXPECT_EQ(afterwards("s\xc3\xa4"
+                         "cret"),
+              "")
+        << "as a clipboard manager does";
 }
 
 } // namespace

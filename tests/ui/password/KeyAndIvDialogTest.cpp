@@ -213,6 +213,13 @@ TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
     EXPECT_EQ(generated.size(), 8);
     press(Qt::Key_G, Qt::AltModifier);
     EXPECT_NE(key.toPlainText(), generated);
+    key.setPlainText("typed");
+    for (const Qt::Key answer : {Qt::Key_N, Qt::Key_Y}) {
+        whenModal([answer](QWidget&) { press(answer, Qt::AltModifier); });
+        press(Qt::Key_G, Qt::AltModifier);
+        EXPECT_EQ(key.toPlainText() == "typed", answer == Qt::Key_N);
+        QApplication::setActiveWindow(&dialog);
+    }
 
     const QString text = QString("Quillet key and initialization vector\nAlgorithm: Toy\n"
                                  "Initialization vector (IV): %1\nKey: %2\n")

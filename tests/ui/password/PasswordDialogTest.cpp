@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextEdit>
+#include <optional>
 
 namespace {
 
@@ -202,6 +203,35 @@ TEST_F(PasswordDialog, NamesTheStrengthAndWarnsOfCapsLock)
     password.selectAll();
     press(Qt::Key_Delete);
     EXPECT_EQ(strength.text(), QString());
+}
+
+TEST_F(PasswordDialog, TakesAGeneratedPasswordAndAsksBeforeItReplacesATypedOne)
+{
+    open(dialog);
+    const auto generate = [this](std::optional<Qt::Key> answer) {
+        QString made;
+        whenModal([&](QWidget& generator) {
+            press(Qt::Key_G, Qt::AltModifier);
+            made = child<QLineEdit>(generator, "lineEditPassword").text();
+            made.detach(); // what the generator has is wiped
+            if (answer)
+                whenModal([answer](QWidget&) { press(*answer, Qt::AltModifier); });
+            press(Qt::Key_Return);
+        });
+        press(Qt::Key_G, Qt::AltModifier);
+        QApplication::setActiveWindow(&dialog);
+        return made;
+    };
+    const QString first = generate(std::nullopt);
+    EXPECT_EQ(first.count(' '), 5);
+    EXPECT_EQ(password.text(), first);
+    EXPECT_EQ(confirmation.text(), first);
+    EXPECT_NE(generate(Qt::Key_N), first);
+    EXPECT_EQ(password.text(), first);
+    const QString second = generate(Qt::Key_Y);
+    EXPECT_EQ(password.text(), second);
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.password().view(), second.toStdString());
 }
 
 } // namespace
