@@ -1,3 +1,4 @@
+#include "app/commandline/Arguments.h"
 #include "app/desktop/Desktop.h"
 #include "app/desktop/ShellIntegration.h"
 #include "app/i18n/MyTranslator.h"
@@ -18,6 +19,7 @@
 #include "lib/platform/Path.h"
 #include "lib/platform/Process.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
+#include "ui/style/MaskedText.h"
 
 #include <QApplication>
 #include <QDir>
@@ -67,16 +69,6 @@ bool answerOnTerminal(std::span<char*> arguments)
     return true;
 }
 
-/// The application object has taken its own arguments out. Its list of the rest would lose the bytes
-/// of a file name that are not UTF-8.
-QStringList programArguments(std::span<char*> arguments)
-{
-    QStringList texts;
-    for (const char* argument : arguments)
-        texts += pathText(argument);
-    return texts;
-}
-
 /// Beside an installed program, or in the folder that the program was built in.
 std::filesystem::path translationFolder()
 {
@@ -108,6 +100,7 @@ int runApplication(int& argc, char** argv)
 {
     std::optional<desktop::LeanStart> leanStart(std::in_place);
     const QApplication application(argc, argv);
+    maskTextOfSecretFields();
     // Ctrl-C in the terminal, a log-out or a request to terminate ends a job as closing the window does.
     // Outlives the window and the wait for its worker, so that a second one cannot cut that short.
     const platform::Interrupts interrupts([] {
@@ -134,7 +127,8 @@ int runApplication(int& argc, char** argv)
     CMainWindow window(
         {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
 
-    const QStringList arguments = programArguments({argv + 1, static_cast<std::size_t>(argc - 1)});
+    // The application object has taken its own arguments out. Its list of the rest would lose bytes.
+    const QStringList arguments = argumentTexts({argv + 1, static_cast<std::size_t>(argc - 1)});
     new CFirstPaint(window, [&] {
         leanStart.reset();
         QApplication::setWindowIcon(applicationIcon());

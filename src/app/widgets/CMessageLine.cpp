@@ -52,6 +52,10 @@ CMessageLine::CMessageLine(QWidget* parent)
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // A result comes while the window gets the focus back, and a reader drops what comes with that.
+    thisapp::announceWhenSettled(m_speech, *this, [this] {
+        return detail().isEmpty() ? text() : text() + QStringLiteral(". ") + detail();
+    });
     refresh();
 }
 
@@ -60,7 +64,7 @@ void CMessageLine::setMessage(thisapp::Message message)
     m_message = std::move(message);
     refresh();
     if (m_isAnnounced)
-        thisapp::announce(this, detail().isEmpty() ? text() : text() + QStringLiteral(". ") + detail());
+        m_speech.start();
 }
 
 void CMessageLine::setFieldText(const QString& text)
@@ -105,6 +109,7 @@ void CMessageLine::refresh()
         textPalette.setColor(group, QPalette::WindowText, color);
     m_text->setPalette(textPalette);
     m_text->setText(m_message.now());
+    m_text->setVisible(!text().isEmpty()); // nothing to come to
     setMinimumHeight(fontMetrics().height());
     m_detail->setWholeText(detail());
     m_detail->setVisible(!detail().isEmpty());

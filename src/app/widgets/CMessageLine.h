@@ -3,6 +3,7 @@
 #include "app/job/Message.h"
 
 #include <QFrame>
+#include <QTimer>
 
 class CElidedLabel;
 class CLinkLabel;
@@ -44,4 +45,5 @@ private:
     QString m_fieldText;
     thisapp::Message m_message;
     bool m_isAnnounced = false;
+    QTimer m_speech;
 };

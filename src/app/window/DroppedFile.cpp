@@ -1,31 +1,15 @@
 #include "app/window/DroppedFile.h"
 
-#include "common/path/PathText.h"
+#include "common/path/UrlPath.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QStringList>
-#include <QSysInfo>
 
 namespace thisapp {
 
 using namespace tessaly;
 
 namespace {
-
-bool isHere(const QUrl& url)
-{
-    const QString host = url.host();
-    return url.isLocalFile() && (host.isEmpty() || host.compare("localhost", Qt::CaseInsensitive) == 0 ||
-                                 host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
-}
-
-/// Unlike QUrl's own answer, with every byte of a name that is not UTF-8.
-QString pathOf(const QUrl& url)
-{
-    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
-    return QDir::toNativeSeparators(pathText(QByteArray::fromPercentEncoding(encoded).toStdString()));
-}
 
 struct Text
 {
@@ -53,8 +37,8 @@ QStringList droppedFiles(const QList<QUrl>& urls)
 {
     QStringList files;
     for (const QUrl& url : urls)
-        if (isHere(url))
-            files += pathOf(url);
+        if (const QString path = urlPath(url); !path.isEmpty())
+            files += path;
     return files;
 }
 

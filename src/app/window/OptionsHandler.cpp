@@ -104,12 +104,13 @@ SAppliedOptions OptionsHandler::apply(const SAppOptions& options,
         select(algorithm);
     }
     applyLogging(options);
-    if (readLocaleId(settings) != options.localeId && useLanguage(options.localeId)) {
+    const bool languageChanged = readLocaleId(settings) != options.localeId && useLanguage(options.localeId);
+    if (languageChanged) {
         writeLocaleId(settings, options.localeId);
         installTranslator();
     }
     save(settings);
-    if (shellChanged)
+    if (shellChanged || languageChanged) // the entries have names in that language
         m_targets.updateShell(options.integrateToShellContextMenu, options.addToSendMenu);
     return {problem(), m_targets.translations.locale().lcid};
 }

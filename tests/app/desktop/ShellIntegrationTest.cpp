@@ -1,6 +1,8 @@
 #include "app/desktop/ShellIntegration.h"
-#include "app/desktop/linux/CommandQuoting.h"
-#include "app/desktop/linux/OwnedFile.h"
+#include "app/commandline/Arguments.h"
+#include "app/desktop/linux/shell/CommandQuoting.h"
+#include "app/desktop/linux/shell/OwnedFile.h"
+#include "common/path/PathText.h"
 #include "support/Environment.h"
 #include "support/Eventually.h"
 #include "support/TempFolder.h"
@@ -12,6 +14,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -34,6 +37,7 @@ TEST(CommandQuoting, DesktopEntriesAndShell)
     for (const auto& c : cases) {
         EXPECT_EQ(execArgument(c.path), c.exec);
         EXPECT_EQ(shellWord(c.path), c.shell);
+        EXPECT_EQ(firstShellWord(c.shell + " -x 'y'"), c.path);
         EXPECT_EQ(desktopString(c.path), c.value);
     }
 }
@@ -56,13 +60,25 @@ protected:
     }
     std::string read(const char* path) const { return test::readFile(folder / path); }
 
+    /// The menus are written for managers that are there.
+    void SetUp() override
+    {
+        for (const char* name :
+             {"config/caja", "config/nemo", "config/pcmanfm", "data/dolphin", "data/nautilus", "bin",
+              "build/bin", "system/Thunar", "config/Thunar", "data/Thunar"})
+            fs::create_directories(folder / name);
+    }
+
     test::TempFolder folder;
     test::Environment data{"XDG_DATA_HOME", (folder / "data").c_str()};
     test::Environment config{"XDG_CONFIG_HOME", (folder / "config").c_str()};
-    std::string program = folder / "it's \"$our\" program {marker}";
+    test::Environment system{"XDG_CONFIG_DIRS", (folder / "system").c_str()};
+    test::Environment programs{"PATH", (folder / "bin").c_str()};
+    std::string program = folder / "it's \"$our\" program {marker} 100%";
 };
 
 constexpr const char* ServiceMenu = "data/kio/servicemenus/quillet.desktop";
+constexpr const char* Actions = "config/Thunar/uca.xml";
 constexpr const char* SendTo = "data/Thunar/sendto/quillet.desktop";
 
 TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
@@ -73,6 +89,10 @@ TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
         {"config/caja/scripts/Decrypt with Quillet", executable},
         {"config/caja/scripts/Encrypt with Quillet", executable},
         {"config/caja/scripts/Open with Quillet", executable},
+        {Actions, fs::perms{0644}},
+        {"data/file-manager/actions/quillet-decrypt.desktop", plain},
+        {"data/file-manager/actions/quillet-encrypt.desktop", plain},
+        {"data/file-manager/actions/quillet-open.desktop", plain},
         {"data/nautilus/scripts/Decrypt with Quillet", executable},
         {"data/nautilus/scripts/Encrypt with Quillet", executable},
         {"data/nautilus/scripts/Open with Quillet", executable},
@@ -89,25 +109,125 @@ TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
         update(menu, sendTo);
         EXPECT_EQ(files(), expected);
     }
+    EXPECT_FALSE(fs::exists(folder / "data/nemo")) << "made for the entries";
+    for (const char* name : {"config/nemo", "data/dolphin"})
+        fs::remove(folder / name);
+    update(true, true);
+    EXPECT_EQ(files().count(ServiceMenu) + files().count("data/nemo/actions/quillet-open.nemo_action"), 0U)
+        << "for managers that are not there";
 }
 
 TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
 {
     update(true, true);
-    EXPECT_NE(read(ServiceMenu).find("Exec=" + execArgument(program) + " -decrypt -start -ifile %f\n"),
+    EXPECT_NE(read(ServiceMenu).find("Exec=" + execArgument(program) + " -decrypt -start -ifile %F\n"),
               std::string::npos);
-    EXPECT_NE(read(SendTo).find("Exec=" + execArgument(program) + " -ifile %f\n"), std::string::npos);
+    EXPECT_NE(read(SendTo).find("Exec=" + execArgument(program) + " -ifile %F\n"), std::string::npos);
     EXPECT_NE(read("data/nemo/actions/quillet-encrypt.nemo_action").find("Name=Encrypt with Quillet\n"),
               std::string::npos);
 
-    // A relative name that looks like an option must reach the program as the file that it is.
+    // Scripts go by the manager's URIs; for files of another machine by the paths that they have on this one.
     folder.write(program, "#!/bin/sh\nprintf '%s|' \"$@\" >>'" + (folder / "arguments") + "'\n");
     fs::permissions(program, fs::perms(0700));
-    const std::string script = folder / "data/nautilus/scripts/Encrypt with Quillet";
-    const std::string command = "cd '" + folder.path().string() + "' && '" + script + "' '-start x'";
-    ASSERT_EQ(std::system(command.c_str()), 0);
-    const std::string expected = "-encrypt|-start|-ifile|" + (folder / "-start x") + "|";
-    EXPECT_TRUE(test::eventually([&] { return read("arguments") == expected; })) << read("arguments");
+    const test::Environment tools("PATH", "/usr/bin:/bin");
+    const std::string script = "'" + (folder / "config/caja/scripts/Encrypt with Quillet") + "' a b";
+    const struct
+    {
+        const char *uris, *paths, *arguments;
+    } cases[] = {
+        {"file:///a%25f%0A*\nfile:///-b\n", "wrong", "file:///a%25f%0A*|file:///-b|"},
+        {"sftp://host/c d\n", "/run/c d\n", "/run/c d|"},
+    };
+    for (const auto& c : cases) {
+        const test::Environment uris("CAJA_SCRIPT_SELECTED_URIS", c.uris);
+        const test::Environment paths("CAJA_SCRIPT_SELECTED_FILE_PATHS", c.paths);
+        ASSERT_EQ(std::system(script.c_str()), 0);
+        EXPECT_EQ(read("arguments"), "-encrypt|-start|-ifile|"s + c.arguments);
+        fs::remove(folder / "arguments");
+    }
+    fs::remove(program);
+    folder.write("bin/zenity", "#!/bin/sh\necho \"$4\" >>'" + (folder / "told") + "'\n");
+    fs::permissions(folder / "bin/zenity", fs::perms(0700));
+    const test::Environment zenity("PATH", (folder / "bin:/usr/bin:/bin").c_str());
+    ASSERT_EQ(std::system(script.c_str()), 0);
+    EXPECT_EQ(read("told").rfind("Quillet is not at " + program + " any more.", 0), 0U) << read("told");
+}
+
+TEST(Arguments, TheUrlOfAFileIsItsPath)
+{
+    const test::TempFolder folder;
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path());
+    fs::create_directory("file:");
+    folder.write("file:/there", "");
+    const std::pair<const char*, std::string> cases[] = {
+        {"file:///a%25f%0A%E6%9A%97%E9", "/a%f\n\xe6\x9a\x97\xe9"},
+        {"file://localhost/b", "/b"},
+        {"file://elsewhere/c", "file://elsewhere/c"},
+        {"file:/d", "file:/d"},
+        {"file:///there", "file:///there"},
+        {"file:///gone", "/gone"},
+        {"/e%20f\xe9", "/e%20f\xe9"},
+    };
+    for (const auto& [argument, path] : cases)
+        EXPECT_EQ(thisapp::textPath(thisapp::argumentTexts({&argument, 1}).front()), path);
+    fs::current_path(before);
+}
+
+/// The actions of others, in a file that the user has: they keep their text and their place.
+TEST_F(ShellIntegrationTest, SharesThunarsActionsWithTheUser)
+{
+    const std::string theirs = "<action>\n <name>Mine &amp; \xe6\x9a\x97</name> <!-- kept -->\n</action>\n";
+    const auto file = [](const std::string& actions) {
+        return "<?xml version=\"1.0\"?>\n<actions>\n" + actions + "</actions>\n";
+    };
+    folder.write("system/Thunar/uca.xml", file("<action><name>System</name></action>\n"));
+    for (const std::string& start : {file(theirs), std::string()}) {
+        fs::remove(folder / Actions);
+        if (!start.empty())
+            folder.write(Actions, start);
+        update(true, true);
+        const std::string ours = read(Actions);
+        EXPECT_NE(ours.find(start.empty() ? "System" : theirs), std::string::npos);
+        EXPECT_NE(ours.find("program {marker} 100%%'"), std::string::npos) << ours;
+        // The user changes things: the order, and one of ours.
+        std::string moved = ours;
+        const std::size_t end = moved.find("</actions>");
+        moved.insert(end, theirs);
+        moved.replace(moved.find("-decrypt -start"), 15, "-old");
+        folder.write(Actions, moved);
+        update(true, true);
+        std::string mended = ours;
+        EXPECT_EQ(read(Actions), mended.insert(end, theirs)); // ours before theirs still
+        folder.write(Actions, ours);
+        update(false, true);
+        EXPECT_EQ(read(Actions), start); // a file that was not there is gone
+    }
+    for (const char* broken : {"<actions><action></actions>", "<other/>", ""}) {
+        fs::create_directories(folder / "config/Thunar");
+        folder.write(Actions, broken);
+        update(true, true);
+        update(false, true);
+        EXPECT_EQ(read(Actions), broken);
+    }
+}
+
+TEST_F(ShellIntegrationTest, ABuildLeavesTheInstalledProgramsEntries)
+{
+    folder.write("build/CMakeCache.txt", "");
+    folder.write(program, "");
+    update(true, true);
+    const std::string menu = read(ServiceMenu);
+    const std::string actions = read(Actions);
+    const std::string installed = std::exchange(program, folder / "build/bin/quillet");
+    update(true, true);
+    update(false, false);
+    EXPECT_EQ(read(ServiceMenu), menu);
+    EXPECT_EQ(read(Actions), actions);
+    fs::remove(installed); // what they start is gone
+    update(true, true);
+    EXPECT_NE(read(ServiceMenu).find(program), std::string::npos);
+    EXPECT_NE(read(Actions).find(program), std::string::npos);
 }
 
 TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
@@ -123,7 +243,7 @@ TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
     fs::permissions(menu, fs::perms(0600));
     update(true, true);
     EXPECT_EQ(fs::status(menu).permissions(), fs::perms(0755)) << "it wouldn't show without";
-    folder.write(menu, std::string(OwnedFile::Marker) + "\nfrom an older version\n");
+    folder.write(menu, OwnedFile::head("/old") + "from an older version\n");
     update(true, true);
     EXPECT_EQ(read(ServiceMenu), ours);
 

@@ -1,4 +1,4 @@
-#include "app/desktop/linux/CommandQuoting.h"
+#include "app/desktop/linux/shell/CommandQuoting.h"
 
 namespace thisapp::desktop {
 
@@ -49,6 +49,21 @@ std::string shellWord(std::string_view word)
         else
             quoted += c;
     return quoted + "'";
+}
+
+std::string firstShellWord(std::string_view command)
+{
+    std::string word;
+    bool isQuoted = false;
+    for (std::size_t i = 0; i < command.size() && (isQuoted || command[i] != ' '); ++i) {
+        if (command[i] == '\'')
+            isQuoted = !isQuoted;
+        else if (isQuoted || command[i] != '\\')
+            word += command[i];
+        else if (++i < command.size())
+            word += command[i];
+    }
+    return word;
 }
 
 } // namespace thisapp::desktop

@@ -14,4 +14,7 @@ std::string execArgument(std::string_view argument);
 /// One word of a shell command.
 std::string shellWord(std::string_view word);
 
+/// The word that a command made with it begins with.
+std::string firstShellWord(std::string_view command);
+
 } // namespace thisapp::desktop
