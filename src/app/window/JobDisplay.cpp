@@ -8,6 +8,7 @@
 #include "app/window/CJobFrame.h"
 
 #include <QFileInfo>
+#include <QLocale>
 
 namespace thisapp {
 
@@ -59,7 +60,8 @@ void JobDisplay::showEnd(const SEncryptData& ended, bool userIsHere)
 
 QString JobDisplay::title() const
 {
-    return QStringLiteral("%1% - %2").arg(static_cast<int>(m_progress.percent())).arg(m_fileName);
+    return QStringLiteral("%1% - %2")
+        .arg(QLocale().toString(static_cast<int>(m_progress.percent())), m_fileName);
 }
 
 } // namespace thisapp

@@ -13,6 +13,7 @@
 
 #include <QClipboard>
 #include <QFileDialog>
+#include <QLocale>
 #include <QMimeData>
 #include <QShowEvent>
 
@@ -27,7 +28,8 @@ thisapp::SHexCheck checkField(HexInput input, CHexEdit& field, QLabel& count, st
 {
     thisapp::SHexCheck check = thisapp::checkHex(input, thisapp::typedText(field), expectedLength);
     field.showValidity(check.passed());
-    count.setText(CSetKeyAndIvDialog::tr("%1 of %2 bytes entered").arg(check.byteCount).arg(expectedLength));
+    count.setText(CSetKeyAndIvDialog::tr("%1 of %2 bytes entered")
+                      .arg(QLocale().toString(check.byteCount), QLocale().toString(expectedLength)));
     return check;
 }
 
@@ -111,8 +113,9 @@ void CSetKeyAndIvDialog::showTexts()
                                         "Selected cryptographic algorithm: %1.");
     m_ui->textEditInfo->showText(info.arg(m_algorithmName));
     setAccessibleDescription(m_ui->textEditInfo->toPlainText());
-    m_ui->labelKey->setText(tr("&Key, length: %1 bytes (HEX format)").arg(m_keyLength));
-    m_ui->labelIv->setText(tr("&Initialization vector (IV), length: %1 bytes (HEX format)").arg(m_ivLength));
+    m_ui->labelKey->setText(tr("&Key, length: %1 bytes (HEX format)").arg(QLocale().toString(m_keyLength)));
+    m_ui->labelIv->setText(
+        tr("&Initialization vector (IV), length: %1 bytes (HEX format)").arg(QLocale().toString(m_ivLength)));
 }
 
 /// Shows what the caller handed in; problems only if there is something to judge.

@@ -10,6 +10,7 @@
 #include "ui_CSetPasswordDialog.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QShowEvent>
 
 CSetPasswordDialog::CSetPasswordDialog(QWidget* parent)
@@ -134,9 +135,11 @@ bool CSetPasswordDialog::checkPasswords()
         m_ui->lineEditMsg->clearMessage();
         return true;
     }
-    const QString lengths = password.size() == confirmation.size()
-                                ? tr("Password length: %1").arg(password.size())
-                                : tr("Password length: %1/%2").arg(password.size()).arg(confirmation.size());
+    const QString lengths =
+        password.size() == confirmation.size()
+            ? tr("Password length: %1").arg(QLocale().toString(password.size()))
+            : tr("Password length: %1/%2")
+                  .arg(QLocale().toString(password.size()), QLocale().toString(confirmation.size()));
     m_ui->lineEditMsg->showMessage(tr("The passwords do not match.") + QLatin1Char(' ') + lengths,
                                    thisapp::MessageKind::Warning);
     return false;
