@@ -2,6 +2,7 @@
 
 #include "app/widgets/CElidedLabel.h"
 #include "app/widgets/SymbolicIcon.h"
+#include "ui/style/TextDirection.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -87,7 +88,7 @@ void CMessageLine::refresh()
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         textPalette.setColor(group, QPalette::WindowText, color);
     m_text->setPalette(textPalette);
-    m_text->setText(m_message.now());
+    m_text->setText(thisapp::atLanguageSide(m_message.now()));
     setMinimumHeight(fontMetrics().height());
     m_detail->setWholeText(detail());
     m_detail->setVisible(!detail().isEmpty());

@@ -5,6 +5,7 @@
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
+#include "ui/style/TextDirection.h"
 #include "ui/style/TextSize.h"
 #include "ui_CAlgInfoDialog.h"
 
@@ -92,4 +93,5 @@ void CAlgInfoDialog::onUiPrintAlgInfo()
         report += thisapp::algInfoReport(m_provider->displayName(selection), recordOf(selection));
     }
     m_ui->plainTextEditInfo->setPlainText(report);
+    thisapp::followLanguageSide(*m_ui->plainTextEditInfo->document());
 }
