@@ -136,10 +136,11 @@ def mnemonics(text):
 def faults_of(language, text, forms):
     """What a translation has that its source has not, and the other way round."""
     places, tags = markers(text.source)
+    number_place = "%Ln" if "%Ln" in places else "%n"
     for number, form in enumerate(forms):
         form_places, form_tags = markers(form)
-        if text.has_number and language.may_omit_number(number, len(forms)) and "%n" not in form_places:
-            form_places = sorted(form_places + ["%n"])
+        if text.has_number and language.may_omit_number(number, len(forms)) and number_place not in form_places:
+            form_places = sorted(form_places + [number_place])
         if form_places != places:
             yield f"place markers {' '.join(form_places) or 'missing'} instead of {' '.join(places) or 'none'}"
         if form_tags != tags:
