@@ -50,6 +50,7 @@ TEST(Translators, BringTheWholeApplicationIntoALanguage)
     EXPECT_EQ(translated("QPlatformTheme", "&Yes"), toolkitSpeaks ? "&Ja" : "&Yes");
     use(Arabic);
     EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(translated("C", "%Ln hour(s)", 3), "\u0663 hour(s)");
     use(English);
     EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
     EXPECT_EQ(translated("QPlatformTheme", "&Yes"), "&Yes");
