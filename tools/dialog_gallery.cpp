@@ -1,4 +1,6 @@
-// Saves a picture of every dialog: dialog_gallery FOLDER [dark]. QT_SCALE_FACTOR=2 doubles the scale.
+// Saves a picture of every dialog: dialog_gallery FOLDER [dark]. QT_SCALE_FACTOR=2 doubles the scale,
+// GALLERY_LANGUAGE=de-DE takes another language.
+#include "GalleryLanguage.h"
 #include "common/settings/SAppOptions.h"
 #include "ui/algorithms/CAlgInfoDialog.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
@@ -242,6 +244,7 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillet"));
+    const GalleryLanguage language;
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2)
         return 2;

@@ -1,5 +1,6 @@
 // Saves a picture of the main window in each of its states: window_gallery FOLDER [dark] [narrow | small].
-// QT_SCALE_FACTOR=2 doubles the scale.
+// QT_SCALE_FACTOR=2 doubles the scale, GALLERY_LANGUAGE=de-DE takes another language.
+#include "GalleryLanguage.h"
 #include "window/WindowHarness.h"
 
 #include "common/settings/CAppSettings.h"
@@ -118,6 +119,7 @@ int main(int argc, char** argv)
     const test::TempFolder home;
     ::setenv("XDG_CONFIG_HOME", home.path().c_str(), 1);
     const QApplication application(argc, argv);
+    const GalleryLanguage language;
     QApplication::setStyle(QStringLiteral("fusion"));
     QCoreApplication::setApplicationName(tessaly::QuilletName);
     CAppSettings::setApplicationProductId(tessaly::QuilletProductId);

@@ -1,7 +1,8 @@
 #include "app/commandline/Arguments.h"
 #include "app/desktop/Desktop.h"
 #include "app/desktop/ShellIntegration.h"
-#include "app/i18n/MyTranslator.h"
+#include "app/i18n/TranslationFolders.h"
+#include "app/i18n/Translators.h"
 #include "app/widgets/SymbolicIcon.h"
 #include "app/window/CFirstPaint.h"
 #include "app/window/CMainWindow.h"
@@ -22,7 +23,6 @@
 #include "ui/style/MaskedText.h"
 
 #include <QApplication>
-#include <QDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -69,15 +69,6 @@ bool answerOnTerminal(std::span<char*> arguments)
     return true;
 }
 
-/// Beside an installed program, or in the folder that the program was built in.
-std::filesystem::path translationFolder()
-{
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    const QDir installed(programFolder.filePath(QStringLiteral("../share/quillet/translations")));
-    return textPath(installed.exists() ? installed.absolutePath()
-                                       : programFolder.filePath(QStringLiteral("translations")));
-}
-
 void prepareApplication()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -113,12 +104,13 @@ int runApplication(int& argc, char** argv)
             Qt::QueuedConnection);
     });
 
-    i18n::TranslationManager translations(platform::wideText(translationFolder()), QuilletName);
-    MyTranslator translator(translations.bundle());
+    i18n::TranslationManager translations(translationFolders(QCoreApplication::applicationDirPath()),
+                                          QuilletName);
+    Translators translators(translations);
     logger::FileLogging logging(logger::FileLogging::defaultPath(),
                                 [](ResultCode error) { return errorText(error).toStdString(); });
     const CCryptoAlgProvider algorithms;
-    OptionsHandler options({algorithms, translations, translator, logging, updateShell});
+    OptionsHandler options({algorithms, translations, translators, logging, updateShell});
     options.applyAtStart();
 
     const cryptopp::CEncryptorFactory encryptors;

@@ -9,6 +9,7 @@
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/logger/Log.h"
+#include "ui/style/TextDirection.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -56,7 +57,7 @@ QString successText(const OperationTexts& texts, Operation operation, bool seale
 std::function<QString()> failedStep(const SEncryptData& data)
 {
     return [text = failedStepText(data.outcome), file = pathText(failedFile(data.outcome, data.request))] {
-        return QCoreApplication::translate("JobStep", text).arg(file);
+        return QCoreApplication::translate("JobStep", text).arg(leftToRight(file));
     };
 }
 

@@ -7,6 +7,7 @@
 #include "crypto/catalogue/AlgInfo.h"
 
 #include <QDir>
+#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -265,7 +266,9 @@ JobRequest::Verdict JobRequest::ivFits()
     const auto ivSize = m_data.request.iv.size();
     if (m_data.request.passwordMode || ivSize == m_sizes.ivLength)
         return {};
-    return Refusal{Area::Result, [ivSize] { return tr("Invalid IV size. Entered %1 bytes").arg(ivSize); }};
+    return Refusal{Area::Result, [ivSize] {
+                       return tr("Invalid IV size. Entered %1 bytes").arg(QLocale().toString(ivSize));
+                   }};
 }
 
 JobRequest::Verdict JobRequest::keyFits()
@@ -274,7 +277,9 @@ JobRequest::Verdict JobRequest::keyFits()
         return {};
     // Deliberately the size of the IV in this message, too.
     const auto ivSize = m_data.request.iv.size();
-    return Refusal{Area::Result, [ivSize] { return tr("Invalid key size. Entered %1 bytes").arg(ivSize); }};
+    return Refusal{Area::Result, [ivSize] {
+                       return tr("Invalid key size. Entered %1 bytes").arg(QLocale().toString(ivSize));
+                   }};
 }
 
 JobRequest::Verdict JobRequest::engineIsReady()

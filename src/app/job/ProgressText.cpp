@@ -21,6 +21,11 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Progress)
 };
 
+QString number(std::int64_t value)
+{
+    return QLocale().toString(qlonglong{value});
+}
+
 QString speedText(double bytesPerSecond)
 {
     //: A speed, as in "12 MiB/s"
@@ -47,7 +52,7 @@ QString progressText(Operation operation, JobPhase phase, const ProgressTracker&
 {
     QStringList sentences{
         stepText(operation, phase, progress),
-        Text::tr("%1% processed").arg(QString::number(double{progress.percent()}, 'f', 3)),
+        Text::tr("%1% processed").arg(QLocale().toString(double{progress.percent()}, 'f', 3)),
     };
     const auto remaining = progress.remainingSeconds();
     if (phase == JobPhase::Processing && remaining)
@@ -67,12 +72,10 @@ QString remainingTimeText(std::int64_t seconds)
     seconds %= 60;
     if (hours > 0)
         return Text::tr("Remaining time: %1 hours %2 minutes %3 seconds")
-            .arg(hours)
-            .arg(minutes)
-            .arg(seconds);
+            .arg(number(hours), number(minutes), number(seconds));
     if (minutes > 0)
-        return Text::tr("Remaining time: %1 minutes %2 seconds").arg(minutes).arg(seconds);
-    return Text::tr("Remaining time: %1 seconds").arg(seconds);
+        return Text::tr("Remaining time: %1 minutes %2 seconds").arg(number(minutes), number(seconds));
+    return Text::tr("Remaining time: %1 seconds").arg(number(seconds));
 }
 
 QString summaryText(std::int64_t bytes, std::int64_t elapsedMs)

@@ -147,8 +147,8 @@ void CQueueList::retranslate()
 
 void CQueueList::refreshSummary()
 {
-    m_summary->setText(
-        tr("%1 files, %2").arg(m_queue.size()).arg(QLocale().formattedDataSize(m_queue.totalSize(), 1)));
+    m_summary->setText(tr("%Ln files, %1", "", static_cast<int>(m_queue.size()))
+                           .arg(QLocale().formattedDataSize(m_queue.totalSize(), 1)));
 }
 
 /// The sizes take what they need; names and states share the rest.

@@ -34,7 +34,7 @@ QString stateText(const QueueEntry& entry)
     case EntryState::Waiting:
         break;
     case EntryState::Running:
-        return CQueueModel::tr("Running, %1%").arg(percentOf(entry));
+        return CQueueModel::tr("Running, %1%").arg(QLocale().toString(percentOf(entry)));
     case EntryState::Done:
         return withReason(CQueueModel::tr("Done"), entry);
     case EntryState::Failed:

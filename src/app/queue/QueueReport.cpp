@@ -3,6 +3,7 @@
 #include "common/path/PathText.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringList>
 
 #include <set>
@@ -18,17 +19,14 @@ struct Text
 
 QString summary(Operation operation, FileQueue::Count count, std::size_t all, bool isStopped)
 {
-    const QString done = operation == Operation::Encrypt ? Text::tr("%1 of %2 files encrypted")
-                                                         : Text::tr("%1 of %2 files decrypted");
-    QStringList parts{done.arg(count.done).arg(all)};
-    const auto add = [&parts](const QString& text, std::size_t number) {
-        if (number > 0)
-            parts += text.arg(number);
-    };
-    //: Follows "9 of 11 files encrypted"
-    add(Text::tr("%1 failed"), count.failed);
-    //: Follows "9 of 11 files encrypted"
-    add(Text::tr("%1 skipped"), count.skipped);
+    const auto total = static_cast<int>(all);
+    const QString done = operation == Operation::Encrypt ? Text::tr("%1 of %Ln files encrypted", "", total)
+                                                         : Text::tr("%1 of %Ln files decrypted", "", total);
+    QStringList parts{done.arg(QLocale().toString(static_cast<int>(count.done)))};
+    if (const auto failed = static_cast<int>(count.failed))
+        parts += Text::tr("%Ln failed", "after \"9 of 11 files encrypted\"", failed);
+    if (const auto skipped = static_cast<int>(count.skipped))
+        parts += Text::tr("%Ln skipped", "after \"9 of 11 files encrypted\"", skipped);
     const QString text = parts.join(QStringLiteral(", "));
     return isStopped ? Text::tr("Stopped: %1").arg(text) : text;
 }
@@ -79,9 +77,11 @@ Message removalMessage(std::size_t removed, std::size_t kept)
     return {kept > 0 ? MessageKind::Warning : MessageKind::Success, [removed, kept] {
                 QString text =
                     Text::tr("Input files deleted after their encryption, according to your options: %1.")
-                        .arg(removed);
+                        .arg(QLocale().toString(static_cast<int>(removed)));
                 if (kept > 0)
-                    text += QLatin1Char(' ') + Text::tr("Kept: %1, see the list.").arg(kept);
+                    text +=
+                        QLatin1Char(' ') +
+                        Text::tr("Kept: %1, see the list.").arg(QLocale().toString(static_cast<int>(kept)));
                 return text;
             }};
 }

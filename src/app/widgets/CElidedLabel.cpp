@@ -2,6 +2,7 @@
 
 #include "app/job/Message.h"
 #include "ui/style/PlainToolTip.h"
+#include "ui/style/TextDirection.h"
 
 #include <QEvent>
 #include <QStringList>
@@ -40,6 +41,6 @@ void CElidedLabel::refresh()
             const int room = width() - metrics.horizontalAdvance(thisapp::nameArrow()) * (parts.size() - 1);
             part = metrics.elidedText(part, Qt::ElideMiddle, room / parts.size());
         }
-    setText(parts.join(thisapp::nameArrow()));
+    setText(thisapp::atLanguageSide(parts.join(thisapp::nameArrow())));
     thisapp::setPlainToolTip(*this, m_whole);
 }

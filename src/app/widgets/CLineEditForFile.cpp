@@ -48,7 +48,10 @@ void CLineEditForFile::paintEvent(QPaintEvent* event)
     }
     QStylePainter painter(this);
     painter.drawPrimitive(QStyle::PE_PanelLineEdit, option);
-    painter.drawItemText(rect, Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(),
+    // A path runs from left to right in every language; it only begins at the other side.
+    const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading);
+    painter.setLayoutDirection(Qt::LeftToRight);
+    painter.drawItemText(rect, static_cast<int>(Qt::AlignVCenter | alignment), palette(), isEnabled(),
                          metrics.elidedText(text(), Qt::ElideMiddle, rect.width()), QPalette::Text);
 }
 

@@ -4,6 +4,7 @@
 #include "app/widgets/SymbolicIcon.h"
 #include "ui/style/Announcement.h"
 #include "ui/style/CLinkLabel.h"
+#include "ui/style/TextDirection.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -108,7 +109,7 @@ void CMessageLine::refresh()
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         textPalette.setColor(group, QPalette::WindowText, color);
     m_text->setPalette(textPalette);
-    m_text->setText(m_message.now());
+    m_text->setText(thisapp::atLanguageSide(m_message.now()));
     m_text->setVisible(!text().isEmpty()); // nothing to come to
     setMinimumHeight(fontMetrics().height());
     m_detail->setWholeText(detail());

@@ -7,6 +7,7 @@
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/widgets/SymbolicIcon.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
+#include "ui/style/CIconButton.h"
 
 #include <QEvent>
 #include <QFileInfo>
@@ -48,9 +49,9 @@ CJobFrame::CJobFrame(const FileQueue& queue, QWidget* parent)
       m_browseOutput(new QToolButton),
       m_outputMessage(new CMessageLine),
       m_algFrame(new CSelectAlgFrame),
-      m_encrypt(new QPushButton),
-      m_decrypt(new QPushButton),
-      m_stop(new QPushButton),
+      m_encrypt(new CIconButton),
+      m_decrypt(new CIconButton),
+      m_stop(new CIconButton),
       m_progress(new CProgressBarFrame),
       m_result(new CMessageLine)
 {

@@ -14,6 +14,7 @@
 #include "common/settings/SettingsKeys.h"
 #include "ui/disk/CDiskWork.h"
 
+#include <QLocale>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -27,6 +28,11 @@ namespace {
 
 constexpr std::size_t NamesInQuestion = 5;
 constexpr int ShowEveryMs = 50;
+
+QString number(std::size_t count)
+{
+    return QLocale().toString(static_cast<int>(count));
+}
 
 bool isNamedEncrypted(const QueueEntry& entry, const NamingSettings& naming)
 {
@@ -194,9 +200,9 @@ void CQueueJob::onUiShow()
 {
     if (const auto current = m_run.current()) {
         m_parts.form.queueList().refreshStates(static_cast<int>(*current));
-        m_parts.display.setName(tr("%1 of %2").arg(m_parts.queue.position()).arg(m_parts.queue.runSize()) +
-                                QStringLiteral(" - ") +
-                                pathText(m_parts.queue.entries()[*current].path.filename()));
+        m_parts.display.setName(
+            tr("%1 of %2").arg(number(m_parts.queue.position()), number(m_parts.queue.runSize())) +
+            QStringLiteral(" - ") + pathText(m_parts.queue.entries()[*current].path.filename()));
     }
     const auto [processed, total] = m_parts.queue.progress();
     const JobPhase phase = m_parts.job.progress().phase;
@@ -233,7 +239,7 @@ bool CQueueJob::confirmRemoval(const std::vector<CQueueRemoval::Candidate>& remo
     for (std::size_t i = 0; i < std::min(removable.size(), NamesInQuestion); ++i)
         lines += pathText(removable[i].ended.request.input);
     if (removable.size() > NamesInQuestion)
-        lines += tr("and %1 more").arg(removable.size() - NamesInQuestion);
+        lines += tr("and %Ln more", "", static_cast<int>(removable.size() - NamesInQuestion));
     QMessageBox box(QMessageBox::Question, tr("Deleting the input files"), lines.join(QLatin1Char('\n')),
                     QMessageBox::Yes | QMessageBox::No, m_parts.form.window());
     box.setTextFormat(Qt::PlainText);
@@ -256,5 +262,5 @@ void CQueueJob::onUiRemovalEnded()
 
 QString CQueueJob::title() const
 {
-    return tr("%1 files").arg(m_parts.queue.size());
+    return tr("%Ln files", "", static_cast<int>(m_parts.queue.size()));
 }

@@ -85,9 +85,9 @@ QString CRequestHost::chooseOutput(const QString& title)
 OnEncrypted CRequestHost::askAboutEncrypted(int encrypted, int all)
 {
     QMessageBox box(QMessageBox::Question, tr("Encrypt again"),
-                    all == 1
-                        ? tr("This file seems to be encrypted already")
-                        : tr("Of the %1 files, %2 seem to be encrypted already.").arg(all).arg(encrypted),
+                    all == 1 ? tr("This file seems to be encrypted already")
+                             : tr("Of %1 files, %Ln seem to be encrypted already.", "", encrypted)
+                                   .arg(QLocale().toString(all)),
                     QMessageBox::NoButton, &m_window);
     box.setInformativeText(tr("What is encrypted twice must be decrypted twice."));
     QAbstractButton* again = box.addButton(tr("Encrypt again"), QMessageBox::AcceptRole);

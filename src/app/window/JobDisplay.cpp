@@ -10,6 +10,7 @@
 #include "common/path/PathText.h"
 
 #include <QApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -98,7 +99,8 @@ void JobDisplay::notify(const QString& body, const std::function<void()>& openFo
 
 QString JobDisplay::title() const
 {
-    return QStringLiteral("%1% - %2").arg(static_cast<int>(m_progress.percent())).arg(m_name);
+    return QStringLiteral("%1% - %2")
+        .arg(QLocale().toString(static_cast<int>(m_progress.percent())), m_name);
 }
 
 } // namespace thisapp

@@ -1,18 +1,18 @@
 #include "app/window/OptionsHandler.h"
 
-#include "app/i18n/MyTranslator.h"
+#include "app/i18n/SystemLanguage.h"
+#include "app/i18n/Translators.h"
 #include "common/errors/ErrorText.h"
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "common/settings/OptionsStore.h"
+#include "common/settings/SettingsKeys.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/logger/FileLogging.h"
 #include "lib/logger/Log.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
-
-#include <QCoreApplication>
 
 #include <utility>
 
@@ -104,10 +104,11 @@ SAppliedOptions OptionsHandler::apply(const SAppOptions& options,
         select(algorithm);
     }
     applyLogging(options);
-    const bool languageChanged = readLocaleId(settings) != options.localeId && useLanguage(options.localeId);
+    const bool languageChanged =
+        wantedLanguage(settings) != options.localeId && useLanguage(options.localeId);
     if (languageChanged) {
         writeLocaleId(settings, options.localeId);
-        installTranslator();
+        m_targets.translators.install();
     }
     save(settings);
     if (shellChanged || languageChanged) // the entries have names in that language
@@ -120,8 +121,8 @@ void OptionsHandler::applyAtStart()
     const CAppSettings settings;
     applyLogging(readOptions(settings, isKnownAlgorithm));
     m_list = m_targets.translations.load();
-    useLanguage(readLocaleId(settings));
-    installTranslator();
+    useLanguage(wantedLanguage(settings));
+    m_targets.translators.install();
     logUnused(settings.removedLines());
 }
 
@@ -129,6 +130,14 @@ void OptionsHandler::applyLogging(const SAppOptions& options)
 {
     m_targets.logging.setLevel(options.logLevel);
     m_targets.logging.setLogFileUsed(options.useLogFile);
+}
+
+/// Until one is chosen, the first of the user's languages that we have.
+std::uint32_t OptionsHandler::wantedLanguage(const CAppSettings& settings) const
+{
+    if (settings.contains(QLatin1String(keys::LocaleId.name)))
+        return readLocaleId(settings);
+    return firstOffered(m_targets.userLanguages, languages());
 }
 
 /// Without a list, that is what is told.
@@ -142,13 +151,6 @@ bool OptionsHandler::useLanguage(std::uint32_t localeId)
     logger::log(logger::Warning, Source) << "The translation for locale " << localeId
                                          << " can't be loaded: " << fault(m_language).toStdString();
     return false;
-}
-
-/// Installing the translator again sends every window a LanguageChange event.
-void OptionsHandler::installTranslator()
-{
-    QCoreApplication::removeTranslator(&m_targets.translator);
-    QCoreApplication::installTranslator(&m_targets.translator);
 }
 
 void OptionsHandler::logUnused(int removedLines) const

@@ -7,7 +7,9 @@
 #include "lib/i18n/resource/TranslationFile.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -25,17 +27,19 @@ class FileLogging;
 namespace thisapp {
 
 class ICryptoAlgProvider;
-class MyTranslator;
+class Translators;
 
 /// What the options reach beyond the window.
 struct OptionsTargets
 {
     const ICryptoAlgProvider& algorithms;
     tessaly::i18n::TranslationManager& translations;
-    MyTranslator& translator;
+    Translators& translators;
     tessaly::logger::FileLogging& logging;
     /// Brings the desktop's entries in line with the two settings.
     std::function<void(bool contextMenu, bool sendTo)> updateShell;
+    /// What the user reads, the best first; the language of the interface until one is chosen.
+    QStringList userLanguages = QLocale::system().uiLanguages();
 };
 
 /// Reads the options for their dialog and makes changed ones take effect. GUI thread.
@@ -66,8 +70,8 @@ public:
 private:
     bool save(CAppSettings& settings);
     void applyLogging(const SAppOptions& options);
+    std::uint32_t wantedLanguage(const CAppSettings& settings) const;
     bool useLanguage(std::uint32_t localeId);
-    void installTranslator();
     void logUnused(int removedLines) const;
 
     OptionsTargets m_targets;

@@ -8,7 +8,9 @@
 #include "lib/platform/Path.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
+#include <iterator>
 #include <utility>
 
 namespace tessaly::i18n {
@@ -26,24 +28,41 @@ bool staysInFolder(const std::filesystem::path& file)
 
 } // namespace
 
-TranslationManager::TranslationManager(std::wstring folder, std::string_view baseName)
-    : m_folder(std::move(folder)),
-      m_listPath(m_folder + L'/' + platform::widePath(asciiLower(baseName)) + L".langs.xml"),
-      m_list(internal::TranslationListLoaderFactory().create()),
-      m_locale(*findLocale(EnglishLcid))
+TranslationManager::TranslationManager(const std::vector<std::wstring>& folders, std::string_view baseName)
+    : m_locale(*findLocale(EnglishLcid))
+{
+    const std::wstring listName = platform::widePath(asciiLower(baseName)) + L".langs.xml";
+    for (const std::wstring& folder : folders)
+        m_places.push_back(
+            {folder, folder + L'/' + listName, internal::TranslationListLoaderFactory().create()});
+}
+
+TranslationManager::TranslationManager(const std::wstring& folder, std::string_view baseName)
+    : TranslationManager(std::vector{folder}, baseName)
 {
 }
 
 LoadResult TranslationManager::load()
 {
-    return m_list->load(m_listPath);
+    LoadResult missing;
+    LoadResult wrong;
+    bool loaded = false;
+    for (const Place& place : m_places) {
+        LoadResult result = place.list->load(place.listPath);
+        loaded |= result.ok();
+        if (result.code == err::system(ENOENT))
+            missing = std::move(result);
+        else if (!result.ok() && wrong.ok())
+            wrong = std::move(result);
+    }
+    return !wrong.ok() || loaded ? wrong : missing;
 }
 
 LoadResult TranslationManager::use(std::uint32_t lcid)
 {
     const Locale* locale = findLocale(lcid);
     if (locale == nullptr)
-        return {err::library(err::UnknownLocale), m_listPath};
+        return {err::library(err::UnknownLocale), m_places.back().listPath};
 
     LoadResult result = loadTexts(*locale);
     if (!result.ok() && lcid != EnglishLcid)
@@ -64,7 +83,8 @@ std::vector<Language> TranslationManager::languages() const
     };
 
     const auto english = find(*findLocale(EnglishLcid));
-    add(EnglishLcid, english && !english->displayName.empty() ? english->displayName : "English");
+    const std::string name = english ? english->translation.displayName : std::string();
+    add(EnglishLcid, name.empty() ? "English" : name);
     for (const Translation& translation : translations()) {
         // A tag may stand for two locales, told apart by nothing in the list: offer the one in use.
         const Locale* row = translation.tag() == current.tag ? &current : findLocale(translation.tag());
@@ -78,31 +98,36 @@ std::vector<Language> TranslationManager::languages() const
 
 std::vector<Translation> TranslationManager::translations() const
 {
-    return m_list->translations();
+    std::vector<Translation> all;
+    for (const Place& place : m_places)
+        std::ranges::move(place.list->translations(), std::back_inserter(all));
+    return all;
 }
 
 /// The first enabled entry for the locale.
-std::optional<Translation> TranslationManager::find(const Locale& locale) const
+std::optional<TranslationManager::Found> TranslationManager::find(const Locale& locale) const
 {
-    for (Translation& translation : translations())
-        if (translation.isEnabled() && translation.tag() == locale.tag)
-            return std::move(translation);
+    for (const Place& place : m_places)
+        for (const Translation& translation : place.list->translations())
+            if (translation.isEnabled() && translation.tag() == locale.tag)
+                return Found{place, translation};
     return std::nullopt;
 }
 
 LoadResult TranslationManager::loadTexts(const Locale& locale)
 {
-    const auto translation = find(locale);
-    if (!translation)
-        return {err::library(err::NoTranslation), m_listPath};
-    if (!staysInFolder(translation->file))
-        return {err::library(err::MalformedText), m_listPath};
+    const auto found = find(locale);
+    if (!found)
+        return {err::library(err::NoTranslation), m_places.back().listPath};
+    const auto& [place, translation] = *found;
+    if (!staysInFolder(translation.file))
+        return {err::library(err::MalformedText), place.listPath};
 
     std::unique_ptr<ILocaleResLoader> loader;
-    const ResultCode created = internal::LocaleResLoaderFactory().create(translation->fileType, &loader);
+    const ResultCode created = internal::LocaleResLoaderFactory().create(translation.fileType, &loader);
     if (!created.ok())
-        return {created, m_listPath};
-    return m_bundle.load(*loader, m_folder + L'/' + platform::widePath(translation->file), m_variables);
+        return {created, place.listPath};
+    return m_bundle.load(*loader, place.folder + L'/' + platform::widePath(translation.file), m_variables);
 }
 
 } // namespace tessaly::i18n

@@ -23,10 +23,13 @@ namespace tessaly::i18n {
 class TranslationManager final : public ILocaleProvider, public ITranslationListProvider
 {
 public:
-    /// Looks for "<base name in lower case>.langs.xml" and the files that it names in the folder.
-    TranslationManager(std::wstring folder, std::string_view baseName);
+    /// Looks for "<base name in lower case>.langs.xml" in each folder, and for the files that it names
+    /// beside it. Of two entries for a locale, that of the earlier folder counts.
+    TranslationManager(const std::vector<std::wstring>& folders, std::string_view baseName);
+    TranslationManager(const std::wstring& folder, std::string_view baseName);
 
-    /// Reads the list. A failure means that only English is there.
+    /// Reads the lists. Fails with what is wrong with one, or when there is none; what could be read is
+    /// there all the same.
     LoadResult load();
 
     /// Makes the locale the current one. Fails with UnknownLocale, NoTranslation (no enabled entry in
@@ -35,7 +38,7 @@ public:
     /// Afterwards install the translator again, or send LanguageChange, to retranslate the windows.
     LoadResult use(std::uint32_t lcid);
 
-    /// English and every enabled entry of the list, in its order, each locale once.
+    /// English and every enabled entry of the lists, in their order, each locale once.
     std::vector<Language> languages() const;
 
     const IStrBundle& bundle() const { return m_bundle; }
@@ -46,13 +49,23 @@ public:
     std::vector<internal::Translation> translations() const override;
 
 private:
-    std::optional<internal::Translation> find(const internal::Locale& locale) const;
+    struct Place
+    {
+        std::wstring folder;
+        std::wstring listPath;
+        std::unique_ptr<ITranslationListLoader> list;
+    };
+    struct Found
+    {
+        const Place& place;
+        internal::Translation translation;
+    };
+
+    std::optional<Found> find(const internal::Locale& locale) const;
     LoadResult loadTexts(const internal::Locale& locale);
 
-    const std::wstring m_folder;
-    const std::wstring m_listPath;
+    std::vector<Place> m_places; ///< never empty; the last is the program's own
     const file::IVariablesSetter* m_variables = nullptr;
-    std::unique_ptr<ITranslationListLoader> m_list;
     internal::StrBundleTrMgr m_bundle;
     sync::internal::SafeData<sync::Locker, internal::Locale> m_locale;
 };

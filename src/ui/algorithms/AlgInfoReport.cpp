@@ -5,6 +5,7 @@
 #include "crypto/key/Hash.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringList>
 
 namespace thisapp {
@@ -32,10 +33,10 @@ QStringList sizeLines(const crypto::AlgRecord& record)
 {
     if (record.keyLength < 1 || record.ivLength < 1)
         return {AlgInfoReport::tr("The parameters are not defined")};
-    QStringList lines{line(AlgInfoReport::tr("Key size:"), QString::number(record.keyLength)),
-                      line(AlgInfoReport::tr("IV size:"), QString::number(record.ivLength))};
+    QStringList lines{line(AlgInfoReport::tr("Key size:"), QLocale().toString(record.keyLength)),
+                      line(AlgInfoReport::tr("IV size:"), QLocale().toString(record.ivLength))};
     if (record.blockLength != 0)
-        lines += line(AlgInfoReport::tr("Mandatory block size:"), QString::number(record.blockLength));
+        lines += line(AlgInfoReport::tr("Mandatory block size:"), QLocale().toString(record.blockLength));
     if (record.mode != crypto::CipherMode::Stream)
         lines += line(AlgInfoReport::tr("Cipher mode:"), latin1(crypto::modeName(record.mode)));
     if (record.stream)
@@ -55,8 +56,7 @@ QStringList hashLines(const crypto::AlgRecord& record)
         lines += AlgInfoReport::tr(
                      "The length of the hash is not equal to the length of key. Therefore, the hash will be "
                      "truncated from %1 to %2 bytes.")
-                     .arg(digest)
-                     .arg(record.keyLength);
+                     .arg(QLocale().toString(digest), QLocale().toString(record.keyLength));
     return lines;
 }
 

@@ -6,6 +6,7 @@
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 #include "ui/style/FitToScreen.h"
+#include "ui/style/TextDirection.h"
 #include "ui/style/TextSize.h"
 #include "ui_CAlgInfoDialog.h"
 
@@ -105,4 +106,5 @@ void CAlgInfoDialog::onUiPrintAlgInfo()
         report += thisapp::algInfoReport(m_provider->displayName(selection), recordOf(selection));
     }
     m_ui->plainTextEditInfo->setPlainText(report);
+    thisapp::followLanguageSide(*m_ui->plainTextEditInfo->document());
 }

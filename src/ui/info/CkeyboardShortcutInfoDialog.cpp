@@ -1,6 +1,7 @@
 #include "ui/info/CkeyboardShortcutInfoDialog.h"
 
 #include "ui/style/FitToScreen.h"
+#include "ui/style/TextDirection.h"
 #include "ui/style/TextSize.h"
 #include "ui_CkeyboardShortcutInfoDialog.h"
 
@@ -23,9 +24,10 @@ void CkeyboardShortcutInfoDialog::showEvent(QShowEvent* event)
                 .arg(QCoreApplication::applicationName().toHtmlEscaped());
     html += "<br/><br/>";
     for (const thisapp::Shortcut& shortcut : m_shortcuts) {
-        html += "<b>" + shortcut.keyText() + "</b> - ";
+        html += "<b>" + thisapp::leftToRight(shortcut.keyText()) + "</b> - ";
         html += shortcut.translatedDescription().toHtmlEscaped() + "<br/>";
     }
     html += "</body></html>";
     m_ui->text->setHtml(html);
+    thisapp::followLanguageSide(*m_ui->text->document());
 }

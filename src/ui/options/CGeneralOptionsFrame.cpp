@@ -4,6 +4,7 @@
 #include "common/settings/TextRules.h"
 #include "ui/algorithms/AlgListFiller.h"
 #include "ui/style/PlainToolTip.h"
+#include "ui/style/TextDirection.h"
 #include "ui_CGeneralOptionsFrame.h"
 
 #include <QDir>
@@ -168,6 +169,8 @@ void CGeneralOptionsFrame::changeEvent(QEvent* event)
         m_ui->retranslateUi(this);
         fillTexts();
     }
+    if (event->type() == QEvent::LayoutDirectionChange)
+        indentDependents();
 }
 
 void CGeneralOptionsFrame::fillTexts()
@@ -182,7 +185,7 @@ void CGeneralOptionsFrame::indentDependents()
     const int indent = style()->pixelMetric(QStyle::PM_IndicatorWidth) +
                        style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
     for (QLayout* dependents : {m_ui->folderLayout, m_ui->confirmDeleteLayout})
-        dependents->setContentsMargins(indent, 0, 0, 0);
+        dependents->setContentsMargins(isRightToLeft() ? 0 : indent, 0, isRightToLeft() ? indent : 0, 0);
 }
 
 void CGeneralOptionsFrame::setShortcuts(const thisapp::Shortcuts& shortcuts)
@@ -199,7 +202,7 @@ void CGeneralOptionsFrame::fillShortcuts()
     table.setRowCount(static_cast<int>(m_shortcuts.size()));
     int row = 0;
     for (const thisapp::Shortcut& shortcut : m_shortcuts) {
-        table.setItem(row, 0, new QTableWidgetItem(shortcut.keyText()));
+        table.setItem(row, 0, new QTableWidgetItem(thisapp::leftToRight(shortcut.keyText())));
         table.setItem(row, 1, new QTableWidgetItem(shortcut.translatedDescription()));
         ++row;
     }

@@ -43,8 +43,8 @@ CPasswordGeneratorDialog::CPasswordGeneratorDialog(QWidget* parent)
     constexpr int ShownCharacters = 58;
     field.setMinimumWidth(QFontMetrics(field.font()).averageCharWidth() * ShownCharacters);
     m_ui->buttonCopy->setAccessibleDescription(
-        tr("Puts the password on the clipboard, from where it is removed after %1 seconds.")
-            .arg(thisapp::SecretClipboardTime.count()));
+        tr("Puts the password on the clipboard, from where it is removed after %Ln seconds.", "",
+           thisapp::SecretClipboardSeconds));
     thisapp::showDescriptionAsToolTip(*m_ui->buttonCopy);
     onUiKindChanged();
 
@@ -108,7 +108,7 @@ void CPasswordGeneratorDialog::onUiGenerate()
     const thisapp::SStrengthNotice notice = thisapp::strengthNotice(made->bits);
     m_ui->strengthBar->showStrength(notice);
     m_ui->labelStrength->showMessage(
-        notice.text + QLatin1Char(' ') + tr("%1 bits.").arg(static_cast<int>(made->bits)), notice.kind);
+        notice.text + QLatin1Char(' ') + tr("%Ln bits.", "", static_cast<int>(made->bits)), notice.kind);
     m_ui->lineEditMsg->showMessage(
         tr("Keep it where you will find it: without it the file cannot be decrypted."), MessageKind::Plain);
 }
@@ -117,7 +117,7 @@ void CPasswordGeneratorDialog::onUiCopy()
 {
     thisapp::copySecret(thisapp::secretText(m_ui->lineEditPassword->text()));
     m_ui->lineEditMsg->showMessage(
-        tr("The password is on the clipboard for %1 seconds.").arg(thisapp::SecretClipboardTime.count()),
+        tr("The password is on the clipboard for %Ln seconds.", "", thisapp::SecretClipboardSeconds),
         MessageKind::Success);
 }
 

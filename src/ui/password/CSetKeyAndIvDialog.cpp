@@ -12,6 +12,7 @@
 #include "ui/style/TextSize.h"
 #include "ui_CSetKeyAndIvDialog.h"
 
+#include <QLocale>
 #include <QMessageBox>
 #include <QShowEvent>
 
@@ -26,7 +27,8 @@ thisapp::SHexCheck checkField(HexInput input, CHexEdit& field, QLabel& count, st
 {
     thisapp::SHexCheck check = thisapp::checkHex(input, thisapp::typedText(field), expectedLength);
     field.showValidity(check.passed());
-    count.setText(CSetKeyAndIvDialog::tr("%1 of %2 bytes entered").arg(check.byteCount).arg(expectedLength));
+    count.setText(CSetKeyAndIvDialog::tr("%1 of %2 bytes entered")
+                      .arg(QLocale().toString(check.byteCount), QLocale().toString(expectedLength)));
     return check;
 }
 
@@ -38,8 +40,8 @@ CSetKeyAndIvDialog::CSetKeyAndIvDialog(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->labelNormalMode->setLinkText(tr("Show simple options"));
     m_ui->buttonCopy->setAccessibleDescription(
-        tr("Puts key and IV on the clipboard, from where they are removed after %1 seconds.")
-            .arg(thisapp::SecretClipboardTime.count()));
+        tr("Puts key and IV on the clipboard, from where they are removed after %Ln seconds.", "",
+           thisapp::SecretClipboardSeconds));
     thisapp::showDescriptionsAsToolTips(*this);
     connectWidgets();
 }
@@ -122,8 +124,9 @@ void CSetKeyAndIvDialog::showTexts()
                                         "Selected cryptographic algorithm: %1.");
     m_ui->textEditInfo->showText(info.arg(m_algorithmName));
     setAccessibleDescription(m_ui->textEditInfo->toPlainText());
-    m_ui->labelKey->setText(tr("&Key, length: %1 bytes (HEX format)").arg(m_keyLength));
-    m_ui->labelIv->setText(tr("&Initialization vector (IV), length: %1 bytes (HEX format)").arg(m_ivLength));
+    m_ui->labelKey->setText(tr("&Key, length: %1 bytes (HEX format)").arg(QLocale().toString(m_keyLength)));
+    m_ui->labelIv->setText(
+        tr("&Initialization vector (IV), length: %1 bytes (HEX format)").arg(QLocale().toString(m_ivLength)));
 }
 
 /// Shows what the caller handed in; problems only if there is something to judge.
@@ -227,7 +230,7 @@ void CSetKeyAndIvDialog::onUiCopy()
     thisapp::copySecret(textToKeep());
     m_mayRegenerate = false;
     m_ui->lineEditMsg->showMessage(
-        tr("The key and IV are on the clipboard for %1 seconds.").arg(thisapp::SecretClipboardTime.count()),
+        tr("The key and IV are on the clipboard for %Ln seconds.", "", thisapp::SecretClipboardSeconds),
         MessageKind::Success);
 }
 

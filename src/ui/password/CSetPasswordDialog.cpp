@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QLocale>
 #include <QMessageBox>
 #include <QShowEvent>
 
@@ -181,9 +182,11 @@ bool CSetPasswordDialog::checkPasswords()
         m_ui->lineEditMsg->clearMessage();
         return true;
     }
-    const QString lengths = password.size() == confirmation.size()
-                                ? tr("Password length: %1").arg(password.size())
-                                : tr("Password length: %1/%2").arg(password.size()).arg(confirmation.size());
+    const QString lengths =
+        password.size() == confirmation.size()
+            ? tr("Password length: %1").arg(QLocale().toString(password.size()))
+            : tr("Password length: %1/%2")
+                  .arg(QLocale().toString(password.size()), QLocale().toString(confirmation.size()));
     m_ui->lineEditMsg->showMessage(tr("The passwords do not match.") + QLatin1Char(' ') + lengths,
                                    thisapp::MessageKind::Warning);
     return false;

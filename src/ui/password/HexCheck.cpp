@@ -3,6 +3,7 @@
 #include "lib/secret/Hex.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <algorithm>
 
 namespace thisapp {
@@ -55,7 +56,7 @@ SHexCheck checkHex(HexInput input, const tessaly::SecretText& text, std::uint32_
     else if (!check.bytes)
         check.problem = HexCheck::tr(texts.notHex);
     else if (check.bytes->size() != expectedLength)
-        check.problem = HexCheck::tr(texts.wrongSize).arg(check.bytes->size());
+        check.problem = HexCheck::tr(texts.wrongSize).arg(QLocale().toString(check.byteCount));
     return check;
 }
 

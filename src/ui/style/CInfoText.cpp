@@ -1,5 +1,6 @@
 #include "ui/style/CInfoText.h"
 
+#include "ui/style/TextDirection.h"
 #include "ui/style/ThemeChange.h"
 
 #include <QtMath>
@@ -19,7 +20,9 @@ CInfoText::CInfoText(QWidget* parent) : QTextEdit(parent)
 void CInfoText::showText(const QString& text)
 {
     setPlainText(text);
+    thisapp::followLanguageSide(*document());
     document()->setTextWidth(-1);
     setMinimumWidth(qCeil(document()->idealWidth()));
     setFixedHeight(qCeil(document()->size().height()));
+    document()->setTextWidth(viewport()->width());
 }

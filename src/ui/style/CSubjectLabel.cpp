@@ -32,7 +32,7 @@ CSubjectLabel::CSubjectLabel(QWidget* parent) : QLabel(parent)
 void CSubjectLabel::setSubject(const QString& fileName, int others)
 {
     m_fileName = oneLine(fileName);
-    m_others = others > 0 ? QLatin1Char(' ') + tr("and %1 more").arg(others) : QString();
+    m_others = others > 0 ? QLatin1Char(' ') + tr("and %Ln more", "", others) : QString();
     setText(m_fileName + m_others);
     thisapp::setPlainToolTip(*this, text());
     setVisible(!fileName.isEmpty());

@@ -1,6 +1,6 @@
 #include "app/window/OptionsHandler.h"
 
-#include "app/i18n/MyTranslator.h"
+#include "app/i18n/Translators.h"
 #include "common/settings/CAppSettings.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/logger/FileLogging.h"
@@ -21,11 +21,12 @@ using thisapp::SAppOptions;
 class OptionsHandler : public testing::Test
 {
 protected:
-    void start(const std::string& logFile = {})
+    void start(const std::string& logFile = {}, const QStringList& userLanguages = {})
     {
         logging = std::make_unique<tessaly::logger::FileLogging>(logFile);
         options = std::make_unique<thisapp::OptionsHandler>(
-            thisapp::OptionsTargets{algorithms, translations, translator, *logging, [](bool, bool) {}});
+            thisapp::OptionsTargets{algorithms, translations, translators, *logging,
+                                    [this](bool, bool) { ++shellUpdates; }, userLanguages});
         options->applyAtStart();
     }
     std::string problem() const { return options->problem().toStdString(); }
@@ -35,11 +36,12 @@ protected:
     }
     static void store(const char* key, const QVariant& value) { CAppSettings().setValue(key, value); }
 
+    int shellUpdates = 0;
     test::TempFolder folder;
     test::Environment profile{"XDG_CONFIG_HOME", folder.path().c_str()};
     thisapp::CCryptoAlgProvider algorithms;
     tessaly::i18n::TranslationManager translations{folder.wide(), "Quillet"};
-    thisapp::MyTranslator translator{translations.bundle()};
+    thisapp::Translators translators{translations};
     std::unique_ptr<tessaly::logger::FileLogging> logging;
     std::unique_ptr<thisapp::OptionsHandler> options;
 };
@@ -74,6 +76,26 @@ TEST_F(OptionsHandler, WhatDoesNotFitGivesWayAndIsLogged)
     used.localeId = 1031;
     EXPECT_EQ(apply(used).localeId, 1033U);
     EXPECT_NE(problem(), "");
+}
+
+TEST_F(OptionsHandler, SpeaksTheUsersLanguageUntilOneIsChosen)
+{
+    folder.write("quillet.langs.xml",
+                 "<locales><locale language='de' country='DE' file='de.properties' filetype='properties'/>"
+                 "<locale language='fr' country='FR' file='de.properties' filetype='properties'/></locales>");
+    folder.write("de.properties", "C|a=b");
+    start({}, {"xx", "de-AT", "fr"});
+    SAppOptions used = options->read();
+    EXPECT_EQ(used.localeId, 1031U);
+    EXPECT_EQ(apply(used).localeId, 1031U);
+    EXPECT_FALSE(CAppSettings().contains("LocaleId"));
+    EXPECT_EQ(shellUpdates, 0);
+
+    used.localeId = 1033;
+    EXPECT_EQ(apply(used).localeId, 1033U);
+    EXPECT_EQ(shellUpdates, 1) << "the entries have names";
+    start({}, {"de-AT"});
+    EXPECT_EQ(options->read().localeId, 1033U) << "the choice stays";
 }
 
 TEST_F(OptionsHandler, TellsWhatIsNotInEffect)

@@ -2,7 +2,7 @@
 
 #include "app/desktop/INotifier.h"
 #include "app/desktop/ITaskbarProgress.h"
-#include "app/i18n/MyTranslator.h"
+#include "app/i18n/Translators.h"
 #include "app/widgets/CMessageLine.h"
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/window/CJobFrame.h"
@@ -58,9 +58,9 @@ public:
     explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput,
                            tessaly::crypto::Argon2Cost cost = Cheap)
         : translations(folder.wide("translations"), "Quillet"),
-          translator(translations.bundle()),
+          translators(translations),
           logging(folder / "quillet.log"),
-          options({algorithms, translations, translator, logging, [](bool, bool) {}}),
+          options({algorithms, translations, translators, logging, [](bool, bool) {}}),
           window(std::make_unique<CMainWindow>(thisapp::WindowServices{
               encryptors, decryptors, algorithms, options, *this, *this, std::move(look), cost}))
     {
@@ -129,7 +129,7 @@ public:
     test::TempFolder folder;
     thisapp::CCryptoAlgProvider algorithms;
     tessaly::i18n::TranslationManager translations;
-    thisapp::MyTranslator translator;
+    thisapp::Translators translators;
     tessaly::logger::FileLogging logging;
     thisapp::OptionsHandler options;
     tessaly::cryptopp::CEncryptorFactory encryptors;

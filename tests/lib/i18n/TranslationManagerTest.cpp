@@ -75,6 +75,30 @@ TEST(TranslationManager, OffersEnglishAndTheEnabledEntries)
     EXPECT_TRUE(without.use(EnglishLcid).ok());
 }
 
+TEST(TranslationManager, TheFirstFolderCountsAndTheOthersAddToIt)
+{
+    const test::TempFolder mine, others;
+    const std::string entry = "<locale language='de' country='DE' displayname='Meins' file='de.ts'/>";
+    mine.write("example.langs.xml", "<locales>" + entry + "</locales>");
+    mine.write("de.ts", "<TS><context><name>CErrMsg</name><message><source>File not found</source>"
+                        "<translation>Fort</translation></message></context></TS>");
+    TranslationManager manager(std::vector{others.wide("missing"), mine.wide(), DataFolder}, "example");
+    ASSERT_TRUE(manager.load().ok());
+    EXPECT_EQ(manager.languages()[1], (Language{German, "Meins"}));
+    ASSERT_TRUE(manager.use(German).ok());
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fort");
+    ASSERT_TRUE(manager.use(French).ok());
+    EXPECT_EQ(text(manager, "CErrMsg", "File not found"), "Fichier introuvable");
+
+    // A list with a fault is told of, and takes nothing from the others.
+    mine.write("example.langs.xml", "<locales>" + entry);
+    TranslationManager without(std::vector{mine.wide(), DataFolder}, "example");
+    const LoadResult result = without.load();
+    EXPECT_EQ(result.code, err::library(err::MalformedText));
+    EXPECT_EQ(result.file, mine.wide() + L"/example.langs.xml");
+    EXPECT_EQ(without.languages()[1].displayName, "Deutsch");
+}
+
 TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)
 {
     const test::TempFolder folder;

@@ -1,9 +1,12 @@
 #include "lib/i18n/resource/LocaleResLoaderTrFile.h"
 
 #include "lib/file/Variables.h"
+#include "lib/i18n/PluralForms.h"
 #include "lib/i18n/resource/XmlFile.h"
 
 #include <QString>
+
+#include <vector>
 
 namespace tessaly::i18n::internal {
 
@@ -54,6 +57,8 @@ private:
     {
         if (!isByte(xml))
             m_target = nullptr;
+        if (m_isFinished && xml.isEnd(Form, "numerusform"))
+            m_forms.push_back(m_translation);
         if (xml.isEnd(Message, "message") && !m_translation.isEmpty())
             handOver();
     }
@@ -62,6 +67,7 @@ private:
     {
         m_source.clear();
         m_translation.clear();
+        m_forms.clear();
         m_isFinished = false;
     }
 
@@ -92,9 +98,18 @@ private:
 
     void handOver()
     {
-        const std::string translation = m_translation.toStdString();
+        const std::string source = m_source.toStdString();
+        handOver(source, m_translation);
+        for (std::size_t form = 0; form < m_forms.size(); ++form)
+            if (!m_forms[form].isEmpty())
+                handOver(formKey(source, form), m_forms[form]);
+    }
+
+    void handOver(const std::string& source, const QString& text)
+    {
+        const std::string translation = text.toStdString();
         const auto* variables = m_callback.variables();
-        m_callback.onItem(m_context.toStdString(), m_source.toStdString(),
+        m_callback.onItem(m_context.toStdString(), source,
                           variables != nullptr ? file::expandVariables(translation, *variables)
                                                : translation);
     }
@@ -103,6 +118,7 @@ private:
     QString m_context;
     QString m_source;
     QString m_translation;
+    std::vector<QString> m_forms; ///< of a text with a number
     bool m_isFinished = false;
     QString* m_target = nullptr; ///< where the characters go, null outside the texts of interest
 };

@@ -4,8 +4,9 @@
 
 namespace tessaly::i18n::internal {
 
-/// Reads the finished translations of a Qt Linguist file (.ts). Of a translation in several forms
-/// (plurals, lengths) it takes the last one.
+/// Reads the finished translations of a Qt Linguist file (.ts). Of a translation in several lengths it
+/// takes the last one. Plural forms are handed over under their form keys (see PluralForms.h), and the
+/// last one also under the source text itself.
 class LocaleResLoaderTrFile final : public ILocaleResLoader
 {
 public:
