@@ -77,6 +77,92 @@
     </message>
 </context>
 <context>
+    <name>AlgAdviceText</name>
+    <message>
+        <source>recommended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examined in public for more than twenty years: no practical attack is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seal needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seal the file, or use its password for no other: without a seal all files under one password share a key stream, and two of them reveal each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>short blocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its blocks have only 64 bits, so that many gigabytes under one key give away parts of their contents (Sweet32, CVE-2016-2183).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outdated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not allowed for encryption since 2016 (NIST SP 800-131A): its two keys are weaker than they are long, and its blocks are short.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not allowed for encryption since 2024 (NIST SP 800-131A Rev. 2): its blocks have only 64 bits (Sweet32, CVE-2016-2183).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>short key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its key has only 80 bits, and it is not allowed for encryption any more (NIST SP 800-131A).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>weak keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each key has three others that do the same, and related keys break it (Kelsey, Schneier and Wagner, 1996 and 1997).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attacks known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks on it need less work than trying its keys (Isobe, 2011; Dinur, Dunkelman and Shamir, 2012), and its blocks have only 64 bits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AlgColumns</name>
+    <message>
+        <source>Algorithm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AlgInfoReport</name>
     <message>
         <source>The parameters are not defined</source>
@@ -124,6 +210,17 @@
     </message>
     <message>
         <source>Algorithm name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AlgListFiller</name>
+    <message>
+        <source>%1, key %2 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, blocks of %1 bits</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -184,15 +281,27 @@
         <source>View log file</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Logger level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least important messages that are logged. OFF logs nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what the program does, up to the level above, into the file below. Passwords and keys are never written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CAlgInfoDialog</name>
     <message>
         <source>Information about algorithms</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Algorithms</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -205,6 +314,51 @@
     </message>
     <message>
         <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CAlgList</name>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CAlgListFrame</name>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows only the algorithms with this text in one of their columns.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, bits or remark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Recommended first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Algorithms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CAlgorithmOffer</name>
+    <message>
+        <source>Decrypt with %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -401,6 +555,62 @@
         <source>Description</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Adds Encrypt and Decrypt to the menu that file managers show for a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the program to the places that file managers offer to send a file to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects the algorithm below whenever the program starts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default algorithm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows passwords in clear text when they are typed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offers, where the password is asked for, to enter key and initialization vector in hexadecimal instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposes a salt whenever a file is encrypted: it makes equal files differ once they are encrypted with a block cipher.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is kept with the other options, but nothing asks yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposes to remove a file that already has the output file&apos;s name; without this such a file stays and nothing is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposes the name of the output file by the rules under &quot;File names&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts output files into the folder below instead of beside their input files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default output folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deletes the input file once its encrypted copy has been written to the disk. It does not go to the trash.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CJobFrame</name>
@@ -441,11 +651,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Drop a file here</source>
+        <source>Write an encrypted file; the input stays as it is</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>or click to choose one</source>
+        <source>Write the file that was encrypted; the input stays as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End the work; nothing half done is left behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>or click to choose</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -472,6 +694,10 @@
     </message>
     <message>
         <source>Prefix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -578,19 +804,281 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The default output folder must be an absolute path.</source>
+        <source>Restore defaults</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No default output folder is given: files go beside their input.</source>
+        <source>Shows the default of every option but the language. Nothing changes before OK or Apply.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CPasswordGeneratorDialog</name>
+    <message>
+        <source>Generate a password</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Encrypted files would get the names of their input files.</source>
+        <source>&amp;Made of:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Decrypted files would get the names of their input files.</source>
+        <source>Made of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generated password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password strength</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Generate another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use this password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Puts the password on the clipboard, from where it is removed after %Ln seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The system&apos;s random generator failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln bits.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep it where you will find it: without it the file cannot be decrypted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The password is on the clipboard for %Ln seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CProgressBarFrame</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CQueueJob</name>
+    <message>
+        <source>Looking at the files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It seems to be encrypted already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete the input files after encryption?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleting the input files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CQueueList</name>
+    <message>
+        <source>Add files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose more files for the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take all files out of the list; the files themselves stay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files to encrypt or decrypt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete takes the selected files out of the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files, %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CQueueModel</name>
+    <message>
+        <source>Running, %1%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CQueueRun</name>
+    <message>
+        <source>The output belongs to another file of the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CRequestHost</name>
+    <message>
+        <source>Encrypt again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file seems to be encrypted already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 files, %Ln seem to be encrypted already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is encrypted twice must be decrypted twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave them out</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -616,10 +1104,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Algorithms</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Use as default algorithm</source>
         <translation type="unfinished"></translation>
     </message>
@@ -633,6 +1117,10 @@
     </message>
     <message>
         <source>Algorithm: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects this algorithm whenever the program starts, unless the options say otherwise.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -738,32 +1226,62 @@ Selected cryptographic algorithm: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The key and IV are on the clipboard.</source>
+        <source>Explanation</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save key and IV</source>
+        <source>Fills both fields with random bytes.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 key and IV.txt</source>
+        <source>Writes the key and IV, unprotected, into a file that only you can read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Text files</source>
+        <source>&amp;Load...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The key and IV could not be saved: %1</source>
+        <source>Reads a key and IV that were saved here.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>no answer from the disk</source>
+        <source>Makes equal files differ once they are encrypted with a block cipher.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The key and IV were saved. Only you can read the file.</source>
+        <source>Removes a file that already has the output file&apos;s name; without this such a file stays and nothing is written.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks for a password instead of the key and the initialization vector.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Puts key and IV on the clipboard, from where they are removed after %Ln seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace the key and IV that stand in the fields?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The key and IV are on the clipboard for %Ln seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -855,6 +1373,60 @@ Selected cryptographic algorithm: %1.</source>
         <source>The passwords do not match.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Explanation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password strength</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Generate...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposes a password of random words or characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes equal files differ once they are encrypted with a block cipher. It does not make guessing the password harder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes a file that already has the output file&apos;s name; without this such a file stays and nothing is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks for the key and the initialization vector in hexadecimal instead of a password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the password that stands in the field?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CSubjectLabel</name>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CTextViewDialog</name>
@@ -913,6 +1485,79 @@ Selected cryptographic algorithm: %1.</source>
     <name>FileDialogs</name>
     <message>
         <source>All files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileQueue</name>
+    <message numerus="yes">
+        <source>%1 of %Ln files encrypted</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln files decrypted</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln failed</source>
+        <comment>after &quot;9 of 11 files encrypted&quot;</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln skipped</source>
+        <comment>after &quot;9 of 11 files encrypted&quot;</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folders and devices are left out: only files can be encrypted or decrypted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not found, and left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Input files deleted after their encryption, according to your options: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept: %1, see the list.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1100,6 +1745,14 @@ Selected cryptographic algorithm: %1.</source>
         <source>Input file has been deleted after the successfully encryption according to your options</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Open folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file was encrypted with %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>JobRequest</name>
@@ -1184,6 +1837,88 @@ Selected cryptographic algorithm: %1.</source>
     </message>
 </context>
 <context>
+    <name>KeyFileDialogs</name>
+    <message>
+        <source>Text files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key and IV could not be saved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key and IV were loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key and IV were saved for %1. The selected algorithm is %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save key and IV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 key and IV.txt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no answer from the disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key and IV were saved. Only you can read the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load key and IV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds no key and IV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NamingWarning</name>
+    <message>
+        <source>The default output folder must be an absolute path.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No default output folder is given: files go beside their input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypted files would get the names of their input files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decrypted files would get the names of their input files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File names would become longer than a file system takes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files are not recognised by an extension with a dot inside.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows and most memory sticks take no names with one of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>OptionsHandler</name>
     <message>
         <source>The options can&apos;t be saved in %1.</source>
@@ -1262,6 +1997,10 @@ Selected cryptographic algorithm: %1.</source>
         <extracomment>%1 is a size, %2 a number of seconds, %3 a speed</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 in less than a second</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ShellIntegration</name>
@@ -1275,6 +2014,22 @@ Selected cryptographic algorithm: %1.</source>
     </message>
     <message>
         <source>Open with Quillet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillet is not at %1 any more. Start it once from its new place to mend this entry of the menu, or delete the entry:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypt the selected files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decrypt the selected files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the selected files in Quillet&apos;s window</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -224,6 +224,9 @@ void CJobFrame::showNoFile()
 
 void CJobFrame::showQueue(bool shown)
 {
+    // What is not shown takes no room.
+    m_subject->widget(0)->setSizePolicy(QSizePolicy::Preferred,
+                                        shown ? QSizePolicy::Ignored : QSizePolicy::Preferred);
     m_subject->setCurrentIndex(shown ? 1 : 0);
 }
 
@@ -325,6 +328,7 @@ void CJobFrame::fitHint()
     }
     m_hint->setFixedHeight(
         std::clamp(height() - m_heightBesideHint, m_hint->minimumSizeHint().height(), 18 * line));
+    m_subject->widget(1)->setFixedHeight(m_subject->widget(0)->minimumSizeHint().height());
 }
 
 void CJobFrame::retranslate()

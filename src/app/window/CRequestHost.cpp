@@ -11,6 +11,7 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 #include "ui/password/CSetPasswordDialog.h"
 
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
