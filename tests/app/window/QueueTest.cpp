@@ -124,7 +124,7 @@ TEST_F(QueueTest, KeepsItsFilesFromEachOther)
     set({{"RewriteOutputFile", true}});
     folder().write("b.enc", "precious");
     w.onDialog<QMessageBox>([](QMessageBox& box) {
-        EXPECT_EQ(box.text(), "Of the 2 files, 1 seem to be encrypted already.");
+        EXPECT_EQ(box.text(), "Of 2 files, 1 seem to be encrypted already.");
         box.buttons().front()->click(); // encrypt again
     });
     encrypt({"b", "b.enc"});
