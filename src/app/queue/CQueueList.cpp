@@ -4,13 +4,13 @@
 #include "app/queue/CNameDelegate.h"
 #include "app/queue/CQueueModel.h"
 #include "app/queue/FileQueue.h"
+#include "app/widgets/CElidedLabel.h"
 #include "app/widgets/SymbolicIcon.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLocale>
 #include <QPainter>
 #include <QPushButton>
@@ -26,7 +26,7 @@ CQueueList::CQueueList(const FileQueue& queue, QWidget* parent)
     : QFrame(parent),
       m_queue(queue),
       m_model(new CQueueModel(queue, this)),
-      m_summary(new QLabel),
+      m_summary(new CElidedLabel),
       m_add(new QPushButton(symbolicIcon(QStringLiteral("add-file")), QString())),
       m_clear(new QPushButton(symbolicIcon(QStringLiteral("clear")), QString())),
       m_view(new QTreeView)
@@ -40,7 +40,6 @@ CQueueList::CQueueList(const FileQueue& queue, QWidget* parent)
     layout->addLayout(head);
     layout->addWidget(m_view);
 
-    m_summary->setTextFormat(Qt::PlainText);
     m_add->setObjectName(QStringLiteral("buttonAddToList"));
     m_clear->setObjectName(QStringLiteral("buttonClearList"));
     m_view->setObjectName(QStringLiteral("fileList"));
@@ -147,8 +146,8 @@ void CQueueList::retranslate()
 
 void CQueueList::refreshSummary()
 {
-    m_summary->setText(tr("%Ln files, %1", "", static_cast<int>(m_queue.size()))
-                           .arg(QLocale().formattedDataSize(m_queue.totalSize(), 1)));
+    m_summary->setWholeText(tr("%Ln files, %1", "", static_cast<int>(m_queue.size()))
+                                .arg(QLocale().formattedDataSize(m_queue.totalSize(), 1)));
 }
 
 /// The sizes take what they need; names and states share the rest.

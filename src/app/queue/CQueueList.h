@@ -2,8 +2,8 @@
 
 #include <QFrame>
 
+class CElidedLabel;
 class CQueueModel;
-class QLabel;
 class QPushButton;
 class QTreeView;
 
@@ -53,7 +53,7 @@ private:
 
     const thisapp::FileQueue& m_queue;
     CQueueModel* m_model;
-    QLabel* m_summary;
+    CElidedLabel* m_summary;
     QPushButton* m_add;
     QPushButton* m_clear;
     QTreeView* m_view;

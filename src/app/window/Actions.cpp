@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QToolBar>
 
@@ -44,7 +45,9 @@ QStringList keysOf(const Command& command)
 QString toolTip(const QString& text, const QStringList& keys)
 {
     QString tip = text;
-    tip.remove('&').remove(QStringLiteral("..."));
+    // Scripts without Latin letters name the key behind the text: "(&E)".
+    static const QRegularExpression keyBehind(QStringLiteral(R"(\s*\(&\w\))"));
+    tip.remove(keyBehind).remove('&').remove(QStringLiteral("..."));
     return keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys.join(QStringLiteral(", ")));
 }
 

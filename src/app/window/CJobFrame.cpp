@@ -225,8 +225,8 @@ void CJobFrame::showNoFile()
 void CJobFrame::showQueue(bool shown)
 {
     // What is not shown takes no room.
-    m_subject->widget(0)->setSizePolicy(QSizePolicy::Preferred,
-                                        shown ? QSizePolicy::Ignored : QSizePolicy::Preferred);
+    const auto policy = shown ? QSizePolicy::Ignored : QSizePolicy::Preferred;
+    m_subject->widget(0)->setSizePolicy(policy, policy);
     m_subject->setCurrentIndex(shown ? 1 : 0);
 }
 

@@ -16,19 +16,26 @@
 #include <QMessageBox>
 #include <QShowEvent>
 
+#include <utility>
+
 using namespace tessaly;
 using thisapp::HexInput;
 using thisapp::MessageKind;
 
 namespace {
 
+QString countText(std::size_t entered, std::uint32_t expected)
+{
+    return CSetKeyAndIvDialog::tr("%1 of %2 bytes entered")
+        .arg(QLocale().toString(static_cast<qulonglong>(entered)), QLocale().toString(expected));
+}
+
 /// Shows the check's outcome at the field and gives it back.
 thisapp::SHexCheck checkField(HexInput input, CHexEdit& field, QLabel& count, std::uint32_t expectedLength)
 {
     thisapp::SHexCheck check = thisapp::checkHex(input, thisapp::typedText(field), expectedLength);
     field.showValidity(check.passed());
-    count.setText(CSetKeyAndIvDialog::tr("%1 of %2 bytes entered")
-                      .arg(QLocale().toString(check.byteCount), QLocale().toString(expectedLength)));
+    count.setText(countText(check.byteCount, expectedLength));
     return check;
 }
 
@@ -127,6 +134,10 @@ void CSetKeyAndIvDialog::showTexts()
     m_ui->labelKey->setText(tr("&Key, length: %1 bytes (HEX format)").arg(QLocale().toString(m_keyLength)));
     m_ui->labelIv->setText(
         tr("&Initialization vector (IV), length: %1 bytes (HEX format)").arg(QLocale().toString(m_ivLength)));
+    // Room for the longest from the start.
+    for (const auto& [count, length] :
+         {std::pair(m_ui->labelKeyCount, m_keyLength), std::pair(m_ui->labelIvCount, m_ivLength)})
+        count->setMinimumWidth(count->fontMetrics().horizontalAdvance(countText(length, length)));
 }
 
 /// Shows what the caller handed in; problems only if there is something to judge.

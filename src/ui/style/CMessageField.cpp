@@ -4,6 +4,10 @@
 #include "ui/style/PlainToolTip.h"
 #include "ui/style/ThemeChange.h"
 
+#include <QScreen>
+
+#include <algorithm>
+
 CMessageField::CMessageField(QWidget* parent) : QLineEdit(parent)
 {
     setReadOnly(true);
@@ -27,7 +31,15 @@ void CMessageField::showMessage(const QString& text, thisapp::MessageKind kind)
     setText(text);
     setFocusPolicy(text.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     setCursorPosition(0);
+    fitText();
     thisapp::setPlainToolTip(*this, text);
+}
+
+/// The dialog grows with the text, as far as the screen lets it.
+void CMessageField::fitText()
+{
+    const int room = window()->screen()->availableSize().width() * 3 / 4;
+    setMinimumWidth(std::min(fontMetrics().horizontalAdvance(text()) + fontMetrics().maxWidth() / 2, room));
 }
 
 void CMessageField::recolor()

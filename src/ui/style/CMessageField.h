@@ -19,6 +19,7 @@ public:
     void clearMessage() { showMessage({}, thisapp::MessageKind::Plain); }
 
 private:
+    void fitText();
     void recolor();
 
     thisapp::MessageKind m_kind = thisapp::MessageKind::Plain;

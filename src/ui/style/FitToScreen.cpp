@@ -23,8 +23,14 @@ QSize decoration(const QWidget& dialog)
 void fitToScreen(QWidget& dialog, QSize wanted)
 {
     dialog.ensurePolished();
-    for (QScrollArea* page : dialog.findChildren<QScrollArea*>())
-        page->updateGeometry(); // learns of changed contents only later, by an event
+    // What surrounds changed contents learns of them only later, by events; so from within to without.
+    const QList<QWidget*> parts = dialog.findChildren<QWidget*>();
+    for (auto part = parts.crbegin(); part != parts.crend(); ++part) {
+        if ((*part)->layout() != nullptr)
+            (*part)->layout()->activate();
+        if (auto* page = qobject_cast<QScrollArea*>(*part))
+            page->updateGeometry();
+    }
     if (dialog.layout() != nullptr)
         dialog.layout()->activate();
     if (!wanted.isValid())
