@@ -96,10 +96,15 @@ void savePasswordDialogs(Gallery& gallery)
         encrypt.findChild<QWidget*>(QStringLiteral("labelAdvancedMode"))->setFocus();
     });
     CSetPasswordDialog seal;
+    seal.setSubject(QStringLiteral("Accounts 2026.ods"), 0);
     seal.setAlgorithmName(QStringLiteral("AES-256"));
     seal.setSeal(true);
     seal.setUseSalt(true);
-    gallery.save(QStringLiteral("password_seal"), seal);
+    gallery.save(QStringLiteral("password_seal"), seal, [&seal] {
+        for (const char* field : {"lineEditPassword", "lineEditConfirmPassword"})
+            QTest::keyClicks(seal.findChild<QLineEdit*>(QString::fromLatin1(field)),
+                             QStringLiteral("danger grumbly polymer onion"));
+    });
     gallery.saveToolTip(QStringLiteral("password_seal_tip"),
                         *seal.findChild<QWidget*>(QStringLiteral("checkBoxSeal")));
     CSetPasswordDialog decrypt;
@@ -203,6 +208,8 @@ void saveOptionsDialog(Gallery& gallery)
         folder->setText(QStringLiteral("sftp://host/folder"));
         dialog.onUiApply();
     });
+    folder->setText(QStringLiteral("/home/user/encrypted"));
+    dialog.onUiApply();
 
     auto* tabs = dialog.findChild<QTabWidget*>();
     gallery.save(QStringLiteral("options_names"), dialog, [tabs] { tabs->setCurrentIndex(1); });
