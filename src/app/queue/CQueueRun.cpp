@@ -62,7 +62,7 @@ void CQueueRun::onUiLooked()
         endWith(EntryState::Failed, refusal);
     else if (auto unusable = outputRefusal(look.facts, look.output))
         endWith(EntryState::Failed, unusable);
-    else if (m_queue.owns(look.atOutput))
+    else if (m_queue.owns(*m_current, look.output, look.atOutput))
         endWith(EntryState::Skipped, isOwned);
     else if (auto existing = existingRefusal(look.facts, m_request.rewriteOutput))
         endWith(EntryState::Skipped, existing);

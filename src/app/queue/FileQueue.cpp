@@ -118,10 +118,22 @@ std::int64_t FileQueue::totalSize() const
     return size;
 }
 
-bool FileQueue::owns(const FileStatus& file) const
+std::int64_t FileQueue::doneSize() const
 {
-    return std::ranges::any_of(m_entries, [&file](const QueueEntry& entry) {
-        return entry.file.sameFile(file) || entry.written.sameFile(file);
+    std::int64_t size = 0;
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        if (m_inRun[i] && m_entries[i].state == EntryState::Done)
+            size += m_entries[i].file.size;
+    return size;
+}
+
+/// By the path as well: another program may have put another file in its place.
+bool FileQueue::owns(std::size_t index, const std::filesystem::path& output, const FileStatus& atOutput) const
+{
+    return std::ranges::any_of(m_entries, [&](const QueueEntry& entry) {
+        const bool isOther = &entry != &m_entries[index];
+        return entry.path == output || entry.file.sameFile(atOutput) ||
+               (isOther && (entry.output == output || entry.written.sameFile(atOutput)));
     });
 }
 

@@ -59,9 +59,13 @@ public:
     /// skipped counts no longer.
     Progress progress() const;
     std::int64_t totalSize() const;
+    /// In bytes, of the files that this run has done.
+    std::int64_t doneSize() const;
 
     /// One of the files, or what became of one: nothing of the list may be written over it.
-    bool owns(const tessaly::platform::FileStatus& file) const;
+    /// For what stands where that file's output shall go; its own former output doesn't count.
+    bool owns(std::size_t index, const std::filesystem::path& output,
+              const tessaly::platform::FileStatus& atOutput) const;
 
 private:
     std::vector<QueueEntry> m_entries;

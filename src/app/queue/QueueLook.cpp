@@ -11,16 +11,28 @@ namespace thisapp {
 
 using namespace tessaly;
 
+namespace {
+
+/// One path for each file, however it was named; its own name may be that of a link. A ".." behind a link
+/// leads to where the system says.
+std::filesystem::path onePath(const std::filesystem::path& named)
+{
+    std::error_code error;
+    const std::filesystem::path whole = std::filesystem::absolute(named, error);
+    const std::filesystem::path folder = std::filesystem::canonical(whole.parent_path(), error);
+    return error ? whole : folder / whole.filename();
+}
+
+} // namespace
+
 QueueLook lookAtFiles(const QStringList& texts)
 {
     QueueLook look;
     for (const QString& text : texts) {
         const std::filesystem::path named = textPath(meantPath(text));
-        std::error_code error;
-        const std::filesystem::path path = std::filesystem::absolute(named, error).lexically_normal();
         switch (io::checkInput(named)) {
         case io::InputCheck::Usable:
-            look.files.push_back({error ? named : path, platform::fileStatus(named)});
+            look.files.push_back({onePath(named), platform::fileStatus(named)});
             break;
         case io::InputCheck::NotRegular:
             look.isFolderLeftOut = true;

@@ -69,6 +69,7 @@ CJobFrame::CJobFrame(const FileQueue& queue, QWidget* parent)
     m_output->setObjectName(QStringLiteral("lineEditOutput"));
     m_inputMessage->setObjectName(QStringLiteral("inputMessage"));
     m_outputMessage->setObjectName(QStringLiteral("outputMessage"));
+    m_queueMessage->setObjectName(QStringLiteral("queueMessage"));
     m_result->setObjectName(QStringLiteral("resultMessage"));
     m_encrypt->setObjectName(QStringLiteral("buttonEncrypt"));
     m_decrypt->setObjectName(QStringLiteral("buttonDecrypt"));

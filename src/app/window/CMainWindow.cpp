@@ -109,7 +109,7 @@ void CMainWindow::processCommandLine(const QStringList& arguments)
         m_queueJob.take(files);
     else if (line.input)
         m_input.set(QDir::toNativeSeparators(*line.input));
-    if (line.output)
+    if (line.output && files.size() < 2) // a list has no such field
         m_form->setOutputText(*line.output);
     m_form->algFrame().setSelection(namedSelection(line)); // none of them changes nothing
     if (line.start)
@@ -148,11 +148,13 @@ void CMainWindow::requestJob(Operation operation)
         if (!m_queueJob.settle())
             return;
         m_input.settle(); // for the proposal
+        if (!m_queueJob.showLeftOut())
+            return;
     }
     CRequestHost host(*this, *m_form, m_input, m_disk, isRunning(), m_job, m_services.algorithms);
     JobRequest request(operation, host, *m_form);
     std::optional<SEncryptData> job =
-        m_queueJob.isActive() ? request.runForList(m_queueJob.names()) : request.run();
+        m_queueJob.isActive() ? request.runForList(m_queueJob.names(operation)) : request.run();
     if (!job)
         return;
 

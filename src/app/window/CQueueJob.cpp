@@ -14,6 +14,7 @@
 #include "common/settings/SettingsKeys.h"
 #include "ui/disk/CDiskWork.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QMessageBox>
 
@@ -60,8 +61,16 @@ CQueueJob::CQueueJob(const Parts& parts)
 
 void CQueueJob::take(const QStringList& files)
 {
-    if (files.isEmpty() || isRunning())
+    if (files.isEmpty())
         return;
+    if (isRunning() || m_parts.job.isRunning()) {
+        m_parts.form.showMessage(Area::Progress, {MessageKind::Warning, [] {
+                                                      return QCoreApplication::translate(
+                                                          "JobRequest",
+                                                          "Encryption/Decryption already running.");
+                                                  }});
+        return;
+    }
     m_look = m_parts.disk.start<QueueLook>([files] { return lookAtFiles(files); });
     if (CDiskWork::waitBriefly(m_look))
         onUiLooked();
@@ -87,6 +96,8 @@ void CQueueJob::onUiLooked()
     if (!m_look.valid() || m_look.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
         return;
     QueueLook look = std::exchange(m_look, {}).get();
+    m_leftOut = leftOutMessage(look);
+    m_isNoneTaken = look.files.empty();
     m_parts.form.progressFrame().reset();
     m_parts.form.clearMessages();
     if (!look.files.empty()) {
@@ -99,7 +110,14 @@ void CQueueJob::onUiLooked()
         useFields();
     else
         show();
-    m_parts.form.showMessage(Area::Input, leftOutMessage(look));
+    m_parts.form.showMessage(Area::Input, m_leftOut);
+}
+
+bool CQueueJob::showLeftOut()
+{
+    if (const Message message = std::exchange(m_leftOut, {}); !message.isEmpty())
+        m_parts.form.showMessage(Area::Input, message);
+    return !std::exchange(m_isNoneTaken, false) || isActive() || !m_parts.form.inputText().isEmpty();
 }
 
 void CQueueJob::useFields()
@@ -143,10 +161,11 @@ void CQueueJob::clear()
 void CQueueJob::onUiCurrent(int row)
 {
     const QueueEntry& entry = m_parts.queue.entries()[static_cast<std::size_t>(row)];
+    const MessageKind kind = entry.state == EntryState::Failed    ? MessageKind::Error
+                             : entry.state == EntryState::Skipped ? MessageKind::Warning
+                                                                  : MessageKind::Plain;
     if (entry.reason)
-        m_parts.form.showMessage(
-            Area::Input, {entry.state == EntryState::Failed ? MessageKind::Error : MessageKind::Warning,
-                          entry.reason, pathText(entry.path)});
+        m_parts.form.showMessage(Area::Input, {kind, entry.reason, pathText(entry.path)});
 }
 
 void CQueueJob::onUiRemove(const QList<int>& rows)
@@ -159,19 +178,26 @@ void CQueueJob::onUiRemove(const QList<int>& rows)
         show();
 }
 
-QStringList CQueueJob::names() const
+bool CQueueJob::redoesAll(Operation operation) const
+{
+    const FileQueue::Count last = m_parts.queue.count();
+    return m_redoAll || operation != m_operation || last.failed + last.skipped == 0;
+}
+
+QStringList CQueueJob::names(Operation operation) const
 {
     QStringList names;
     for (const QueueEntry& entry : m_parts.queue.entries())
-        names += pathText(entry.path.filename());
+        if (redoesAll(operation) || entry.state != EntryState::Done)
+            names += pathText(entry.path.filename());
     return names;
 }
 
 void CQueueJob::start(SEncryptData request, OnEncrypted onEncrypted)
 {
-    const FileQueue::Count last = m_parts.queue.count();
-    const bool isOther = std::exchange(m_operation, request.operation) != request.operation;
-    m_parts.queue.begin(std::exchange(m_redoAll, false) || isOther || last.failed + last.skipped == 0);
+    m_parts.queue.begin(redoesAll(request.operation));
+    m_redoAll = false;
+    m_operation = request.operation;
     if (onEncrypted == OnEncrypted::LeaveOut)
         leaveOutEncrypted();
     m_parts.form.queueList().refresh();
@@ -185,7 +211,8 @@ void CQueueJob::leaveOutEncrypted()
 {
     const NamingSettings naming = readNamingSettings(CAppSettings());
     for (std::size_t i = 0; i < m_parts.queue.size(); ++i)
-        if (isNamedEncrypted(m_parts.queue.entries()[i], naming))
+        if (m_parts.queue.entries()[i].state == EntryState::Waiting &&
+            isNamedEncrypted(m_parts.queue.entries()[i], naming))
             m_parts.queue.end(i, EntryState::Skipped, [] { return tr("It seems to be encrypted already."); });
 }
 
@@ -222,7 +249,8 @@ void CQueueJob::onUiEnded()
     });
     if (problem != m_parts.queue.entries().end())
         m_parts.form.queueList().show(static_cast<int>(problem - m_parts.queue.entries().begin()));
-    m_parts.display.showQueueEnd(queueMessage(m_operation, m_parts.queue, m_run.isStopped()), m_parts.queue);
+    m_parts.display.showQueueEnd(queueMessage(m_operation, m_parts.queue, m_run.isStopped()), m_parts.queue,
+                                 m_run.isStopped());
     const CAppSettings settings;
     std::vector<CQueueRemoval::Candidate> encrypted = m_run.takeEncrypted();
     if (!encrypted.empty() && readSetting(settings, keys::DeleteSourceFileAfterEncryption))

@@ -49,7 +49,10 @@ public:
     void take(const QStringList& files);
     /// Waits for the look at files that were given; false, and told, when the file system doesn't answer.
     bool settle();
-    QStringList names() const;
+    /// What couldn't be taken is told in the request's messages, too. False when nothing could.
+    bool showLeftOut();
+    /// Of the files that such a request is about: all, or after a run those that it hasn't done.
+    QStringList names(thisapp::Operation operation) const;
     /// `request` has everything but the files.
     void start(thisapp::SEncryptData request, thisapp::OnEncrypted onEncrypted);
     void stop() { m_run.stop(); }
@@ -76,6 +79,7 @@ private slots:
 
 private:
     void show();
+    bool redoesAll(thisapp::Operation operation) const;
     void leaveOutEncrypted();
     /// What is left of the list is a file for the fields.
     void useFields();
@@ -88,4 +92,6 @@ private:
     std::shared_future<thisapp::QueueLook> m_look;
     thisapp::Operation m_operation = thisapp::Operation::Encrypt;
     bool m_redoAll = true;
+    thisapp::Message m_leftOut;
+    bool m_isNoneTaken = false;
 };

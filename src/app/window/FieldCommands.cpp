@@ -20,6 +20,16 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(CMainWindow)
 };
 
+/// What is on no disk of this computer, for the list to tell that it isn't found.
+QStringList foreignNames(const QList<QUrl>& urls)
+{
+    QStringList names;
+    for (const QUrl& url : urls)
+        if (droppedFiles({url}).isEmpty())
+            names += url.toDisplayString();
+    return names;
+}
+
 } // namespace
 
 FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& disk,
@@ -68,7 +78,7 @@ void FieldCommands::takeDrop(int widgetId, const QList<QUrl>& urls)
     const QStringList files = droppedFiles(urls);
     const bool onOutput = widgetId == DropOnOutput;
     if (!onOutput && (files.size() > 1 || (m_form.isQueueShown() && !files.isEmpty()))) {
-        m_takeFiles(files);
+        m_takeFiles(files + foreignNames(urls));
         return;
     }
     const DroppedFile drop{files.value(0), !files.isEmpty() && urls.size() > 1};

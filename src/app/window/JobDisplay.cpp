@@ -61,7 +61,7 @@ void JobDisplay::showEnd(const SEncryptData& ended)
            ended.outcome.done() ? openFolder : nullptr);
 }
 
-void JobDisplay::showQueueEnd(Message result, const FileQueue& queue)
+void JobDisplay::showQueueEnd(Message result, const FileQueue& queue, bool isStopped)
 {
     hideProgress();
     const auto isDone = [](const QueueEntry& entry) { return entry.state == EntryState::Done; };
@@ -69,8 +69,9 @@ void JobDisplay::showQueueEnd(Message result, const FileQueue& queue)
     if (first != queue.entries().end()) {
         result.link = openFolderText;
         result.follow = [this, file = pathText(first->output)] { m_openFolder(file); };
-        showSummary(queue.progress().processed);
     }
+    if (queue.count().done > 0 && !isStopped)
+        showSummary(queue.doneSize());
     const QString folder = result.file;
     const std::function<void()> openFolder = result.follow;
     m_form.showMessage(Area::Result, std::move(result));
@@ -99,8 +100,7 @@ void JobDisplay::notify(const QString& body, const std::function<void()>& openFo
 
 QString JobDisplay::title() const
 {
-    return QStringLiteral("%1% - %2")
-        .arg(QLocale().toString(static_cast<int>(m_progress.percent())), m_name);
+    return QStringLiteral("%1% - %2").arg(QLocale().toString(static_cast<int>(m_progress.percent())), m_name);
 }
 
 } // namespace thisapp

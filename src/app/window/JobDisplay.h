@@ -39,7 +39,7 @@ public:
     void showProgress(Operation operation, const JobProgress& progress);
     void resetProgress() { m_progress.reset(); }
     void showEnd(const SEncryptData& ended);
-    void showQueueEnd(Message result, const FileQueue& queue);
+    void showQueueEnd(Message result, const FileQueue& queue, bool isStopped);
 
     /// "40% - report.txt" while a job runs.
     QString title() const;

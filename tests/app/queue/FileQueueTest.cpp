@@ -37,8 +37,11 @@ TEST(FileQueueTest, TakesAPathOnceAndCountsWhatBecameOfIt)
     EXPECT_EQ(queue.progress().total, 101 + 51 + 8);
     tessaly::platform::FileStatus written = file("/a.enc", 156).file;
     queue.setDone(0, "/a.enc", written);
-    EXPECT_TRUE(queue.owns(written) && queue.owns(file("/d", 0).file));
-    EXPECT_FALSE(queue.owns(file("/other", 0).file) || queue.owns({}));
+    EXPECT_EQ(queue.doneSize(), 100);
+    EXPECT_TRUE(queue.owns(2, "/x", written) && queue.owns(2, "/x", file("/d", 0).file));
+    EXPECT_TRUE(queue.owns(2, "/a.enc", {}) && queue.owns(2, "/d", {})) << "whatever stands there by now";
+    EXPECT_FALSE(queue.owns(2, "/x", file("/other", 0).file) || queue.owns(2, "/x", {}));
+    EXPECT_FALSE(queue.owns(0, "/a.enc", written)) << "its own";
     EXPECT_EQ(queue.startNext(), 2U);
     EXPECT_EQ(queue.position(), 3U);
     queue.end(2, EntryState::Failed, reason);

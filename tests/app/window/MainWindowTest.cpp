@@ -414,7 +414,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
     const QString base = "file://" + w.path("");
     const std::tuple<QStringList, QString, const char*> cases[] = {
         {{base + "in"}, "in", ""},
-        {{"https://example.org/x", base + "in", "file:///y"}, "in", "\"y\" is not found."},
+        {{"https://example.org/x", base + "in", "file:///y"}, "in", "Not found, and left out: y, x"},
         {{"file://LocalHost" + w.path("in")}, "in", ""},
         {{base + "n%FF"}, QString("n") + QChar(0xdcff), ""},
         {{base + "in%20"}, "in ", ""}, // while there is an "in", too
@@ -430,7 +430,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         QMimeData files;
         files.setUrls(QUrl::fromStringList(urls));
         const QString path = name.isEmpty() ? QString() : w.path("") + name;
-        const bool usable = QString(message).startsWith('"') || QString(message).isEmpty();
+        const bool usable = QString(message).startsWith("Not") || QString(message).isEmpty();
         for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
             QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
             EXPECT_TRUE(drop(*target, files));

@@ -133,6 +133,48 @@ TEST_F(QueueTest, KeepsItsFilesFromEachOther)
     EXPECT_TRUE(fs::exists(folder() / "b.dec"));
 }
 
+TEST_F(QueueTest, RewritesItsOwnOutputs)
+{
+    set({{"RewriteOutputFile", true}});
+    for (const char* name : {"a", "b"})
+        w.writeInput(name, 10);
+    encrypt({"a", "b"});
+    const std::string former = test::readFile(folder() / "a.enc");
+    run(Qt::Key_F5, "another");
+    EXPECT_EQ(states(), Lines({"a: Done", "b: Done"}));
+    EXPECT_NE(test::readFile(folder() / "a.enc"), former);
+    EXPECT_EQ(w.progress().message(), "20 bytes in less than a second");
+}
+
+TEST_F(QueueTest, TakesAPathAsTheSystemDoes)
+{
+    fs::create_directories(folder() / "A/sub");
+    fs::create_directory(folder() / "B");
+    fs::create_directory_symlink("../A/sub", folder() / "B/link");
+    for (const char* name : {"A/x", "B/x", "o"})
+        w.writeInput(name, 10);
+    encrypt({"B/link/../x", "o", "A/x"});
+    EXPECT_EQ(states(), Lines({"x: Done", "o: Done"}));
+    EXPECT_TRUE(fs::exists(folder() / "A/x.enc") && !fs::exists(folder() / "B/x.enc"));
+}
+
+TEST_F(QueueTest, TellsWhatIsLeftOutOfARequest)
+{
+    fs::create_directory(folder() / "d");
+    for (const char* name : {"a", "b"})
+        w.writeInput(name, 10);
+    w.answerPassword("secret");
+    w.window->processCommandLine({"-encrypt", "-start", w.path("a"), w.path("b"), w.path("d")});
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "2 of 2 files encrypted");
+    EXPECT_EQ(w.text("queueMessage"),
+              "Folders and devices are left out: only files can be encrypted or decrypted.");
+    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
+    w.window->processCommandLine({"-encrypt", "-start", w.path("d"), w.path("")}); // opens no dialog
+    EXPECT_EQ(w.text("inputMessage"),
+              "Folders and devices are left out: only files can be encrypted or decrypted.");
+}
+
 TEST_F(QueueTest, StopsAsAWhole)
 {
     for (const char* name : {"a", "b", "c"})
