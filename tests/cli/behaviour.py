@@ -177,6 +177,7 @@ class Behaviour(unittest.TestCase):
 
     def test_several_files(self):
         os.mkdir("folder")
+        self.write("PLAIN", "")
         names = ["plain", "[a,b]", "-dash", "c.txt"]
         for name in names[1:]:
             self.write(name, name)
@@ -191,10 +192,18 @@ class Behaviour(unittest.TestCase):
         os.rename("c.txt.enc", "d.ENC")
         self.decrypt("d.ENC")
         for arguments, word in ((["--force", "plain", "./plain"], "that of another input already: ./plain.enc"),
+                                (["--force", "plain", "./PLAIN"], "that of another input already: ./PLAIN.enc"),
                                 (["--force", "d", "d.enc"], "output is another input: d.enc")):
             self.write("d.enc", "precious")
             self.assertIn(word, self.encrypt(*arguments, code=1, lines=2 if "d" in arguments else 1))
             self.assertEqual(self.read("d.enc"), b"precious")
+
+    def test_thousands_of_files_are_planned_at_once(self):
+        names = ["many%d" % i for i in range(3000)]
+        for name in names:
+            self.write(name, "")
+        limit = lambda: resource.setrlimit(resource.RLIMIT_CPU, (3, 3))
+        self.run_cli("encrypt", "--password-file", "missing", *names, code=1, preexec_fn=limit)
 
     def test_streams(self):
         plain = self.read("plain")
