@@ -84,10 +84,8 @@ std::string verdict(const FileResult& result, bool byPassword)
 ExitCode report(const FileJobRequest& request, const FileResult& result, const Arguments& arguments)
 {
     const FileJobOutcome& outcome = result.outcome;
-    if (outcome.cancelled || (!outcome.done() && platform::Interrupts::happened())) {
-        complain("interrupted");
+    if (outcome.cancelled || (!outcome.done() && platform::Interrupts::happened()))
         return Interrupted;
-    }
     if (!outcome.done())
         return reportFailure(request, result, arguments);
     if (arguments.quiet)

@@ -23,7 +23,8 @@ struct FileResult
 };
 
 /// The failure in one line on standard error, or the command's success where there is something to tell:
-/// the algorithm that was found, or what has been verified, which goes to standard output.
+/// the algorithm that was found, or what has been verified, which goes to standard output. An interruption is
+/// left to the caller, who knows what it has cut off.
 ExitCode report(const tessaly::crypto::FileJobRequest& request, const FileResult& result,
                 const Arguments& arguments);
 

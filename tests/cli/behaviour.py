@@ -365,12 +365,14 @@ class Behaviour(unittest.TestCase):
     def test_interrupt_leaves_nothing(self):
         with open("large", "wb") as file:
             file.truncate(8 << 30)
-        for sent, code in ((signal.SIGINT, 130), (signal.SIGTERM, 130), (signal.SIGKILL, -9)):
-            running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large"], stderr=subprocess.PIPE)
+        for sent, code, rest, told in (
+                (signal.SIGINT, 130, ["plain"], b"quillet-cli: interrupted in large; 1 file not tried\n"),
+                (signal.SIGTERM, 130, ["pw", "plain"], b"quillet-cli: interrupted in large; 2 files not tried\n"),
+                (signal.SIGKILL, -9, [], b"")):
+            running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large", *rest], stderr=subprocess.PIPE)
             self.wait_until_busy(running)
             running.send_signal(sent)
-            self.assertEqual(running.wait(60), code)
-            running.stderr.close()
+            self.assertEqual((running.communicate(timeout=60)[1], running.returncode), (told, code))
             self.assert_files("large")
         nohup = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "plain"], stdin=subprocess.DEVNULL,
                                  preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN))
