@@ -63,6 +63,7 @@ public:
         if (m_request.sink == &m_standardOutput && m_result.outcome.done())
             if (const ResultCode closed = platform::closeStandardOutput(); !closed.ok())
                 m_result.outcome.result = {err::WriteStreamFailed, closed};
+        m_result.isCutOff = m_standardOutput.hasWritten() && !m_result.outcome.done();
         return std::move(m_result);
     }
 

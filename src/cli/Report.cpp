@@ -64,7 +64,8 @@ ExitCode reportFailure(const FileJobRequest& request, const FileResult& result, 
                            : arguments.command == Command::Decrypt ? "Failed to decrypt file."
                                                                    : "Failed to verify file.";
     complain(errorLine(sentence, outcome.result) + reasonOf(outcome, arguments) + ". " +
-             (result.failedStep.empty() ? stepSentence(request, outcome) : result.failedStep));
+             (result.failedStep.empty() ? stepSentence(request, outcome) : result.failedStep) +
+             (result.isCutOff ? " What was written to standard output is incomplete." : ""));
     return exitCodeOf(outcome.result);
 }
 

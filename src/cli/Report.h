@@ -18,6 +18,7 @@ struct FileResult
     std::optional<std::uint32_t> algorithmId;
     std::string input; ///< as it is shown
     bool isEmpty = false;
+    bool isCutOff = false; ///< standard output has got a part of what was to come
     /// What could not be done, where that was no step of a job on its files.
     std::string failedStep = {};
 };

@@ -215,9 +215,10 @@ class Behaviour(unittest.TestCase):
             self.assertEqual(run("decrypt", "-", stdin=encrypted).stdout, plain)
         self.assertEqual(run("verify", "-", stdin=encrypted).returncode, 0)
         self.encrypt("plain", "--output", "-")
-        for damaged in (encrypted[:-1] + b"x", b"x" + encrypted[1:]):
+        for damaged, told in ((encrypted[:-1] + b"x", True), (b"x" + encrypted[1:], False)):
             done = run("decrypt", "-", stdin=damaged)
-            self.assertEqual((done.returncode, plain.startswith(done.stdout)), (3, True))
+            self.assertEqual((done.returncode, plain.startswith(done.stdout), done.stdout != b""), (3, True, told))
+            self.assertEqual(b"What was written to standard output is incomplete." in done.stderr, told)
         self.assertIn("(standard input)", done.stderr.decode())
         self.write("encrypted", encrypted)
         self.assertEqual(self.decrypt("-o", "-", "encrypted").encode(), plain.decode(errors="replace").encode())
