@@ -63,6 +63,7 @@ public:
         if (m_request.sink == &m_standardOutput && m_result.outcome.done())
             if (const ResultCode closed = platform::closeStandardOutput(); !closed.ok())
                 m_result.outcome.result = {err::WriteStreamFailed, closed};
+        m_result.isCutOff = m_standardOutput.hasWritten() && !m_result.outcome.done();
         return std::move(m_result);
     }
 
@@ -174,6 +175,18 @@ ExitCode runTask(const Arguments& arguments, const Item& item, FileJobRequest se
     return report(task.request(), result, arguments);
 }
 
+/// Which file was cut off, and how many came after it.
+void tellInterruption(const std::vector<Item>& items, std::size_t at)
+{
+    const std::size_t left = items.size() - at - 1;
+    std::string line = "interrupted";
+    if (items.size() > 1)
+        line += " in " + items[at].input;
+    if (left > 0)
+        line += "; " + std::to_string(left) + (left == 1 ? " file" : " files") + " not tried";
+    complain(line);
+}
+
 ExitCode runItems(const Arguments& arguments, const std::vector<Item>& items, Stop& stop)
 {
     FileJobRequest secret;
@@ -186,6 +199,8 @@ ExitCode runItems(const Arguments& arguments, const std::vector<Item>& items, St
             items.size() > 1 ? progressLabel(i + 1, items.size(), items[i].input) : std::string();
         worst = std::max(
             worst, runTask(arguments, items[i], isLast ? std::move(secret) : secret, std::move(label), stop));
+        if (worst == Interrupted)
+            tellInterruption(items, i);
     }
     return worst;
 }

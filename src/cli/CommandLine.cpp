@@ -7,6 +7,7 @@
 #include "crypto/catalogue/Catalogue.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace cli {
@@ -28,6 +29,29 @@ std::string commandProblem(int argc, char** argv)
     return withSuggestion("unknown command " + word, word, names, "see --help");
 }
 
+/// Standard input can be read once only. The problem, or empty.
+std::string secondReader(const Arguments& arguments)
+{
+    struct Reader
+    {
+        const char* option;
+        const std::optional<std::string>& file;
+        const char* what;
+    };
+    const Reader readers[] = {{"--password-file", arguments.passwordFile, "password file"},
+                              {"--key-file", arguments.keyFile, "key file"},
+                              {"--iv-file", arguments.ivFile, "IV file"}};
+    const char* taken = std::ranges::count(arguments.inputs, StandardStream) > 0 ? "file" : nullptr;
+    for (const auto& [option, file, what] : readers) {
+        if (file != StandardStream)
+            continue;
+        if (taken)
+            return std::string(option) + " -: standard input is the " + taken + " already";
+        taken = what;
+    }
+    return {};
+}
+
 /// What the words of a command cannot mean together; empty when they can.
 std::string contradiction(const Arguments& arguments)
 {
@@ -38,15 +62,12 @@ std::string contradiction(const Arguments& arguments)
         return "no file given; see --help";
     if (std::ranges::count(inputs, "") > 0)
         return "the name of a file is empty";
-    const bool readsInput = std::ranges::count(inputs, StandardStream) > 0;
     if (inputs.size() > 1 && arguments.output)
         return "--output " + *arguments.output + " names one file, and there are " +
                std::to_string(inputs.size()) + " to write; without it each gets a name of its own";
-    if (inputs.size() > 1 && readsInput)
+    if (inputs.size() > 1 && std::ranges::count(inputs, StandardStream) > 0)
         return "- is standard input and cannot stand among other files";
-    if (readsInput && arguments.passwordFile == StandardStream)
-        return "--password-file -: standard input is the file already";
-    return {};
+    return secondReader(arguments);
 }
 
 std::string algorithmProblem(Arguments& arguments)

@@ -3,11 +3,14 @@
 #include "cli/DefaultOutput.h"
 #include "io/PathCheck.h"
 #include "lib/platform/File.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <system_error>
+#include <unordered_set>
 #include <utility>
 
 namespace cli {
@@ -67,6 +70,16 @@ std::string secretProblem(const std::string& output, const Arguments& arguments)
     return {};
 }
 
+/// Equal for those paths that io::samePath takes for the same.
+std::wstring pathKey(const std::filesystem::path& path)
+{
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(path, error);
+    std::wstring key = platform::wideText((error ? path : absolute).lexically_normal());
+    std::ranges::transform(key, key.begin(), platform::lowerCase);
+    return key;
+}
+
 class Planner
 {
 public:
@@ -83,7 +96,7 @@ public:
             if (std::string problem = problemOf(item); !problem.empty())
                 m_plan.problems.push_back(std::move(problem));
             else
-                m_plan.items.push_back(std::move(item));
+                add(std::move(item));
         }
         return std::move(m_plan);
     }
@@ -123,15 +136,18 @@ private:
         return problem;
     }
 
-    bool isPlanned(const std::string& output) const
+    void add(Item item)
     {
-        return std::ranges::any_of(m_plan.items, [&](const Item& one) {
-            return !one.output.empty() && io::samePath(one.output, output);
-        });
+        if (!item.output.empty())
+            m_outputs.insert(pathKey(item.output));
+        m_plan.items.push_back(std::move(item));
     }
+
+    bool isPlanned(const std::string& output) const { return m_outputs.contains(pathKey(output)); }
 
     const Arguments& m_arguments;
     std::vector<platform::FileStatus> m_inputs;
+    std::unordered_set<std::wstring> m_outputs; ///< keys of those that are planned; thousands are usual
     Plan m_plan;
 };
 

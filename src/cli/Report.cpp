@@ -64,7 +64,8 @@ ExitCode reportFailure(const FileJobRequest& request, const FileResult& result, 
                            : arguments.command == Command::Decrypt ? "Failed to decrypt file."
                                                                    : "Failed to verify file.";
     complain(errorLine(sentence, outcome.result) + reasonOf(outcome, arguments) + ". " +
-             (result.failedStep.empty() ? stepSentence(request, outcome) : result.failedStep));
+             (result.failedStep.empty() ? stepSentence(request, outcome) : result.failedStep) +
+             (result.isCutOff ? " What was written to standard output is incomplete." : ""));
     return exitCodeOf(outcome.result);
 }
 
@@ -84,10 +85,8 @@ std::string verdict(const FileResult& result, bool byPassword)
 ExitCode report(const FileJobRequest& request, const FileResult& result, const Arguments& arguments)
 {
     const FileJobOutcome& outcome = result.outcome;
-    if (outcome.cancelled || (!outcome.done() && platform::Interrupts::happened())) {
-        complain("interrupted");
+    if (outcome.cancelled || (!outcome.done() && platform::Interrupts::happened()))
         return Interrupted;
-    }
     if (!outcome.done())
         return reportFailure(request, result, arguments);
     if (arguments.quiet)

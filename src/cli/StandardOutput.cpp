@@ -17,6 +17,7 @@ std::int64_t StandardOutput::write(const void* buffer, std::int64_t count)
             break;
         }
         done += static_cast<std::int64_t>(written);
+        m_hasWritten = true;
     }
     return done;
 }

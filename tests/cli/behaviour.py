@@ -177,6 +177,7 @@ class Behaviour(unittest.TestCase):
 
     def test_several_files(self):
         os.mkdir("folder")
+        self.write("PLAIN", "")
         names = ["plain", "[a,b]", "-dash", "c.txt"]
         for name in names[1:]:
             self.write(name, name)
@@ -191,10 +192,18 @@ class Behaviour(unittest.TestCase):
         os.rename("c.txt.enc", "d.ENC")
         self.decrypt("d.ENC")
         for arguments, word in ((["--force", "plain", "./plain"], "that of another input already: ./plain.enc"),
+                                (["--force", "plain", "./PLAIN"], "that of another input already: ./PLAIN.enc"),
                                 (["--force", "d", "d.enc"], "output is another input: d.enc")):
             self.write("d.enc", "precious")
             self.assertIn(word, self.encrypt(*arguments, code=1, lines=2 if "d" in arguments else 1))
             self.assertEqual(self.read("d.enc"), b"precious")
+
+    def test_thousands_of_files_are_planned_at_once(self):
+        names = ["many%d" % i for i in range(3000)]
+        for name in names:
+            self.write(name, "")
+        limit = lambda: resource.setrlimit(resource.RLIMIT_CPU, (3, 3))
+        self.run_cli("encrypt", "--password-file", "missing", *names, code=1, preexec_fn=limit)
 
     def test_streams(self):
         plain = self.read("plain")
@@ -206,9 +215,10 @@ class Behaviour(unittest.TestCase):
             self.assertEqual(run("decrypt", "-", stdin=encrypted).stdout, plain)
         self.assertEqual(run("verify", "-", stdin=encrypted).returncode, 0)
         self.encrypt("plain", "--output", "-")
-        for damaged in (encrypted[:-1] + b"x", b"x" + encrypted[1:]):
+        for damaged, told in ((encrypted[:-1] + b"x", True), (b"x" + encrypted[1:], False)):
             done = run("decrypt", "-", stdin=damaged)
-            self.assertEqual((done.returncode, plain.startswith(done.stdout)), (3, True))
+            self.assertEqual((done.returncode, plain.startswith(done.stdout), done.stdout != b""), (3, True, told))
+            self.assertEqual(b"What was written to standard output is incomplete." in done.stderr, told)
         self.assertIn("(standard input)", done.stderr.decode())
         self.write("encrypted", encrypted)
         self.assertEqual(self.decrypt("-o", "-", "encrypted").encode(), plain.decode(errors="replace").encode())
@@ -251,6 +261,9 @@ class Behaviour(unittest.TestCase):
             "encrypt -ox -o y z": "-o is given twice", "algorithms x": "unexpected argument x", "": "no command",
             "encrypt": "no file", "encrypt -o z x y": "--output z names one file, and there are 2",
             "decrypt - x": "cannot stand among other files", "encrypt --password-file - -": "standard input is the file",
+            "encrypt - --key-file - --iv-file i -o o": "--key-file -: standard input is the file already",
+            "verify --key-file k --iv-file - -": "--iv-file -: standard input is the file already",
+            "verify --iv-file - --key-file - x": "--iv-file -: standard input is the key file already",
             "encrypt --iv-file k x": "--iv-file needs --key-file", "decrypt --salt x": "unknown option --salt",
             "encrypt --seal --salt x": "--salt cannot go with --seal", "encrypt plain": "no password",
             "encrypt --key-file k --iv-file i --password-file p x": "--password-file cannot go with --key-file",
@@ -353,12 +366,14 @@ class Behaviour(unittest.TestCase):
     def test_interrupt_leaves_nothing(self):
         with open("large", "wb") as file:
             file.truncate(8 << 30)
-        for sent, code in ((signal.SIGINT, 130), (signal.SIGTERM, 130), (signal.SIGKILL, -9)):
-            running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large"], stderr=subprocess.PIPE)
+        for sent, code, rest, told in (
+                (signal.SIGINT, 130, ["plain"], b"quillet-cli: interrupted in large; 1 file not tried\n"),
+                (signal.SIGTERM, 130, ["pw", "plain"], b"quillet-cli: interrupted in large; 2 files not tried\n"),
+                (signal.SIGKILL, -9, [], b"")):
+            running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large", *rest], stderr=subprocess.PIPE)
             self.wait_until_busy(running)
             running.send_signal(sent)
-            self.assertEqual(running.wait(60), code)
-            running.stderr.close()
+            self.assertEqual((running.communicate(timeout=60)[1], running.returncode), (told, code))
             self.assert_files("large")
         nohup = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "plain"], stdin=subprocess.DEVNULL,
                                  preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN))
