@@ -1,5 +1,6 @@
 #include "cli/DefaultOutput.h"
 
+#include "cli/CommandLine.h"
 #include "common/naming/OutputNaming.h"
 #include "common/settings/AppSettings.h"
 #include "common/settings/Product.h"
@@ -35,7 +36,8 @@ std::string defaultOutput(const std::string& input, Command command,
     // Latin-1 both ways keeps every byte of a name that is not UTF-8; the rules look at ASCII only.
     const QString name = QString::fromLatin1(path.filename().c_str());
     const auto beside = [&](const QString& output) {
-        return (path.parent_path() / output.toLatin1().toStdString()).string();
+        const std::string file = (path.parent_path() / output.toLatin1().toStdString()).string();
+        return file == StandardStream ? "./" + file : file; // it is the name of a file
     };
     if (command == Command::Encrypt)
         return beside(thisapp::outputFileName(name, NamingDirection::Encryption, NamingSettings(),

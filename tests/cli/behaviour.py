@@ -189,7 +189,10 @@ class Behaviour(unittest.TestCase):
         error = self.decrypt("plain.enc", "[a,b].enc", "c.txt.enc", "./-dash.enc", "missing", code=3, lines=2)
         self.assertRegex(error, r"(?s)missing.*plain\.enc")
         self.assertEqual([self.read(name) for name in ("[a,b]", "c.txt", "-dash.dec")], [b"[a,b]", b"c.txt", b"-dash"])
-        os.rename("c.txt.enc", "d.ENC")
+        os.rename("c.txt.enc", "-.enc")
+        self.decrypt("--", "-.enc")
+        self.assertEqual(self.read("-"), b"c.txt", "no standard output")
+        os.rename("-.enc", "d.ENC")
         self.decrypt("d.ENC")
         for arguments, word in ((["--force", "plain", "./plain"], "that of another input already: ./plain.enc"),
                                 (["--force", "plain", "./PLAIN"], "that of another input already: ./PLAIN.enc"),
