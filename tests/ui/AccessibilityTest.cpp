@@ -88,4 +88,28 @@ TEST(Accessibility, LinksCanBePressed)
     EXPECT_EQ(followed.count(), 1);
 }
 
+TEST(Accessibility, LinksAreReadableInEveryTheme)
+{
+    const QPalette before = QApplication::palette();
+    CLinkLabel label;
+    label.setLinkText("more");
+    const struct
+    {
+        const char *window, *link, *shown;
+    } cases[] = {{"#ffffff", "#0000ff", "#0000ff"},
+                 {"#2a2e32", "#0000ff", "#8ac6ff"}, // of a theme that sets none
+                 {"#2a2e32", "#3daee9", "#3daee9"},
+                 {"#2a2e32", "#1d99f3", "#8ac6ff"}, // a little less than enough
+                 {"#ffffff", "#8ac6ff", "#0000c0"}};
+    for (const auto& [window, link, shown] : cases) {
+        QPalette theme{QColor(window)};
+        theme.setColor(QPalette::Link, QColor(link));
+        QApplication::setPalette(theme);
+        QApplication::processEvents();
+        EXPECT_TRUE(label.text().contains(shown))
+            << window << ' ' << link << ' ' << label.text().toStdString();
+    }
+    QApplication::setPalette(before);
+}
+
 } // namespace

@@ -20,56 +20,70 @@ CAlgorithmOffer::CAlgorithmOffer(CJobFrame& form) : m_form(form)
 
 void CAlgorithmOffer::remember(const SEncryptData& request)
 {
-    withdraw();
-    m_request.reset();
+    forget();
     if (request.operation == Operation::Decrypt)
-        m_request = request;
+        m_remembered = request;
+}
+
+void CAlgorithmOffer::follow(JobPhase phase)
+{
+    // A sealed file's key is made before anything has fitted; all other progress comes past the header.
+    if (phase != JobPhase::DerivingKey)
+        m_remembered.reset();
 }
 
 void CAlgorithmOffer::make(const SEncryptData& ended)
 {
+    const std::optional<SEncryptData> remembered = std::exchange(m_remembered, std::nullopt);
     const std::optional<std::uint32_t> fitting = ended.outcome.fittingAlgorithm;
-    if (!fitting || !m_request) {
-        m_request.reset();
+    if (!fitting || !remembered)
         return;
-    }
-    m_request->selection.algorithm = *fitting;
+    const auto offered = std::make_shared<SEncryptData>(*remembered);
+    offered->selection.algorithm = *fitting;
     if (!ended.outcome.root.bytes.empty()) { // opens this one file, and the password none any more
-        m_request->request.password = {};
-        m_request->request.root = ended.outcome.root;
+        offered->request.password = {};
+        offered->request.root = ended.outcome.root;
     }
-    m_isMade = true;
-    show(true);
+    m_offered = offered;
+    show(*offered, offered);
     m_timer.start();
 }
 
+/// During the job the fields may be changed: what was remembered is of that job, not of the fields.
 void CAlgorithmOffer::withdraw()
 {
     m_timer.stop();
-    // During the job the fields may be changed: what was remembered is of that job, not of the fields.
-    if (std::exchange(m_isMade, false)) {
-        show(false);
-        m_request.reset();
-    }
+    const Offered offered = m_offered.lock();
+    m_offered.reset();
+    if (!offered) // there is none, or another message has taken its place
+        return;
+    offered->request.wipeSecrets();
+    show(*offered, nullptr);
 }
 
-void CAlgorithmOffer::show(bool withLink)
+void CAlgorithmOffer::forget()
 {
-    const std::uint32_t algorithm = m_request->selection.algorithm;
+    withdraw();
+    m_remembered.reset();
+}
+
+void CAlgorithmOffer::show(const SEncryptData& request, const Offered& link)
+{
+    const std::uint32_t algorithm = request.selection.algorithm;
     Message message{MessageKind::Plain, [algorithm] { return fittingAlgorithmText(algorithm); },
-                    pathText(m_request->request.input)};
-    if (withLink) {
+                    pathText(request.request.input)};
+    if (link) {
         message.link = [algorithm] { return tr("Decrypt with %1").arg(algorithmName(algorithm)); };
-        message.follow = [this] { take(); };
+        message.follow = [this, link] { take(*link); };
     }
     m_form.showMessage(Area::Input, std::move(message));
 }
 
-void CAlgorithmOffer::take()
+void CAlgorithmOffer::take(const SEncryptData& offered)
 {
-    if (!m_isMade)
+    if (m_offered.expired())
         return;
-    const SEncryptData request = *m_request;
+    const SEncryptData request = offered;
     withdraw();
     m_form.algFrame().setSelection(request.selection);
     emit notifyTaken(request);

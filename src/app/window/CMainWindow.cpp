@@ -170,10 +170,12 @@ void CMainWindow::startJob(const JobRequest& request, SEncryptData job)
     m_offer.remember(job);
     const QString name = pathText(job.request.input.filename());
     const ResultCode started = m_job.start(std::move(job));
-    if (started.ok())
+    if (started.ok()) {
         m_display.begin(name, request.inputSize());
-    else
+    } else {
+        m_offer.forget();
         reportFailedStart(m_job.data(), started, *m_form);
+    }
     refresh();
 }
 
@@ -212,7 +214,9 @@ void CMainWindow::onUiEncryptProgressChanged()
         m_queueJob.showJobProgress();
         return;
     }
-    m_display.showProgress(m_job.data().operation, m_job.progress());
+    const JobProgress progress = m_job.progress();
+    m_offer.follow(progress.phase);
+    m_display.showProgress(m_job.data().operation, progress);
     setTitle();
 }
 
@@ -327,7 +331,7 @@ void CMainWindow::keyPressEvent(QKeyEvent* event)
 void CMainWindow::closeEvent(QCloseEvent* event)
 {
     logger::log(logger::Debug, LogSource) << "Finish ...";
-    m_offer.withdraw();
+    m_offer.forget();
     event->accept();
 }
 

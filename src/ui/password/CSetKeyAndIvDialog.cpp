@@ -210,8 +210,8 @@ bool CSetKeyAndIvDialog::mayReplaceFields()
     const bool empty =
         m_ui->plainTextEditIv->document()->isEmpty() && m_ui->plainTextEditKey->document()->isEmpty();
     return empty || m_mayRegenerate ||
-           QMessageBox::question(this, windowTitle(),
-                                 tr("Replace the key and IV that stand in the fields?")) == QMessageBox::Yes;
+           QMessageBox::question(this, windowTitle(), tr("Replace the key and IV that stand in the fields?"),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 void CSetKeyAndIvDialog::showFields(const SecretBytes& key, const SecretBytes& iv)

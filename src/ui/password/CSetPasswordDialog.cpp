@@ -156,8 +156,8 @@ void CSetPasswordDialog::onUiGenerate()
     const bool typed =
         !m_ui->lineEditPassword->text().isEmpty() || !m_ui->lineEditConfirmPassword->text().isEmpty();
     if (typed &&
-        QMessageBox::question(this, windowTitle(), tr("Replace the password that stands in the field?")) !=
-            QMessageBox::Yes)
+        QMessageBox::question(this, windowTitle(), tr("Replace the password that stands in the field?"),
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
         return;
     QString password =
         QString::fromUtf8(generator.password().c_str(), static_cast<int>(generator.password().size()));

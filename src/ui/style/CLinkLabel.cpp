@@ -1,5 +1,6 @@
 #include "ui/style/CLinkLabel.h"
 
+#include "ui/style/MessageStyle.h"
 #include "ui/style/ThemeChange.h"
 
 #include <QAccessibleWidget>
@@ -41,15 +42,13 @@ CLinkLabel::CLinkLabel(QWidget* parent) : QLabel(parent)
     setTextFormat(Qt::RichText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     setFocusPolicy(Qt::StrongFocus);
-    thisapp::onThemeChange(*this, [this] {
-        clear(); // the same text again would keep the old link colour
-        setLinkText(accessibleName());
-    });
+    thisapp::onThemeChange(*this, [this] { setLinkText(accessibleName()); });
 }
 
 void CLinkLabel::setLinkText(const QString& text)
 {
-    setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(QLatin1String(Target), text.toHtmlEscaped()));
+    setText(QStringLiteral("<a href=\"%1\" style=\"color:%2\">%3</a>")
+                .arg(QLatin1String(Target), thisapp::linkColor(palette()).name(), text.toHtmlEscaped()));
     setAccessibleName(text);
 }
 

@@ -15,4 +15,8 @@ QColor messageColor(MessageKind kind, const QPalette& palette);
 /// colour is readable on it, light or dark.
 QColor fieldColor(bool valid, const QPalette& palette);
 
+/// The palette's colour of links, or a blue of our own where nobody could read that one on the palette's
+/// window colour: a dark theme may well leave it as it is.
+QColor linkColor(const QPalette& palette);
+
 } // namespace thisapp

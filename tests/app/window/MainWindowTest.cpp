@@ -2,6 +2,7 @@
 
 #include "app/widgets/CDropHint.h"
 #include "common/settings/CAppSettings.h"
+#include "lib/secret/Secret.h"
 #include "support/Environment.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/CSetAlgDialog.h"
@@ -15,10 +16,13 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QScreen>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
+#include <cstring>
 #include <filesystem>
 #include <thread>
 #include <tuple>
@@ -31,6 +35,31 @@ namespace {
 
 /// DES_EDE3, the slowest of all.
 constexpr AlgSelection SlowAlgorithm{1, 601};
+
+/// Whether the text stands anywhere in what this program can write to. No copy of it remains.
+bool isInMemory(std::string_view text)
+{
+    tessaly::SecretBytes chunk(1 << 20);
+    const int memory = open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
+    bool found = false;
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; !found && std::getline(maps, line);) {
+        std::uintptr_t at = 0;
+        std::uintptr_t end = 0;
+        char access[5] = "";
+        if (std::sscanf(line.c_str(), "%zx-%zx %4s", &at, &end, access) != 3 || access[1] != 'w')
+            continue;
+        while (!found && at < end) {
+            const ssize_t got = pread(memory, chunk.data(), std::min(chunk.size(), end - at), off_t(at));
+            if (got <= 0)
+                break;
+            found = memmem(chunk.data(), std::size_t(got), text.data(), text.size()) != nullptr;
+            at += std::size_t(got);
+        }
+    }
+    close(memory);
+    return found;
+}
 
 class MainWindowTest : public ::testing::Test
 {
@@ -144,6 +173,32 @@ TEST_F(MainWindowTest, OffersTheAlgorithmThatFits)
         fs::remove(folder() / "out");
         fs::remove(folder() / "back");
     }
+}
+
+TEST_F(MainWindowTest, KeepsThePasswordOnlyForAnOffer)
+{
+    static constexpr char Password[] = "Zebras cross 4711 times"; // where nobody can write
+    w.writeInput("in", 64 << 20);
+    ASSERT_TRUE(w.form().algFrame().setSelection(SlowAlgorithm));
+    run(Qt::Key_F5, w.path("in"), w.path("out"), Password);
+    ASSERT_TRUE(w.waitForEnd());
+    run(Qt::Key_F6, w.path("out"), w.path("back"), Password);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return w.progress().percent() > 0; }, WindowHarness::JobTimeoutMs));
+    ASSERT_TRUE(w.isRunning());
+    EXPECT_FALSE(isInMemory(Password)) << "the algorithm is the right one";
+    QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
+    ASSERT_TRUE(w.waitForEnd());
+
+    ASSERT_TRUE(w.form().algFrame().setSelection({1, 252}));
+    run(Qt::Key_F6, w.path("out"), w.path("back"), Password);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_NE(w.text("inputMessage"), "");
+    EXPECT_TRUE(isInMemory(Password)) << "for the offer";
+    w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("out"))}); // which is there already
+    EXPECT_EQ(w.text("inputMessage"), "");
+    EXPECT_FALSE(isInMemory(Password)) << "nothing is offered any more";
+    w.output().setText(w.path("elsewhere"));
+    EXPECT_EQ(w.text("inputMessage"), "") << "an old sentence is back";
 }
 
 TEST_F(MainWindowTest, SealsAndOpensFiles)

@@ -214,10 +214,11 @@ TEST_F(KeyAndIvDialog, GeneratesCopiesAndSavesPrivately)
     press(Qt::Key_G, Qt::AltModifier);
     EXPECT_NE(key.toPlainText(), generated);
     key.setPlainText("typed");
-    for (const Qt::Key answer : {Qt::Key_N, Qt::Key_Y}) {
-        whenModal([answer](QWidget&) { press(answer, Qt::AltModifier); });
+    for (const Qt::Key answer : {Qt::Key_Return, Qt::Key_Y}) { // No is the default
+        whenModal(
+            [answer](QWidget&) { press(answer, answer == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier); });
         press(Qt::Key_G, Qt::AltModifier);
-        EXPECT_EQ(key.toPlainText() == "typed", answer == Qt::Key_N);
+        EXPECT_EQ(key.toPlainText() == "typed", answer == Qt::Key_Return);
         QApplication::setActiveWindow(&dialog);
     }
 
