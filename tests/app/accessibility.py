@@ -217,7 +217,7 @@ def walk(quillet, home):
         application = eventually(lambda: next((a for a in desktop if a is not None and len(a) > 0 and
                                                a.get_process_id() == process.pid), None))
         walk = Walk(application)
-        main = application[0]
+        main = eventually(lambda: application[0])
         eventually(lambda: "letter.txt" in main.name)
         walk.window(main)
         for name, inner in DIALOGS:

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <span>
 #include <utility>
 
@@ -56,6 +57,13 @@ std::unique_ptr<ISymmetricDecryptor> decryptorOf(std::uint32_t algorithmId)
     const CryptoResult made =
         cryptopp::CDecryptorFactory().create(CryptoPPLibraryId, algorithmId, &decryptor);
     return made.ok() ? std::move(decryptor) : nullptr;
+}
+
+/// Where nothing but memory can be short: an algorithm that could not be tried is none that doesn't fit.
+void requireMemory(bool had)
+{
+    if (!had)
+        throw std::bad_alloc();
 }
 
 template <class Fits>
@@ -162,20 +170,21 @@ bool AlgorithmSearch::isCandidate(const CatalogueEntry& algorithm) const
 bool AlgorithmSearch::fitsPlain(std::uint32_t algorithmId) const
 {
     const auto decryptor = decryptorOf(algorithmId);
-    if (!decryptor)
-        return false;
+    requireMemory(decryptor != nullptr);
     HeadInput in({m_head.data(), std::min(m_head.size(), PlainHeadSize)});
     io::NullOutput out;
     SecretBytes key = m_request.key;
     SecretBytes iv = m_request.iv;
     if (m_request.passwordMode) {
         const std::uint32_t hash = keyDerivationHash(decryptor->keyLength(), decryptor->ivLength());
-        if (!deriveKey(key, decryptor->keyLength(), hash, m_request.password.c_str()).ok())
-            return false;
+        requireMemory(deriveKey(key, decryptor->keyLength(), hash, m_request.password.c_str()).ok());
         iv = SecretBytes(decryptor->ivLength());
     }
     const CryptoResult result =
         decryptor->run(&in, &out, key, iv, HeaderSize, DefaultProgressInterval, nullptr, nullptr);
+    requireMemory(result != CryptoResult(err::FirstBufferAllocation) &&
+                  result != CryptoResult(err::SecondBufferAllocation) &&
+                  result.second() != err::library(err::ProcessingFailed));
     // Of most files the head alone is cut short, and that is told once the check value fits.
     return result.ok() || result == CryptoResult(err::InputTruncated);
 }
@@ -185,15 +194,14 @@ bool AlgorithmSearch::fitsSealed(std::uint32_t algorithmId, const SecretBytes& r
     const auto decryptor = decryptorOf(algorithmId);
     SealedKeys keys;
     PieceTagger tagger;
-    if (!decryptor || !expandRoot(root, *decryptor, keys).ok() || !tagger.setKey(keys.tagKey).ok())
-        return false;
+    requireMemory(decryptor && expandRoot(root, *decryptor, keys).ok() && tagger.setKey(keys.tagKey).ok());
     const std::uint64_t within = innerSize(m_size).value_or(0);
     const SealedPieces first{
         .bytes = std::span(m_head).subspan(SealSaltSize), .firstIndex = 0, .endsFile = within <= PieceSize};
     const std::span<const std::uint8_t> piece = first.piece(0);
     std::vector<PieceTag> tags;
-    return tagger.tag(first, tags).ok() &&
-           isEqualInConstantTime(tags[0].data(), piece.data() + piece.size(), TagSize);
+    requireMemory(tagger.tag(first, tags).ok());
+    return isEqualInConstantTime(tags[0].data(), piece.data() + piece.size(), TagSize);
 }
 
 FoundAlgorithm findAlgorithm(const FileJobRequest& request, IFileJobObserver& observer) noexcept
