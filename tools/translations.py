@@ -103,8 +103,15 @@ def content(element):
     return "".join(parts)
 
 
+def parse(path):
+    try:
+        return xml.parse(path)
+    except (OSError, xml.ParseError) as fault:
+        sys.exit(f"{path} can't be read: {fault}")
+
+
 def read_texts(path):
-    tree = xml.parse(path)
+    tree = parse(path)
     texts = [Text(context.findtext("name"), message)
              for context in tree.getroot().findall("context") for message in context.findall("message")]
     return tree, texts
@@ -115,7 +122,7 @@ def list_path(folder):
 
 
 def read_list(folder):
-    return [Language(folder, entry.attrib) for entry in xml.parse(list_path(folder)).getroot().findall("locale")]
+    return [Language(folder, entry.attrib) for entry in parse(list_path(folder)).getroot().findall("locale")]
 
 
 def find_language(folder, tag):
@@ -171,9 +178,9 @@ def new(arguments):
 
 
 def update(arguments):
-    for language in read_list(arguments.folder):
-        if not arguments.tags or language.tag in arguments.tags:
-            language.collect(arguments.sources)
+    tags = arguments.tags or [language.tag for language in read_list(arguments.folder)]
+    for language in [find_language(arguments.folder, tag) for tag in tags]:
+        language.collect(arguments.sources)
 
 
 def escaped(text):
@@ -185,7 +192,7 @@ def unescaped(text):
 
 
 def form_name(text, number):
-    return f"{number + 1}/{len(text.forms())}" if text.has_number else ""
+    return f"{number + 1} of {len(text.forms())}" if text.has_number else ""
 
 
 def export(arguments):
@@ -200,12 +207,15 @@ def export(arguments):
 
 
 def read_table(path):
-    with open(path, encoding="utf-8-sig", newline="") as file:
-        rows = csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE)
-        if rows.fieldnames != COLUMNS:
-            sys.exit(f"{path} begins with other columns than {' '.join(COLUMNS)}")
-        return {(row["context"], unescaped(row["source"] or ""), row["form"]): unescaped(row["translation"] or "")
-                for row in rows}
+    try:
+        with open(path, encoding="utf-8-sig", newline="") as file:
+            rows = csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE)
+            if rows.fieldnames != COLUMNS:
+                sys.exit(f"{path} begins with other columns than {' '.join(COLUMNS)}")
+            return {(row["context"], unescaped(row["source"] or ""), row["form"] or ""):
+                    unescaped(row["translation"] or "") for row in rows}
+    except (OSError, UnicodeDecodeError) as fault:
+        sys.exit(f"{path} can't be read: {fault}")
 
 
 def import_table(arguments):
@@ -213,25 +223,27 @@ def import_table(arguments):
     table = read_table(arguments.table)
     tree, texts = read_texts(language.path)
     refused = 0
+    known = set()
     for text in texts:
         keys = [(*text.key, form_name(text, number)) for number in range(len(text.forms()))]
+        known.update(keys)
         forms = [table.pop(key, "") for key in keys]
-        if not all(forms):
+        if not any(forms):
             continue
-        faults = list(faults_of(language, text, forms))
+        faults = list(faults_of(language, text, forms)) if all(forms) else ["not all plural forms are filled"]
         for fault in faults:
             print(f"refused: {text.context}: {escaped(text.source)!r}: {fault}")
         refused += bool(faults)
         if not faults:
             text.set(forms)
-    for context, source, _ in table:
-        if (context, source) not in {text.key for text in texts}:
-            print(f"unknown: {context}: {escaped(source)!r}")
+    unknown = table.keys() - known
+    for context, source, form in sorted(unknown):
+        print(f"unknown: {context}: {escaped(source)!r} {form}".rstrip())
     tree.write(language.path, encoding="utf-8", xml_declaration=True)
     run(qt_tool("lconvert"), "-locations", "none", "-i", language.path, "-o", language.path)
     finished = sum(text.is_finished() for text in texts)
     print(f"{language.path.name}: {finished} of {len(texts)} texts are finished.")
-    sys.exit(refused > 0)
+    sys.exit(refused > 0 or bool(unknown))
 
 
 def complaints_about(language, sources, scratch):
@@ -266,9 +278,15 @@ def check(arguments):
     sys.exit(count > 0)
 
 
+def folder(name):
+    if not name:
+        raise argparse.ArgumentTypeError("its name is empty; is the variable set in this terminal?")
+    return pathlib.Path(name)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--folder", type=pathlib.Path, default=ROOT / "translations", help="where the languages are")
+    parser.add_argument("--folder", type=folder, default=ROOT / "translations", help="where the languages are")
     parser.add_argument("--sources", type=pathlib.Path, default=ROOT / "src", help="where the texts are")
     commands = parser.add_subparsers(required=True)
     for name, action, words in (("new", new, ["tag", "name"]), ("export", export, ["tag", "table"]),
