@@ -3,13 +3,11 @@
 #include "cli/DefaultOutput.h"
 #include "io/PathCheck.h"
 #include "lib/platform/File.h"
-#include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <optional>
-#include <system_error>
 #include <unordered_set>
 #include <utility>
 
@@ -68,16 +66,6 @@ std::string secretProblem(const std::string& output, const Arguments& arguments)
                                                             : platform::fileStatus(*file)))
             return "output is the " + std::string(what) + " file: " + output;
     return {};
-}
-
-/// Equal for those paths that io::samePath takes for the same.
-std::wstring pathKey(const std::filesystem::path& path)
-{
-    std::error_code error;
-    const auto absolute = std::filesystem::absolute(path, error);
-    std::wstring key = platform::wideText((error ? path : absolute).lexically_normal());
-    std::ranges::transform(key, key.begin(), platform::lowerCase);
-    return key;
 }
 
 class Planner
@@ -139,11 +127,11 @@ private:
     void add(Item item)
     {
         if (!item.output.empty())
-            m_outputs.insert(pathKey(item.output));
+            m_outputs.insert(io::pathKey(item.output));
         m_plan.items.push_back(std::move(item));
     }
 
-    bool isPlanned(const std::string& output) const { return m_outputs.contains(pathKey(output)); }
+    bool isPlanned(const std::string& output) const { return m_outputs.contains(io::pathKey(output)); }
 
     const Arguments& m_arguments;
     std::vector<platform::FileStatus> m_inputs;

@@ -14,13 +14,6 @@ using platform::FileStatus;
 
 namespace {
 
-std::wstring normalized(const std::filesystem::path& path)
-{
-    std::error_code error;
-    const auto absolute = std::filesystem::absolute(path, error);
-    return platform::wideText((error ? path : absolute).lexically_normal());
-}
-
 bool isInFolder(const std::filesystem::path& path)
 {
     const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
@@ -58,8 +51,16 @@ OutputCheck checkOutput(const std::filesystem::path& input, const std::filesyste
 
 bool samePath(const std::filesystem::path& first, const std::filesystem::path& second)
 {
-    return std::ranges::equal(normalized(first), normalized(second), {}, platform::lowerCase,
-                              platform::lowerCase);
+    return pathKey(first) == pathKey(second);
+}
+
+std::wstring pathKey(const std::filesystem::path& path)
+{
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    std::wstring key = platform::wideText((error ? path : absolute).lexically_normal());
+    std::ranges::transform(key, key.begin(), platform::lowerCase);
+    return key;
 }
 
 } // namespace tessaly::io

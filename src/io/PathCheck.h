@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace tessaly::io {
 
@@ -25,5 +26,7 @@ OutputCheck checkOutput(const std::filesystem::path& input, const std::filesyste
 
 /// Absolute paths without "." and "..", compared without regard to letter case.
 bool samePath(const std::filesystem::path& first, const std::filesystem::path& second);
+/// Equal for those paths that samePath takes for the same, to look one up among many.
+std::wstring pathKey(const std::filesystem::path& path);
 
 } // namespace tessaly::io
