@@ -37,7 +37,7 @@ class Fault:
         body = [line for line in lines[2:] if line.strip()]
         pick = lambda mark: [line[1:].strip() for line in body if line[0] == mark]
         self.old, self.new, reasons = pick("-"), pick("+"), pick("=")
-        self.equivalent = " ".join(reasons)
+        self.equivalent = " ".join(reasons).removeprefix("equivalent: ")
         if len(self.old) + len(self.new) + len(reasons) != len(body):
             raise ListError(f"{layer}: {self.name}: a line begins with none of - + =")
         if not self.old or self.old == self.new:
@@ -119,8 +119,11 @@ class Round:
         whole = file.read_text()
         try:
             file.write_text(fault.applied(whole))
-            if not self.tests.build([fault.layer] if self.own_layer else []):
+            layers = [fault.layer] if self.own_layer else []
+            if not self.tests.build("src", layers):
                 return "wrong", "does not build"
+            if not self.tests.build("tests", layers):
+                return "killed", "killed by a check when the tests are built"
             killer = self.tests.first_failure(fault.layer, self.own_layer)
             if killer:
                 return "killed", f"killed by {killer}"

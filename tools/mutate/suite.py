@@ -55,14 +55,14 @@ class Suite:
         self._run(["cmake", "-S", str(tree), "-B", str(folder), *CONFIGURE], must=True)
         self.tests = []
 
-    def build(self, layers=()):
-        """Builds these layers with their tests, or all. False when the compiler or linker refuses."""
-        targets = [f"{part}/{layer}/all" for layer in layers for part in ("src", "tests")] or ["all"]
+    def build(self, part, layers=()):
+        """Builds the sources or the tests of these layers, or of all. False when the compiler or linker refuses."""
+        targets = [f"{part}/{layer}/all" for layer in layers] or ["all" if part == "tests" else f"{part}/all"]
         return self._run(["cmake", "--build", str(self.folder), "-j", str(JOBS), "--target", *targets])
 
     def prepare(self, layers, own_layer):
         """Builds without a fault, and learns how long the tests of these layers, or of all others, take."""
-        if not self.build(layers if own_layer else ()):
+        if not all(self.build(part, layers if own_layer else ()) for part in ("src", "tests")):
             sys.exit("mutate: the tree does not build")
         self.tests = self._learn_tests()
         wanted = {test.name: test for layer in layers for test in self._of(layer, own_layer)}
@@ -118,7 +118,8 @@ class Suite:
         return {name: value for name, value in os.environ.items() if not name.startswith("XDG_")} | own
 
     def _run(self, command, must=False):
-        done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                              env=os.environ | {"CCACHE_BASEDIR": str(self.tree), "CCACHE_NOHASHDIR": "1"})
         if must and done.returncode:
             sys.exit(f"mutate: {' '.join(command)}\n{done.stdout}")
         return done.returncode == 0
