@@ -17,7 +17,7 @@ NOT_RUN = {"house.mutations"}  # it would notice every fault
 class Test:
     def __init__(self, facts, tests_folder):
         properties = {p["name"]: p["value"] for p in facts["properties"]}
-        self.name, self.command = facts["name"], facts["command"]
+        self.name, self.command = facts["name"].partition("  #")[0], facts["command"]
         self.folder = properties["WORKING_DIRECTORY"]
         self.environment = dict(line.split("=", 1) for line in properties.get("ENVIRONMENT", []))
         place = pathlib.Path(self.folder)

@@ -49,7 +49,8 @@ TEST(JobStepText, TellsTheStepAndTheFile)
         const char *text, *file;
     } rows[] = {
         {JobStep::OpenInput, err::system(ENOENT), "The input file %1 could not be opened.", "in"},
-        {JobStep::RemoveFormerOutput, err::system(EPERM), "The former output file %1 could not be removed.", "out"},
+        {JobStep::RemoveFormerOutput, err::system(EPERM), "The former output file %1 could not be removed.",
+         "out"},
         {JobStep::CreateOutput, err::WriteStreamFailed, "The output file %1 could not be created.", "out"},
         {JobStep::Process, err::ReadStreamFailed, "The input file %1 could not be read.", "in"},
         {JobStep::Process, err::WriteStreamFailed, "The output file %1 could not be written.", "out"},
