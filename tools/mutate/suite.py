@@ -10,7 +10,6 @@ import time
 
 CONFIGURE = ["-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0", "-DQUILLET_WERROR=OFF",
              "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld", "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
-JOBS = 2
 NOT_RUN = {"house.mutations"}  # it would notice every fault
 
 
@@ -49,8 +48,8 @@ class Test:
 
 
 class Suite:
-    def __init__(self, tree, folder):
-        self.tree, self.folder = tree, folder
+    def __init__(self, tree, folder, jobs):
+        self.tree, self.folder, self.jobs = tree, folder, jobs
         self.environment = self._private_environment()
         self._run(["cmake", "-S", str(tree), "-B", str(folder), *CONFIGURE], must=True)
         self.tests = []
@@ -58,7 +57,7 @@ class Suite:
     def build(self, part, layers=()):
         """Builds the sources or the tests of these layers, or of all. False when the compiler or linker refuses."""
         targets = [f"{part}/{layer}/all" for layer in layers] or ["all" if part == "tests" else f"{part}/all"]
-        return self._run(["cmake", "--build", str(self.folder), "-j", str(JOBS), "--target", *targets])
+        return self._run(["cmake", "--build", str(self.folder), "-j", str(self.jobs), "--target", *targets])
 
     def prepare(self, layers, own_layer):
         """Builds without a fault, and learns how long the tests of these layers, or of all others, take."""
@@ -94,7 +93,7 @@ class Suite:
                     failed.append(test.name)
                     found.set()
 
-        workers = [threading.Thread(target=work) for _ in range(JOBS)]
+        workers = [threading.Thread(target=work) for _ in range(self.jobs)]
         for worker in workers:
             worker.start()
         for worker in workers:
