@@ -1,6 +1,7 @@
 #include "crypto/job/Spool.h"
 
 #include "crypto/Engine.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -48,6 +49,35 @@ TEST(Spool, GivesBackWhatTheDiskNeverSees)
         EXPECT_EQ(spool.size(), std::ssize(whole));
     }
     EXPECT_FALSE(tessaly::crypto::Spool().open(folder / "missing").ok());
+}
+
+TEST(Spool, TellsWhatTheDiskRefusesAndGoesOnAfterARewind)
+{
+    const TempFolder folder;
+    tessaly::crypto::Spool spool;
+    ASSERT_TRUE(spool.open(folder.path()).ok());
+    const auto append = [&] {
+        std::string piece = "piece";
+        return spool.append(reinterpret_cast<std::uint8_t*>(piece.data()), piece.size());
+    };
+    {
+        const SystemCall shortWrite("write", SystemCall::Short);
+        EXPECT_TRUE(append().ok());
+    }
+    std::string read(100, ' ');
+    std::int64_t got = 0;
+    for (const auto& [how, error] : {std::pair(EIO, err::system(EIO)),
+                                     std::pair(SystemCall::Nothing, err::library(err::ReadFileFailed))}) {
+        ASSERT_TRUE(spool.rewind().ok());
+        const SystemCall broken("read", how);
+        EXPECT_FALSE(spool.read(read.data(), 100, got));
+        EXPECT_EQ(spool.lastError(), error);
+        EXPECT_TRUE(spool.rewind().ok() && spool.lastError().ok());
+        EXPECT_TRUE(spool.read(read.data(), 100, got));
+        EXPECT_EQ(read.substr(0, static_cast<std::size_t>(got)), "piece");
+    }
+    const SystemCall full("write", ENOSPC);
+    EXPECT_EQ(append().first(), err::system(ENOSPC));
 }
 
 } // namespace

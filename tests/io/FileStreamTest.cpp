@@ -2,6 +2,7 @@
 #include "io/OStreamFile.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/platform/Path.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -48,12 +49,22 @@ TEST_F(FileStream, ReadsUpToTheSizeAtOpening)
     EXPECT_EQ(readSome(in, 60), "") << "it shrank";
     EXPECT_FALSE(in.isAtEnd());
     folder.write("in", "0123456789 and more");
-    EXPECT_EQ(readSome(in, 60), "89");
+    EXPECT_EQ(readSome(in, 1), "8");
+    EXPECT_FALSE(in.isAtEnd());
+    EXPECT_EQ(readSome(in, 60), "9");
     EXPECT_TRUE(in.isAtEnd());
     EXPECT_EQ(readSome(in, 1), "!");
     EXPECT_TRUE(in.lastError().ok()) << "the end is no error";
     EXPECT_TRUE(in.rewind().ok() && in.isAtStart());
+    {
+        const test::SystemCall broken("read", EIO);
+        EXPECT_EQ(readSome(in, 60), "!");
+        EXPECT_EQ(in.lastError(), err::system(EIO));
+    }
+    const test::SystemCall interrupted("read", EINTR);
     EXPECT_EQ(readSome(in, 60), "0123456789");
+    EXPECT_TRUE(in.lastError().ok());
+    EXPECT_EQ(in.open(folder.wide("in")), err::library(err::AlreadyOpen));
 }
 
 TEST_F(FileStream, ReadingRefusesAndReports)
