@@ -8,6 +8,7 @@
 #include "lib/secret/Hex.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -32,10 +33,20 @@ struct FileCloser
     }
 };
 
-/// Unbuffered, so that no copy stays behind in the runtime; may be a pipe.
+/// May be a pipe, which is not open before its other end is; a signal may come meanwhile.
+std::FILE* openSecretFile(const std::string& path)
+{
+    std::FILE* file = nullptr;
+    do
+        file = std::fopen(path.c_str(), "rb");
+    while (!file && errno == EINTR && !tessaly::platform::Interrupts::happened());
+    return file;
+}
+
+/// Unbuffered, so that no copy stays behind in the runtime.
 bool readSecretFile(const std::string& path, bool firstLineOnly, SecretBytes& bytes)
 {
-    const std::unique_ptr<std::FILE, FileCloser> file(path == "-" ? stdin : std::fopen(path.c_str(), "rb"));
+    const std::unique_ptr<std::FILE, FileCloser> file(path == "-" ? stdin : openSecretFile(path));
     if (!file)
         return false;
     std::setvbuf(file.get(), nullptr, _IONBF, 0);

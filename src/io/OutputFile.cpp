@@ -60,6 +60,7 @@ ResultCode OutputFile::createHidden(const platform::Access& access, platform::Fi
         const bool locked = !platform::isLocked(file.tryLock(platform::Lock::Exclusive));
         if (locked && m_hidden.status().sameFile(m_status))
             return {};
+        m_hidden.remove(m_status);
     }
     return err::library(err::OpenFileFailed);
 }

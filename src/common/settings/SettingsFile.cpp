@@ -65,6 +65,8 @@ int removeSerialisedValues(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     const QByteArray text = file.readAll();
+    if (file.error() != QFile::NoError)
+        return -1; // what was not read would be lost
     QByteArray kept;
     int removed = 0;
     for (int start = 0, end = 0; start < text.size(); start = end) {

@@ -1,16 +1,15 @@
 #include "crypto/key/RandomBytes.h"
 
 #include "crypto/Guard.h"
-
-#include <cryptopp/osrng.h>
+#include "lib/platform/Random.h"
 
 namespace tessaly::crypto {
 
 CryptoResult randomBytes(std::size_t count, SecretBytes& bytes)
 {
-    const CryptoResult result = guarded({}, [&] {
+    const CryptoResult result = guarded({}, [&]() -> CryptoResult {
         bytes = SecretBytes(count);
-        CryptoPP::OS_GenerateRandomBlock(false, bytes.data(), bytes.size());
+        return platform::fillRandomly(bytes.data(), bytes.size());
     });
     if (!result.ok())
         bytes.clear();
