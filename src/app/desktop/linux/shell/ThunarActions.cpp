@@ -21,8 +21,8 @@ namespace thisapp::desktop {
 namespace {
 
 constexpr qint64 MaxSize = 1 << 20; ///< bytes; the user may have many actions
-constexpr QLatin1String FileName("/Thunar/uca.xml");
-constexpr QLatin1String IdKey("unique-id");
+const QLatin1String FileName("/Thunar/uca.xml");
+const QLatin1String IdKey("unique-id");
 
 /// The children of an action that tell it from another version of itself.
 using Facts = std::map<QString, QString>;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace fuzz {
+
+/// A file without a disk, for what reads by path.
+class MemoryFile
+{
+public:
+    explicit MemoryFile(std::string_view bytes);
+    ~MemoryFile();
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+
+    std::wstring path() const { return L"/proc/self/fd/" + std::to_wstring(m_handle); }
+
+private:
+    int m_handle;
+};
+
+inline std::string_view text(const unsigned char* data, std::size_t size)
+{
+    return {reinterpret_cast<const char*>(data), size};
+}
+
+} // namespace fuzz
