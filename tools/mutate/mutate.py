@@ -124,7 +124,7 @@ class Round:
                 return "wrong", "does not build"
             if not self.tests.build("tests", layers):
                 return "killed", "killed by a check when the tests are built"
-            killer = self.tests.first_failure(fault.layer, self.own_layer)
+            killer = self.tests.first_failure(fault, self.own_layer)
             if killer:
                 return "killed", f"killed by {killer}"
             return "survived", "survived its layer" if self.own_layer else "SURVIVED"

@@ -53,6 +53,7 @@ class Suite:
         self.environment = self._private_environment()
         self._run(["cmake", "-S", str(tree), "-B", str(folder), *CONFIGURE], must=True)
         self.tests = []
+        self.killers = {}  # file: names of the tests that have noticed faults in it
 
     def build(self, part, layers=()):
         """Builds the sources or the tests of these layers, or of all. False when the compiler or linker refuses."""
@@ -65,8 +66,13 @@ class Suite:
             sys.exit("mutate: the tree does not build")
         self.tests = self._learn_tests()
         wanted = {test.name: test for layer in layers for test in self._of(layer, own_layer)}
+        times = self.folder.parent / "times.json"  # of all runs in this folder
+        known = json.loads(times.read_text()) if times.exists() else {}
         for test in wanted.values():
-            self._measure(test)
+            test.seconds = known.get(test.name)
+            if test.seconds is None:
+                self._measure(test)
+        times.write_text(json.dumps(known | {test.name: test.seconds for test in self.tests if test.seconds}, indent=1))
 
     def _measure(self, test):
         """One that fails without a fault tells nothing of faults and is left out."""
@@ -78,9 +84,12 @@ class Suite:
         print(f"left out, it fails without a fault: {test.name}", flush=True)
         self.tests.remove(test)
 
-    def first_failure(self, layer, own_layer):
-        """The name of a test that fails twice, or None. Of the layer's tests, or of all others."""
-        waiting = sorted(self._of(layer, own_layer), key=lambda test: test.seconds, reverse=True)
+    def first_failure(self, fault, own_layer):
+        """The name of a test that fails twice, or None. Of the layer's tests, or of all others; those that have noticed
+        other faults in the file come first, then the quick ones."""
+        killers = self.killers.setdefault(fault.file, set())
+        waiting = sorted(self._of(fault.layer, own_layer), key=lambda test: (test.name not in killers, test.seconds))
+        waiting.reverse()
         failed, found, lock = [], threading.Event(), threading.Lock()
 
         def work():
@@ -98,6 +107,7 @@ class Suite:
             worker.start()
         for worker in workers:
             worker.join()
+        killers.update(failed)
         return failed[0] if failed else None
 
     def _of(self, layer, own):
