@@ -48,8 +48,8 @@ class Test:
 
 
 class Suite:
-    def __init__(self, tree, folder, jobs):
-        self.tree, self.folder, self.jobs = tree, folder, jobs
+    def __init__(self, tree, folder, jobs, longest):
+        self.tree, self.folder, self.jobs, self.longest = tree, folder, jobs, longest
         self.environment = self._private_environment()
         self._run(["cmake", "-S", str(tree), "-B", str(folder), *CONFIGURE], must=True)
         self.tests = []
@@ -72,6 +72,8 @@ class Suite:
             test.seconds = known.get(test.name)
             if test.seconds is None:
                 self._measure(test)
+            if test.seconds is not None and test.seconds > self.longest:
+                self.tests.remove(test)
         times.write_text(json.dumps(known | {test.name: test.seconds for test in self.tests if test.seconds}, indent=1))
 
     def _measure(self, test):
