@@ -38,6 +38,9 @@ TEST_F(Settings, StoredAtTheUsersPlace)
     EXPECT_EQ(settings.fileName(), file());
     EXPECT_EQ(settings.productId(), tessaly::QuilletProductId);
     EXPECT_NE(tessaly::AppSettings(77).fileName(), file());
+    CAppSettings::setApplicationProductId(77);
+    EXPECT_EQ(CAppSettings().fileName(), tessaly::AppSettings(77).fileName());
+    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
 
     qputenv("XDG_CONFIG_HOME", "relative");
     EXPECT_EQ(CAppSettings().fileName(), QDir::home().filePath(".config/Tessaly/Quillet.conf"));
@@ -118,6 +121,18 @@ TEST_F(Settings, WrongTypesReadAsTheDefaults)
     expectDefaultsFor<bool>({"banana", "", 2, "-1", QVariant(), list, QByteArray("\x80\x81")});
     expectDefaultsFor<std::uint32_t>({"true", "1.5", "-1", "99999999999", "", true, QVariant(), list});
     expectDefaultsFor<QString>({list, QVariant(), QVariantMap{{"a", 1}}});
+}
+
+TEST_F(Settings, YesAndNoHaveSeveralForms)
+{
+    for (const QVariant& yes : {QVariant("TRUE"), QVariant("1"), QVariant(1), QVariant(true)}) {
+        set("UseSalt", yes);
+        EXPECT_TRUE(read().useSalt) << yes.typeName();
+    }
+    for (const QVariant& no : {QVariant("False"), QVariant("0"), QVariant(0), QVariant(false)}) {
+        set("ShowConfirmDialog", no);
+        EXPECT_FALSE(read().showConfirmDialog) << no.typeName();
+    }
 }
 
 /// Such a value, read, asks for more memory than there is.
