@@ -55,7 +55,7 @@ class Behaviour(unittest.TestCase):
     def assert_files(self, *names):
         self.assertEqual(sorted(os.listdir()), sorted(("pw", "plain") + names))
 
-    def test_every_algorithm_by_password_and_by_key(self):
+    def test_lists_the_algorithms(self):
         algorithms = json.loads(self.run_cli("algorithms", "--json"))
         table = self.run_cli("algorithms").splitlines()
         self.assertEqual(table[0].split(), ["id", "name", "key", "block", "IV", "mode"])
@@ -66,6 +66,9 @@ class Behaviour(unittest.TestCase):
         self.assertEqual([[str(value) for value in row.values()] for row in algorithms],
                          [[*row, mode] for row, mode in zip(rows, modes)])
         self.assertEqual(list(algorithms[0]), ["id", "name", "keyBytes", "blockBytes", "ivBytes", "mode"])
+
+    def test_every_algorithm_by_password_and_by_key(self):
+        algorithms = json.loads(self.run_cli("algorithms", "--json"))
         for row in algorithms:
             with self.subTest(row["name"]):
                 self.write("key", os.urandom(row["keyBytes"]).hex(" "))
@@ -368,6 +371,8 @@ class Behaviour(unittest.TestCase):
             self.assertEqual(code, 0, shown)
         shown, code = self.on_terminal(["decrypt", "-o-", "plain.enc"], [(b"Password: ", secret)])
         self.assertNotIn("Making the key", shown, "the output goes there")
+        shown, code = self.on_terminal(["decrypt", "-fo", "opened", "plain.enc"], [(b"Password: ", secret)])
+        self.assertEqual((shown.count("Making the key"), code), (1, 0), "the search has made it")
         shown, code = self.on_terminal(["encrypt", "--force", "plain"],
                                        [(b"Password: ", secret), (b"Confirm password: ", b"hunter3\n")])
         self.assertIn("do not match", shown)

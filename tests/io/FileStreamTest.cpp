@@ -90,10 +90,17 @@ TEST_F(FileStream, WritingAppends)
     EXPECT_EQ(out.write("new ", 4), 4);
     folder.write("out", "replaced ");
     EXPECT_EQ(out.write("again", 5), 5);
-    EXPECT_TRUE(out.flush().ok() && out.close().ok());
+    EXPECT_TRUE(out.flush().ok());
+    {
+        const test::SystemCall interrupted("close", EINTR);
+        EXPECT_TRUE(out.close().ok());
+    }
     EXPECT_EQ(test::readFile(folder / "out"), "replaced again");
     EXPECT_EQ(out.flush(), err::library(err::StreamClosed));
     EXPECT_EQ(out.open(L""), err::library(err::NullArgument));
+    EXPECT_TRUE(out.open(folder.wide("out")).ok());
+    const test::SystemCall broken("close", EIO);
+    EXPECT_EQ(out.close(), err::system(EIO));
 }
 
 TEST_F(FileStream, AFullDiskIsAnErrorOfWriteAndOfFlush)

@@ -1,3 +1,4 @@
+#include "io/IStreamFile.h"
 #include "io/OutputFile.h"
 #include "io/PrivateFile.h"
 #include "lib/err/ErrorCodes.h"
@@ -6,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fcntl.h>
 #include <functional>
 #include <optional>
 #include <set>
@@ -266,14 +269,31 @@ TEST_P(OutputFileTest, LeavesNothingWhenItIsGivenUp)
     EXPECT_TRUE(fs::is_empty(folder / "dir")) << "the process ended in the middle of a job";
 }
 
-TEST_P(OutputFileTest, HoldsItsFolderNoLongerThanItLives)
+/// How many open files a program would get that is started now.
+std::ptrdiff_t inheritedFiles()
 {
+    const fs::directory_iterator handles("/proc/self/fd");
+    return std::count_if(handles, {}, [](const fs::directory_entry& entry) {
+        const int flags = ::fcntl(std::stoi(entry.path().filename()), F_GETFD);
+        return flags >= 0 && (flags & FD_CLOEXEC) == 0;
+    });
+}
+
+TEST_P(OutputFileTest, HoldsItsFolderNoLongerThanItLivesAndKeepsItsFilesToItself)
+{
+    const auto inheritedBefore = inheritedFiles();
     std::weak_ptr<io::FilePlace> held;
     {
         const auto place = placeOfOut();
         held = place;
+        folder.write("dir/out", "in");
+        io::IStreamFile<wchar_t> in;
+        EXPECT_TRUE(in.open(folder.wide("dir/out")).ok());
+        platform::File again;
+        EXPECT_TRUE(place->folder().openForReading("out", again).ok());
         OutputFile file(GetParam());
         EXPECT_TRUE(file.open(place, platform::Access::ownerOnly()).ok());
+        EXPECT_EQ(inheritedFiles(), inheritedBefore);
     }
     EXPECT_TRUE(held.expired());
 }

@@ -88,8 +88,10 @@ TEST_SYSTEM_CALL(ssize_t, read, (int fd, void* data, std::size_t size),
                  (fd, data, test::SystemCall::cut(size)))
 TEST_SYSTEM_CALL(ssize_t, write, (int fd, const void* data, std::size_t size),
                  (fd, data, test::SystemCall::cut(size)))
+TEST_SYSTEM_CALL(int, open, (const char* name, int flags, mode_t mode), (name, flags, mode))
 TEST_SYSTEM_CALL(int, openat, (int folder, const char* name, int flags, mode_t mode),
                  (folder, name, flags, mode))
+TEST_SYSTEM_CALL(int, close, (int fd), (fd))
 TEST_SYSTEM_CALL(off_t, lseek, (int fd, off_t offset, int whence), (fd, offset, whence))
 TEST_SYSTEM_CALL(int, fstat, (int fd, struct stat* info), (fd, info))
 TEST_SYSTEM_CALL(int, fsync, (int fd), (test::SystemCall::noted(fd)))

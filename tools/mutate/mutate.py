@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Puts small faults into the program, one at a time, and tells which of them no test notices.
 
-    tools/mutate/mutate.py [--layer L] [--only PATTERN] [--every N --from K] [--near] [--jobs N] [--build DIR]
+    tools/mutate/mutate.py [--layer L] [--only PATTERN...] [--every N --from K] [--near] [--quick S] [--jobs N]
+                           [--build DIR]
     tools/mutate/mutate.py --check
 
 The lists beside this file have the faults, one list for each layer; docs/TESTING.md tells how to write them. All is done in
@@ -124,7 +125,7 @@ class Round:
                 return "wrong", "does not build"
             if not self.tests.build("tests", layers):
                 return "killed", "killed by a check when the tests are built"
-            killer = self.tests.first_failure(fault.layer, self.own_layer)
+            killer = self.tests.first_failure(fault, self.own_layer)
             if killer:
                 return "killed", f"killed by {killer}"
             return "survived", "survived its layer" if self.own_layer else "SURVIVED"
@@ -136,7 +137,7 @@ class Round:
 
 def chosen(faults, options):
     fits = lambda fault: (options.layer in (None, fault.layer)
-                          and fnmatch.fnmatch(f"{fault.file} {fault.name}", f"*{options.only}*"))
+                          and any(fnmatch.fnmatch(f"{fault.file} {fault.name}", f"*{only}*") for only in options.only))
     faults = [fault for fault in faults if fits(fault)]
     return faults[options.start % options.every::options.every]
 
@@ -144,10 +145,12 @@ def chosen(faults, options):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--layer", help="only this list")
-    parser.add_argument("--only", default="", metavar="PATTERN", help="only faults with this in their file or name")
+    parser.add_argument("--only", nargs="+", default=[""], metavar="PATTERN",
+                        help="only faults with one of these in their file or name")
     parser.add_argument("--every", type=int, default=1, metavar="N", help="only each N-th fault")
     parser.add_argument("--from", type=int, default=0, metavar="K", dest="start", help="the first one of these, modulo N")
     parser.add_argument("--near", action="store_true", help="run the tests of the fault's own layer only")
+    parser.add_argument("--quick", type=float, default=float("inf"), metavar="S", help="run no test that takes longer, in s")
     parser.add_argument("--jobs", type=int, default=2, metavar="N", help="processes at a time")
     parser.add_argument("--check", action="store_true", help="only check that the lists fit the sources")
     parser.add_argument("--build", type=pathlib.Path, default=ROOT / "build" / "mutate", metavar="DIR")
@@ -161,7 +164,7 @@ def main():
 
     tree = options.build.resolve() / "tree"
     copy_tree(tree)
-    tests = suite.Suite(tree, options.build.resolve() / "build", options.jobs)
+    tests = suite.Suite(tree, options.build.resolve() / "build", options.jobs, options.quick)
     counts = dict.fromkeys(["killed", "survived", "wrong"], 0)
     faults = chosen(faults, options)
     equivalent = [fault for fault in faults if fault.equivalent]

@@ -24,8 +24,9 @@ class Test:
         self.seconds = None  # it took when nothing was wrong
 
     def passes(self, base_environment, give_up):
-        """Whether it passes in ten times its time; None when give_up was set first."""
-        limit = 20 + 10 * self.seconds if self.seconds is not None else 600
+        """Whether it passes in many times its time; None when give_up was set first."""
+        limit = 60 + 20 * self.seconds if self.seconds is not None else 600
+        self.ended = True
         end = time.monotonic() + limit
         process = subprocess.Popen(self.command, cwd=self.folder, env=base_environment | self.environment,
                                    stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -38,6 +39,7 @@ class Test:
                     if give_up.is_set():
                         return None
                     if time.monotonic() > end:
+                        self.ended = False
                         return False
         finally:
             try:
@@ -48,11 +50,12 @@ class Test:
 
 
 class Suite:
-    def __init__(self, tree, folder, jobs):
-        self.tree, self.folder, self.jobs = tree, folder, jobs
+    def __init__(self, tree, folder, jobs, longest):
+        self.tree, self.folder, self.jobs, self.longest = tree, folder, jobs, longest
         self.environment = self._private_environment()
         self._run(["cmake", "-S", str(tree), "-B", str(folder), *CONFIGURE], must=True)
         self.tests = []
+        self.killers = {}  # file: names of the tests that have noticed faults in it
 
     def build(self, part, layers=()):
         """Builds the sources or the tests of these layers, or of all. False when the compiler or linker refuses."""
@@ -65,8 +68,15 @@ class Suite:
             sys.exit("mutate: the tree does not build")
         self.tests = self._learn_tests()
         wanted = {test.name: test for layer in layers for test in self._of(layer, own_layer)}
+        times = self.folder.parent / "times.json"  # of all runs in this folder
+        known = json.loads(times.read_text()) if times.exists() else {}
         for test in wanted.values():
-            self._measure(test)
+            test.seconds = known.get(test.name)
+            if test.seconds is None:
+                self._measure(test)
+            if test.seconds is not None and test.seconds > self.longest:
+                self.tests.remove(test)
+        times.write_text(json.dumps(known | {test.name: test.seconds for test in self.tests if test.seconds}, indent=1))
 
     def _measure(self, test):
         """One that fails without a fault tells nothing of faults and is left out."""
@@ -78,9 +88,12 @@ class Suite:
         print(f"left out, it fails without a fault: {test.name}", flush=True)
         self.tests.remove(test)
 
-    def first_failure(self, layer, own_layer):
-        """The name of a test that fails twice, or None. Of the layer's tests, or of all others."""
-        waiting = sorted(self._of(layer, own_layer), key=lambda test: test.seconds, reverse=True)
+    def first_failure(self, fault, own_layer):
+        """The name of a test that fails twice, or None. Of the layer's tests, or of all others; those that have noticed
+        other faults in the file come first, then the quick ones."""
+        killers = self.killers.setdefault(fault.file, set())
+        waiting = sorted(self._of(fault.layer, own_layer), key=lambda test: (test.name not in killers, test.seconds))
+        waiting.reverse()
         failed, found, lock = [], threading.Event(), threading.Lock()
 
         def work():
@@ -90,7 +103,7 @@ class Suite:
                         return
                     test = waiting.pop()
                 if test.passes(self.environment, found) is False and not test.passes(self.environment, threading.Event()):
-                    failed.append(test.name)
+                    failed.append(test)
                     found.set()
 
         workers = [threading.Thread(target=work) for _ in range(self.jobs)]
@@ -98,7 +111,8 @@ class Suite:
             worker.start()
         for worker in workers:
             worker.join()
-        return failed[0] if failed else None
+        killers.update(test.name for test in failed)
+        return failed[0].name + ("" if failed[0].ended else ", which did not end") if failed else None
 
     def _of(self, layer, own):
         return [test for test in self.tests if (test.layer == (layer,)) == own]
