@@ -203,10 +203,11 @@ class Window:
         """The title has a percentage while a job runs."""
         eventually(lambda: not self.screen.find("% - "), "the job does not end")
 
-    def remove_output(self, name):
-        eventually(lambda: os.path.exists(f"{self.home}/{name}"), f"no output {name}")
+    def remove_output(self):
+        output = f"{self.home}/{self.name}.enc"
+        eventually(lambda: os.path.exists(output), f"no output {output}")
         self.await_end()
-        os.remove(f"{self.home}/{name}")
+        os.remove(output)
 
     # What is filled in where
 
@@ -263,7 +264,7 @@ class Window:
             for way in ("Escape", "Cancel", "close"):
                 dialog, title, secrets = fill()
                 self.away(way, dialog, title)
-                self.check(f"{fill.__name__} left by {way}", *secrets)
+                self.check(f"{fill.__name__.replace('_', ' ')} left by {way}", *secrets)
 
     def generate(self):
         for way in ("Return", "Escape", "close"):
@@ -274,17 +275,17 @@ class Window:
             self.check(f"generator left by {way}", *secrets)
 
     def accept(self):
-        for fill, output in ((self.encryption, ".enc"), (self.key_and_iv, ".enc")):
+        """The output's name is proposed when the window opens, and stays."""
+        for place, fill in (("encryption", self.encryption), ("key and IV", self.key_and_iv),
+                            ("decryption", lambda: self.decryption(self.right))):
             _, title, secrets = fill()
             self.away("Return", None, title)
-            self.remove_output(self.name + output)
-            self.check(f"{fill.__name__} done", *secrets)
-        for secret, output in ((self.right, ".dec"), (password(), None)):
-            _, title, secrets = self.decryption(secret)
-            self.away("Return", None, title)
-            if output:
-                self.remove_output(self.name + output)
-            self.check(f"decryption of {self.name}, {'done' if output else 'wrong password'}", *secrets)
+            self.remove_output()
+            self.check(f"{place} of {self.name} done", *secrets)
+        _, title, secrets = self.decryption()
+        self.away("Return", None, title)
+        self.await_end()
+        self.check(f"decryption of {self.name}, wrong password", *secrets)
 
     def stop(self):
         _, title, secrets = self.decryption()
