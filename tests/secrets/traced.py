@@ -1,12 +1,15 @@
 """A program whose memory can be read although it bars other processes from it: its parent traces it from its first
 instruction on, and may hold it at its last."""
 import ctypes
+import fcntl
 import os
 import re
 import signal
 import subprocess
+import termios
 
 PTRACE_TRACEME, PTRACE_CONT, PTRACE_DETACH, PTRACE_SETOPTIONS = 0, 7, 17, 0x4200
+CHUNK = 1 << 16
 EXIT_KILL, TRACE_EXIT, EVENT_EXIT = 1 << 20, 1 << 6, 6
 libc = ctypes.CDLL(None, use_errno=True)
 libc.ptrace.argtypes = [ctypes.c_long, ctypes.c_long, ctypes.c_void_p, ctypes.c_void_p]
@@ -18,8 +21,14 @@ def ptrace(request, pid, data=0):
 
 
 class Traced:
-    def __init__(self, arguments, **options):
-        self.process = subprocess.Popen(arguments, preexec_fn=lambda: libc.ptrace(PTRACE_TRACEME, 0, None, None), **options)
+    def __init__(self, arguments, terminal=None, **options):
+        """`terminal` becomes the one that it asks at."""
+        def prepare():
+            if terminal is not None:
+                os.setsid()
+                fcntl.ioctl(terminal, termios.TIOCSCTTY, 0)
+            libc.ptrace(PTRACE_TRACEME, 0, None, None)
+        self.process = subprocess.Popen(arguments, preexec_fn=prepare, **options)
         self.pid = self.process.pid
         os.waitpid(self.pid, 0)
         # Opened before the program bars others; they stay open.
@@ -80,12 +89,14 @@ class Traced:
                 yield int(first, 16), int(last, 16), permissions, name
 
     def read(self):
-        """(where, bytes) of each mapping, adjacent ones together."""
+        """(where, bytes) of each mapping; pages that nobody has touched are left out."""
         for first, last, permissions, name in self.mappings():
-            self.memory.seek(first)
-            content = b""
-            try:
-                content = self.memory.read(last - first)
-            except OSError:  # gone meanwhile
-                continue
-            yield f"{first:x} {permissions} {name}", content
+            pages = []
+            for at in range(first, last, CHUNK):
+                try:
+                    pages.append(os.pread(self.memory.fileno(), min(CHUNK, last - at), at))
+                except OSError:  # gone meanwhile
+                    break
+            content = b"".join(page for page in pages if page.count(0) < len(page))
+            if content:
+                yield f"{first:x} {permissions} {name}", content
