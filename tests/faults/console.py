@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""console.py QUILLET_CLI LIBRARY [--every N] [JOB]: lets each system call of each job fail once, in every way that it
+"""console.py QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of each job fail once, in every way that it
 can, and looks at exit code, line and files. Of the allocations each N-th."""
 
 import argparse
@@ -11,40 +11,16 @@ import resource
 import subprocess
 import sys
 
-from server import (FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, SHORT, Run, Server, Table, read, scratch, sweep, write)
+from server import CALLS, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, Run, Server, Table, read, scratch, sweep, write
 
 parser = argparse.ArgumentParser()
 parser.add_argument("cli", type=os.path.abspath)
 parser.add_argument("library", type=os.path.abspath)
 parser.add_argument("--every", type=int, default=1)
-parser.add_argument("jobs", nargs="*")
+parser.add_argument("--job", dest="jobs", action="append")
 ARGUMENTS = parser.parse_args()
 CLI, LIBRARY = ARGUMENTS.cli, ARGUMENTS.library
 OK, FAILED, WRONG = 0, 1, 3
-
-# In what ways each call may fail, and whether it may matter. A call that a signal interrupts is made again.
-CALLS = {
-    "open": {errno.EMFILE: True, errno.EACCES: True, errno.EIO: True, errno.EINTR: False},
-    "read": {errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
-    "write": {errno.ENOSPC: True, errno.EDQUOT: True, errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
-    "fsync": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
-    "close": {errno.EIO: True, errno.EINTR: False},
-    "rename": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
-    "link": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
-    "unlink": {errno.EIO: True, errno.EINTR: False},
-    "stat": {errno.EIO: True, errno.EACCES: True},
-    "lseek": {errno.EIO: True},
-    "mmap": {errno.ENOMEM: True},
-    "getrandom": {errno.EIO: True, errno.EINTR: False},
-    "pthread_create": {errno.EAGAIN: True},
-    "malloc": {errno.ENOMEM: True, FROM_THERE_ON: True},
-    "fallocate": {errno.ENOSPC: True, errno.EOPNOTSUPP: False, errno.EINTR: False},
-    "flock": {errno.ENOLCK: False, errno.EINTR: False},
-    "fchmod": {errno.EPERM: True},
-    "poll": {errno.ENOMEM: True, errno.EINTR: False},
-    "readdir": {NOTHING: False},
-    "any": {KILL_BEFORE: True, KILL_AFTER: True},
-}
 
 # No sealed file has the size of the encrypted one, so that a wrong password is not tried on one, which takes time.
 SIZE = 131090

@@ -4,6 +4,7 @@
 // and writes to the descriptor FAULTS_TO how the child ended and how many calls it made. The child's standard
 // streams are files of those names in the folder above.
 // The functions that FAULTS_WITHOUT names are not there at all: "O_TMPFILE", "exchange", "noreplace", "link".
+// With that alone the program runs as usual.
 
 #include <cerrno>
 #include <csignal>
@@ -29,7 +30,7 @@ extern "C" void* __libc_memalign(std::size_t, std::size_t);
 namespace {
 
 /// What happens at the call instead of, or beside, an error of that number.
-enum Way { Nothing = 0, Short = -1, KillBefore = -2, KillAfter = -3, FromThereOn = -4 };
+enum Way { Nothing = 0, Short = -1, KillBefore = -2, KillAfter = -3, FromThereOn = -4, Done = -5 };
 
 /// In words: "CALL AT ERROR THREADS COMMAND". The AT-th call of the group CALL ("any" is each of them) ends
 /// with the error number ERROR, or in that Way. Allocations count on all THREADS, or on the "workers" only.
@@ -43,7 +44,7 @@ struct Order
     char command[512] = "";
 };
 
-constexpr unsigned SecondsToHang = 60;
+constexpr unsigned SecondsToHang = 14; ///< before a window gives up a disk that does not answer
 
 Order order;
 bool isOn = false;
@@ -83,7 +84,13 @@ bool isDue(const char* call)
     }
     if (order.error == KillBefore)
         die();
-    return true;
+    return order.error != Done;
+}
+
+template <class Function>
+Function* next(const char* name)
+{
+    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
 bool isWithout(const char* function)
@@ -114,10 +121,20 @@ auto failing(const char* name, Call real) -> decltype(real())
     return order.error == Nothing ? 0 : -1;
 }
 
+/// A thread of the toolkit wakes another one up by such a file.
+bool isEvent(int fd)
+{
+    static auto* const real = next<int(int, struct stat*)>("fstat");
+    struct stat info = {};
+    return real(fd, &info) == 0 && (info.st_mode & S_IFMT) == 0;
+}
+
 /// One that moves bytes, and may move only some of them.
 template <class Call>
-ssize_t moving(const char* name, std::size_t size, Call real)
+ssize_t moving(const char* name, int fd, std::size_t size, Call real)
 {
+    if (isOn && isEvent(fd))
+        return real(size);
     if (order.error != Short)
         return failing(name, [&] { return real(size); });
     return real(isDue(name) && size > 1 ? size / 2 : size);
@@ -131,12 +148,6 @@ auto allocating(const char* name, Call real) -> decltype(real())
         return real();
     errno = dueError();
     return nullptr;
-}
-
-template <class Function>
-Function* next(const char* name)
-{
-    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
 bool readOrder(std::FILE* from)
@@ -193,7 +204,9 @@ void serve()
 
 int servingMain(int argc, char** argv, char** environment)
 {
-    if (std::getenv("FAULTS_FROM") != nullptr && std::getenv("FAULTS_LATER") == nullptr)
+    if (std::getenv("FAULTS_FROM") == nullptr)
+        isOn = true;
+    else if (std::getenv("FAULTS_LATER") == nullptr)
         serve();
     const int code = programMain(argc, argv, environment);
     isOn = false;
@@ -268,13 +281,13 @@ extern "C" ssize_t read(int fd, void* data, std::size_t size)
     static auto* const real = next<ssize_t(int, void*, std::size_t)>("read");
     if (order.error == Nothing && fd == STDIN_FILENO) // the end of what comes, as it may be at any place
         return real(fd, data, size);
-    return moving("read", size, [&](std::size_t some) { return real(fd, data, some); });
+    return moving("read", fd, size, [&](std::size_t some) { return real(fd, data, some); });
 }
 
 extern "C" ssize_t write(int fd, const void* data, std::size_t size)
 {
     static auto* const real = next<ssize_t(int, const void*, std::size_t)>("write");
-    return moving("write", size, [&](std::size_t some) { return real(fd, data, some); });
+    return moving("write", fd, size, [&](std::size_t some) { return real(fd, data, some); });
 }
 
 extern "C" int linkat(int from, const char* source, int to, const char* target, int flags)

@@ -1,4 +1,4 @@
-"""Runs a program again and again by the preloaded library of failing_calls.cpp, with one call failing in each
+"""CALLS: what may fail. Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one call failing in each
 run, and counts runs and complaints in a table of jobs and calls."""
 
 import collections
@@ -8,9 +8,33 @@ import subprocess
 import tempfile
 
 # What may happen at a call: an error, or one of these, which are those of failing_calls.cpp.
-NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON = 0, -1, -2, -3, -4
+NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON, DONE = 0, -1, -2, -3, -4, -5
 WAYS = {NOTHING: "nothing done", SHORT: "half done", KILL_BEFORE: "killed before", KILL_AFTER: "killed after",
-        FROM_THERE_ON: "no memory from there on", **errno.errorcode}
+        FROM_THERE_ON: "no memory from there on", DONE: "done", **errno.errorcode}
+
+# In what ways each call may fail, and whether it may matter. A call that a signal interrupts is made again.
+CALLS = {
+    "open": {errno.EMFILE: True, errno.EACCES: True, errno.EIO: True, errno.EINTR: False},
+    "read": {errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
+    "write": {errno.ENOSPC: True, errno.EDQUOT: True, errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
+    "fsync": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
+    "close": {errno.EIO: True, errno.EINTR: False},
+    "rename": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
+    "link": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
+    "unlink": {errno.EIO: True, errno.EINTR: False},
+    "stat": {errno.EIO: True, errno.EACCES: True},
+    "lseek": {errno.EIO: True},
+    "mmap": {errno.ENOMEM: True},
+    "getrandom": {errno.EIO: True, errno.EINTR: False},
+    "pthread_create": {errno.EAGAIN: True},
+    "malloc": {errno.ENOMEM: True, FROM_THERE_ON: True},
+    "fallocate": {errno.ENOSPC: True, errno.EOPNOTSUPP: False, errno.EINTR: False},
+    "flock": {errno.ENOLCK: False, errno.EINTR: False},
+    "fchmod": {errno.EPERM: True},
+    "poll": {errno.ENOMEM: True, errno.EINTR: False},
+    "readdir": {NOTHING: False},
+    "any": {KILL_BEFORE: True, KILL_AFTER: True},
+}
 
 Run = collections.namedtuple("Run", "status calls told out")
 

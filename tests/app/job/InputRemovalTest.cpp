@@ -90,7 +90,7 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         c.happens(folder, data);
         const InputRemoval removal = removeInput(data);
         EXPECT_EQ(removal.kept, c.kept);
-        EXPECT_EQ(removal.removed(), !c.kept);
+        EXPECT_EQ(removal.removed, !c.kept);
         EXPECT_EQ(fs::exists(folder / "in"), c.kept.has_value());
     }
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""kill_loop.py QUILLET QUILLET_CLI [ROUNDS]: ends both programs at random moments of encryptions and
+"""kills.py QUILLET QUILLET_CLI [ROUNDS [BYTES]]: ends both programs at random moments of encryptions and
 decryptions, with and without a former output, in every way in which a program can end before its time,
 and counts what is left that should not be, or is gone that should be there. Needs Xvfb, xdotool, xkill."""
 
@@ -13,20 +13,12 @@ import sys
 import tempfile
 import time
 
+from server import read, write
+
 QUILLET, CLI = map(os.path.abspath, sys.argv[1:3])
 ROUNDS = int(sys.argv[3]) if len(sys.argv) > 3 else 200
-SIZE = 150_000_000
+SIZE = int(sys.argv[4]) if len(sys.argv) > 4 else 150_000_000
 PASSWORD = "secret"
-
-
-def read(name):
-    with open(name, "rb") as file:
-        return file.read()
-
-
-def write(name, data):
-    with open(name, "wb") as file:
-        file.write(data)
 
 
 class Display:
