@@ -129,6 +129,9 @@ TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
         {"UseSalt=x, \"@" + list + "\"", 1},
         {"UseSalt=\\x10040" + list, 1},
         {"UseSalt=\\100Var\\\r\n" + list.mid(3), 1},
+        {"UseSalt=@\\qVariant" + list.mid(7), 1},
+        {"UseSalt=@\\xVariant" + list.mid(7), 1},
+        {"UseSalt=@\\\n\r" + list, 1},
         {"EncFileNameSuffix=@DateTime(\\0\\0\\0\\x10)\nUseSalt=@" + list, 2},
         {"EncFileNameSuffix=@@x)", 0},
     };
