@@ -64,10 +64,17 @@ QByteArray plain(const QByteArray& line)
     return text;
 }
 
+/// Only what a value, or one of a list, begins with is an object to the reader; elsewhere it is the user's
+/// text.
 bool holdsSerialisedValue(const QByteArray& line)
 {
+    const QByteArray before = "=, \t\v\f\r\n";
     const QByteArray text = plain(line);
-    return text.contains("@Variant(") || text.contains("@DateTime(");
+    for (const char* object : {"@Variant(", "@DateTime("})
+        for (int at = text.indexOf(object); at >= 0; at = text.indexOf(object, at + 1))
+            if (at == 0 || before.contains(text[at - 1]))
+                return true;
+    return false;
 }
 
 } // namespace
