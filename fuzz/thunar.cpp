@@ -28,7 +28,7 @@ bool mayHoldOurs(const std::string& xml)
         else
             letters += xml[at];
     }
-    return letters.find("quillet-") != std::string::npos || xml.find('&') != std::string::npos ||
+    return letters.find("quillet-") != std::string::npos || xml.find("&#") != std::string::npos ||
            xml.find("<!") != std::string::npos;
 }
 

@@ -42,11 +42,13 @@ Bytes checkValue(std::uint32_t id, std::uint64_t length)
     return {digest.begin(), digest.end()};
 }
 
+/// Most often short, as the chunks are; sometimes more than a piece of a sealed file, or so much that helpers
+/// work on it.
 std::size_t chooseLength(Choices& choices)
 {
-    if (choices.seldom(32))
-        return choices.upTo<std::size_t>(700'000);
-    return choices.upTo<std::size_t>(choices.seldom(4) ? 70'000 : 300);
+    if (choices.seldom(100))
+        return choices.upTo<std::size_t>(500'000);
+    return choices.upTo<std::size_t>(choices.seldom(10) ? 150'000 : 300);
 }
 
 } // namespace
