@@ -2,7 +2,7 @@
 # run.sh [--ci | --minimize] [SECONDS] [NAME...]: builds the fuzzers and runs each so long (600 s unless told),
 # two at a time, from the stored corpus and what earlier runs have found beyond it; prints a table, and fails on a
 # finding. --ci takes 20 seconds and the stored corpus alone. --minimize runs nothing: it makes the stored corpora
-# anew, of the fewest inputs that reach what all known ones reach. Needs Debian's packages in
+# anew, of few inputs that reach what all known ones reach. Needs Debian's packages in
 # packaging/packages-build.txt and packages-ci.txt.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -66,12 +66,14 @@ report() {
   printf '%-12s %12s  %-20s %s\n' "$1" "${executions:-0}" "${corpus#corp: }" "$findings"
 }
 
+# Of the small inputs alone: the repository shall stay small, too. Those with a name of their own stay.
 minimize() {
-  local made=$scratch/minimized
-  rm -rf "$made" && mkdir -p "$made" "$out/corpus/$1" "fuzz/corpus/$1"
-  nice build/fuzz/bin/"fuzz_$1" $limits -merge=1 "$made" "fuzz/corpus/$1" "$out/corpus/$1" >"$out/$1.log" 2>&1
-  find "fuzz/corpus/$1" -type f ! -name 'found-*' -delete
-  find "$made" -type f -exec cp -n -t "fuzz/corpus/$1" {} +
+  local made=$scratch/made small=$scratch/small
+  rm -rf "$made" "$small" && mkdir -p "$made" "$small" "$out/corpus/$1" "fuzz/corpus/$1"
+  find "$out/corpus/$1" "fuzz/corpus/$1" -type f -size -1500c -exec cp -t "$small" {} +
+  nice build/fuzz/bin/"fuzz_$1" $limits -merge=1 "$made" "$small" >"$out/$1.log" 2>&1
+  find "fuzz/corpus/$1" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' -delete
+  find "$made" -type f -exec cp -t "fuzz/corpus/$1" {} +
   printf '%-12s %s\n' "$1" "$(find "fuzz/corpus/$1" -type f | wc -l) files, $(du -bs "fuzz/corpus/$1" | cut -f1) bytes"
 }
 export -f fuzz report
