@@ -31,9 +31,9 @@ scratch=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo /tmp)/quillet-fu
 trap 'rm -rf "$scratch"' EXIT
 export out mode seconds TMPDIR=$scratch LC_ALL=C.UTF-8 QT_LOGGING_RULES='*=false'
 
-# A few times what any input needs: memory in MiB, seconds for one input. Leaks are looked for at the end: after
+# A few times what any input needs, on a busy machine, too: memory in MiB, seconds for one input. Leaks are looked for at the end: after
 # each input that takes most of the time, as Qt keeps what it has read.
-limits='-detect_leaks=0 -rss_limit_mb=1024 -malloc_limit_mb=64 -timeout=10 -max_len=4096'
+limits='-detect_leaks=0 -rss_limit_mb=1024 -malloc_limit_mb=64 -timeout=60 -report_slow_units=60 -max_len=4096'
 export limits
 
 fuzz() {
