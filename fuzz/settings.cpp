@@ -9,9 +9,9 @@
 #include "common/settings/TextRules.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "fuzz/support/AllocationWatch.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
 #include "fuzz/support/TempFolder.h"
+#include "fuzz/support/Text.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/logger/Level.h"
 

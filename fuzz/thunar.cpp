@@ -2,9 +2,9 @@
 // letter.
 
 #include "app/desktop/linux/shell/ThunarActions.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
 #include "fuzz/support/TempFolder.h"
+#include "fuzz/support/Text.h"
 
 #include <algorithm>
 #include <cstdint>
