@@ -3,8 +3,8 @@
 
 #include "cli/CommandLine.h"
 #include "crypto/catalogue/Catalogue.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
+#include "fuzz/support/Text.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -68,13 +68,8 @@ void checkSense(const Arguments& arguments)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    std::vector<std::string> words;
-    for (std::string_view rest = text(data, size); !rest.empty();) {
-        const std::size_t end = std::min(rest.find('\0'), rest.size());
-        words.emplace_back(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    const ParseOutcome outcome = parse(words);
+    const std::vector<std::string> arguments = words(text(data, size));
+    const ParseOutcome outcome = parse(arguments);
     require(outcome.arguments.has_value() + !outcome.answer.empty() + !outcome.problem.empty() == 1,
             "one of the three");
     if (!outcome.arguments)

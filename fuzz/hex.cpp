@@ -4,9 +4,9 @@
 #include "common/secret/KeyFile.h"
 #include "common/secret/PasswordRules.h"
 #include "fuzz/support/Choices.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/RawCipher.h"
 #include "fuzz/support/Require.h"
+#include "fuzz/support/Text.h"
 #include "ui/password/HexCheck.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // The list of languages and the manager above it: entries of any kind, and no file outside the list's folder
 // is ever read.
 
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
 #include "fuzz/support/TempFolder.h"
+#include "fuzz/support/Text.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/i18n/list/TranslationListLoaderXml.h"

@@ -3,8 +3,8 @@
 
 #include "common/path/PathText.h"
 #include "common/path/UrlPath.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
+#include "fuzz/support/Text.h"
 #include "lib/platform/Path.h"
 
 #include <cstdint>

@@ -2,6 +2,7 @@
 
 #include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
+#include "fuzz/support/Text.h"
 #include "lib/file/PropertiesFileReader.h"
 
 #include <cstdint>

@@ -103,68 +103,98 @@ Expected expect(const RawCipher& cipher, const FileJobRequest& request, const IS
     return expected;
 }
 
+/// What the harness knows of the file that it made.
+struct Sealed
+{
+    const RawCipher& cipher;
+    std::unique_ptr<ISymmetricDecryptor> own;
+    FileJobRequest request;
+    Forgery forgery;
+    Bytes whole; ///< as it was made
+    Bytes file;  ///< as it is now
+};
+
+Sealed makeSealed(Choices& choices)
+{
+    const RawCipher& cipher = choices.oneOf(rawCiphers());
+    const bool byPassword = choices.seldom(8); // all algorithms are then tried, which takes its time
+    Sealed made{cipher, decryptorOf(cipher.id), requestFor(cipher, byPassword), {}, {}, {}};
+    const Bytes salt = choices.noise(SaltBytes);
+    const SealedKeys keys = keysOf(made.request, *made.own, salt);
+    made.forgery = forge(choices, cipher);
+    const Bytes inner = processed(cipher.encryption, keys.cipherKey, keys.iv, made.forgery.plaintext);
+    made.file = made.whole = sealInnerFile(salt, keys.tagKey, inner);
+    if (choices.seldom(4))
+        checkWriter(keys, salt, inner, made.whole, 1 + choices.upTo<std::size_t>(100'000));
+    if (choices.seldom(3)) {
+        const SealedKeys others = keysOf(made.request, *made.own, Bytes(SaltBytes));
+        shuffle(choices, made.file, sealInnerFile(salt, others.tagKey, inner));
+    }
+    damage(choices, made.file);
+    return made;
+}
+
+void checkBytes(const Sealed& made, const Expected& expected, const Bytes& written)
+{
+    const Bytes& right = made.forgery.isHonest ? made.forgery.data : expected.reading.data;
+    if (made.forgery.isHonest || expected.reading.result.ok())
+        require(written.size() <= right.size() &&
+                    std::ranges::equal(written, std::span(right).first(written.size())),
+                "nothing wrong is written");
+}
+
+void checkOther(const Sealed& made, const Expected& expected, const FileJobOutcome& outcome,
+                const Bytes& written)
+{
+    require(outcome.result.ok() == made.file.empty() && written.empty(), "another algorithm opens nothing");
+    require(outcome.fittingAlgorithm ==
+                (expected.fitsFirstPiece ? std::optional(made.cipher.id) : std::nullopt),
+            "the right algorithm is found by the first piece");
+}
+
+void checkOwn(const Sealed& made, const Expected& expected, const FileJobOutcome& outcome,
+              const Bytes& written)
+{
+    require(!outcome.done() || !made.forgery.isHonest || made.file == made.whole || made.file.empty(),
+            "a changed file never passes");
+    if (!expected.isExact)
+        return;
+    require(outcome.result == expected.reading.result, "the result is that of the second reader");
+    if (outcome.done())
+        require(written == expected.reading.data && outcome.sealed == !made.file.empty(),
+                "the data are those of the second reader");
+    else
+        require(written.size() <= expected.mostBytes, "nothing behind a wrong tag is written");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     Choices choices(data, size);
-    const RawCipher& cipher = choices.oneOf(rawCiphers());
-    const bool byPassword = choices.seldom(4);
-    FileJobRequest request = requestFor(cipher, byPassword);
-    const auto own = decryptorOf(cipher.id);
+    Sealed made = makeSealed(choices);
+    const Expected expected = expect(made.cipher, made.request, *made.own, made.file, made.forgery.isHonest);
 
-    const Bytes salt = choices.noise(SaltBytes);
-    const SealedKeys keys = keysOf(request, *own, salt);
-    const Forgery forgery = forge(choices, cipher);
-    const Bytes inner = processed(cipher.encryption, keys.cipherKey, keys.iv, forgery.plaintext);
-    const Bytes whole = sealInnerFile(salt, keys.tagKey, inner);
-    if (choices.seldom(4))
-        checkWriter(keys, salt, inner, whole, 1 + choices.upTo<std::size_t>(100'000));
-    Bytes file = whole;
-    if (choices.seldom(3))
-        shuffle(choices, file, sealInnerFile(salt, keysOf(request, *own, Bytes(SaltBytes)).tagKey, inner));
-    damage(choices, file);
-
-    const Expected expected = expect(cipher, request, *own, file, forgery.isHonest);
-    const bool isOther = byPassword && choices.seldom(4);
-    const std::uint32_t otherId = cipher.id == DefaultAlgorithmId ? 452 : DefaultAlgorithmId;
-    const auto decryptor = decryptorOf(isOther ? otherId : cipher.id);
-    ByteSource in(choices, file);
-    ByteSink out(StreamFault::choose(choices, file.size()));
-    out.bytes.reserve(file.size());
-    request.source = &in;
-    request.sink = &out;
+    const bool isOther = made.request.passwordMode && choices.seldom(4);
+    const std::uint32_t otherId = made.cipher.id == DefaultAlgorithmId ? 452 : DefaultAlgorithmId;
+    const auto decryptor = decryptorOf(isOther ? otherId : made.cipher.id);
+    ByteSource in(choices, made.file);
+    ByteSink out(StreamFault::choose(choices, made.file.size()));
+    out.bytes.reserve(made.file.size());
+    made.request.source = &in;
+    made.request.sink = &out;
     SilentJob observer;
     const AllocationWatch memory;
-    const FileJobOutcome outcome = runFileJob(*decryptor, request, observer);
-    require(memory.peak() <= 8 * file.size() + (2 << 20), "memory in proportion to the file");
+    const FileJobOutcome outcome = runFileJob(*decryptor, made.request, observer);
+    require(memory.peak() <= 8 * made.file.size() + (2 << 20), "memory in proportion to the file");
 
-    const Bytes& right = forgery.isHonest ? forgery.data : expected.reading.data;
-    if (forgery.isHonest || expected.reading.result.ok())
-        require(out.bytes.size() <= right.size() &&
-                    std::ranges::equal(out.bytes, std::span(right).first(out.bytes.size())),
-                "nothing wrong is written");
-    if (in.hasFailed() || out.hasFailed()) {
-        require(!outcome.done(), "a failed stream is told");
-        return 0;
-    }
+    checkBytes(made, expected, out.bytes);
     require(!outcome.cancelled, "nobody stopped it");
-    if (isOther) {
-        require(outcome.result.ok() == file.empty() && out.bytes.empty(), "another algorithm opens nothing");
-        require(outcome.fittingAlgorithm ==
-                    (expected.fitsFirstPiece ? std::optional(cipher.id) : std::nullopt),
-                "the right algorithm is found by the first piece");
-        return 0;
-    }
-    require(!outcome.done() || !forgery.isHonest || file == whole || file.empty(),
-            "a changed file never passes");
-    if (!expected.isExact)
-        return 0;
-    require(outcome.result == expected.reading.result, "the result is that of the second reader");
-    if (outcome.done())
-        require(out.bytes == expected.reading.data && outcome.sealed == !file.empty(),
-                "the data are those of the second reader");
+    if (in.hasFailed() || out.hasFailed())
+        require(!outcome.done(), "a failed stream is told");
+    else if (isOther)
+        checkOther(made, expected, outcome, out.bytes);
     else
-        require(out.bytes.size() <= expected.mostBytes, "nothing behind a wrong tag is written");
+        checkOwn(made, expected, outcome, out.bytes);
     return 0;
 }

@@ -9,9 +9,9 @@
 #include "common/settings/TextRules.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "fuzz/support/AllocationWatch.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
 #include "fuzz/support/TempFolder.h"
+#include "fuzz/support/Text.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/logger/Level.h"
 
@@ -99,6 +99,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(memory.peak() <= 256 * size + (1 << 20), "memory in proportion to the file");
     }
     checkOptions(options);
+    // A name part that the user typed may look like anything.
+    if (const QString typed =
+            QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<int>(size)).right(40);
+        isNamePart(typed) && QString::fromUtf8(typed.toUtf8()) == typed)
+        options.encFileNamePrefix = typed;
     checkWriting(options);
     std::filesystem::remove_all(folder.path() / profile);
     return 0;

@@ -2,10 +2,11 @@
 // letter.
 
 #include "app/desktop/linux/shell/ThunarActions.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
 #include "fuzz/support/TempFolder.h"
+#include "fuzz/support/Text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -16,6 +17,20 @@ namespace {
 
 constexpr const char* File = "config/Thunar/uca.xml";
 const std::string Program = "/opt/it's 100% <free>/quillet";
+
+/// Whether one of the actions may be taken for ours: what stands in an element, however it is written.
+bool mayHoldOurs(const std::string& xml)
+{
+    std::string letters;
+    for (std::size_t at = 0; at < xml.size(); ++at) {
+        if (xml[at] == '<')
+            at = std::min(xml.find('>', at), xml.size());
+        else
+            letters += xml[at];
+    }
+    return letters.find("quillet-") != std::string::npos || xml.find("&#") != std::string::npos ||
+           xml.find("<!") != std::string::npos;
+}
 
 } // namespace
 
@@ -39,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(actions.remove(), "they can be taken away");
     require(actions.program().empty(), "all of them");
     const std::string after = folder.read(File);
-    if (before.find("quillet-") == std::string::npos && before.find('&') == std::string::npos)
+    if (!mayHoldOurs(before))
         require(after.empty() || after == before, "what remains is what there was");
     std::filesystem::remove_all(folder.path() / "config");
     return 0;

@@ -3,6 +3,7 @@
 
 #include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
+#include "fuzz/support/Text.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/file/IVariablesSetter.h"
 #include "lib/i18n/StrBundleTrMgr.h"

@@ -4,8 +4,8 @@
 #include "app/commandline/Arguments.h"
 #include "app/commandline/CommandLine.h"
 #include "crypto/catalogue/Catalogue.h"
-#include "fuzz/support/MemoryFile.h"
 #include "fuzz/support/Require.h"
+#include "fuzz/support/Text.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -77,17 +77,12 @@ void checkRule(const QStringList& arguments, SlashRule rule)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    std::vector<std::string> words;
-    for (std::string_view rest = text(data, size); !rest.empty();) {
-        const std::size_t end = std::min(rest.find('\0'), rest.size());
-        words.emplace_back(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
+    const std::vector<std::string> given = words(text(data, size));
     std::vector<const char*> raw;
-    for (const std::string& word : words)
+    for (const std::string& word : given)
         raw.push_back(word.c_str());
     const QStringList arguments = argumentTexts(raw);
-    require(arguments.size() == static_cast<int>(words.size()), "as many texts as arguments");
+    require(arguments.size() == static_cast<int>(given.size()), "as many texts as arguments");
     checkRule(arguments, SlashRule::AnyWord);
     checkRule(arguments, SlashRule::KnownWord);
     return 0;

@@ -20,9 +20,4 @@ private:
     int m_handle;
 };
 
-inline std::string_view text(const unsigned char* data, std::size_t size)
-{
-    return {reinterpret_cast<const char*>(data), size};
-}
-
 } // namespace fuzz

@@ -42,11 +42,15 @@ Bytes checkValue(std::uint32_t id, std::uint64_t length)
     return {digest.begin(), digest.end()};
 }
 
+/// Most often short, as the chunks are; sometimes around the end of a piece of a sealed file, or so much that
+/// helpers work on it.
 std::size_t chooseLength(Choices& choices)
 {
-    if (choices.seldom(32))
-        return choices.upTo<std::size_t>(700'000);
-    return choices.upTo<std::size_t>(choices.seldom(4) ? 70'000 : 300);
+    constexpr std::size_t PieceBytes = 65536;
+    if (choices.seldom(100))
+        return choices.upTo<std::size_t>(500'000);
+    const std::size_t pieces = choices.seldom(8) ? choices.upTo(3U) : 0;
+    return pieces * PieceBytes + choices.upTo<std::size_t>(300) - (pieces == 0 ? 0 : 150);
 }
 
 } // namespace

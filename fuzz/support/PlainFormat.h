@@ -16,8 +16,7 @@ struct Forgery
     Bytes plaintext;       ///< header, data and zeros to whole blocks
 };
 
-/// A header that tells the truth most often; else another length, another algorithm, changed bytes. The
-/// data are long now and then, so that helpers work on them.
+/// A header that tells the truth most often; else another length, another algorithm, changed bytes.
 Forgery forge(Choices& choices, const RawCipher& cipher);
 
 struct Reading

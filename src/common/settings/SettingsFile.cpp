@@ -19,42 +19,62 @@ int endOfLine(const QByteArray& text, int start)
     return text.size();
 }
 
-/// Takes the digits of a numeric escape off; '?' for a character beyond ASCII.
-char takeNumber(const QByteArray& line, int& i, int base)
+/// Takes the digits of a numeric escape off and appends their character; '?' for one beyond ASCII. Without
+/// digits it is none.
+void takeNumber(const QByteArray& line, int& i, int base, QByteArray& text)
 {
     const QByteArray digits = QByteArray("0123456789abcdefABCDEF").left(base == 8 ? 8 : 22);
     const int start = i;
     while (i < line.size() && digits.contains(line[i]))
         ++i;
+    if (i == start)
+        return;
     // The reader keeps 16 bits.
     const unsigned code = line.mid(start, i - start).right(base == 8 ? 6 : 4).toUInt(nullptr, base) & 0xFFFFU;
-    return code < 0x80 ? static_cast<char>(code) : '?';
+    text += code < 0x80 ? static_cast<char>(code) : '?';
 }
 
-/// The line without its quotes and continuations, its escapes resolved.
-QByteArray plain(QByteArray line)
+bool isLineEnd(char c)
 {
-    line.replace("\r\n", "\n");
+    return c == '\n' || c == '\r';
+}
+
+/// The line without its quotes and continuations, its numeric escapes resolved. All other escapes are
+/// dropped: the reader drops those that it doesn't know, and the others are no part of what is looked for.
+QByteArray plain(const QByteArray& line)
+{
     QByteArray text;
     for (int i = 0; i < line.size();) {
         const char c = line[i++];
-        const char next = i < line.size() ? line[i] : '\n';
         if (c != '\\' && c != '"')
             text += c;
-        else if (c == '\\' && next == 'x')
-            text += takeNumber(line, ++i, 16);
-        else if (c == '\\' && next >= '0' && next <= '7')
-            text += takeNumber(line, i, 8);
-        else if (c == '\\' && ++i > 0 && next != '\n' && next != '\r')
-            text += next;
+        if (c != '\\' || i == line.size())
+            continue;
+        const char next = line[i];
+        if (next >= '0' && next <= '7') {
+            takeNumber(line, i, 8, text);
+            continue;
+        }
+        ++i;
+        if (next == 'x')
+            takeNumber(line, i, 16, text);
+        else if (isLineEnd(next) && i < line.size() && isLineEnd(line[i]) && line[i] != next)
+            ++i;
     }
     return text;
 }
 
+/// Only what a value, or one of a list, begins with is an object to the reader; elsewhere it is the user's
+/// text.
 bool holdsSerialisedValue(const QByteArray& line)
 {
+    const QByteArray before = "=, \t\v\f\r\n";
     const QByteArray text = plain(line);
-    return text.contains("@Variant(") || text.contains("@DateTime(");
+    for (const char* object : {"@Variant(", "@DateTime("})
+        for (int at = text.indexOf(object); at >= 0; at = text.indexOf(object, at + 1))
+            if (at == 0 || before.contains(text[at - 1]))
+                return true;
+    return false;
 }
 
 } // namespace

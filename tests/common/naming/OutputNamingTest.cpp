@@ -31,6 +31,7 @@ TEST(OutputNaming, Extensions)
                            {".bashrc", ".bashrc.enc"},
                            {".enc", ".dec"},
                            {"report.", "report.enc"},
+                           {":report", ":report.enc"},
                            {"#1 50% ü 日本.txt", "#1 50% ü 日本.txt.enc"}});
     settings.encryption.addExt = settings.decryption.addExt = false;
     expectNames(settings, {{"report.txt", "report.txt"},

@@ -169,8 +169,12 @@ TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
         {"UseSalt=x, \"@" + list + "\"", 1},
         {"UseSalt=\\x10040" + list, 1},
         {"UseSalt=\\100Var\\\r\n" + list.mid(3), 1},
+        {"UseSalt=@\\qVariant" + list.mid(7), 1},
+        {"UseSalt=@\\xVariant" + list.mid(7), 1},
+        {"UseSalt=@\\\n\r" + list, 1},
         {"EncFileNameSuffix=@DateTime(\\0\\0\\0\\x10)\nUseSalt=@" + list, 2},
         {"EncFileNameSuffix=@@x)", 0},
+        {"EncFileNameSuffix=@@Variant(x)", 0},
     };
     for (const auto& [lines, count] : rows) {
         ASSERT_TRUE(QDir().mkpath(QFileInfo(file()).path()));
@@ -182,7 +186,7 @@ TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
         SAppOptions expected;
         expected.logLevel = 5;
         expected.rewriteOutputFile = true;
-        expected.encFileNameSuffix = count == 0 ? "@x)" : "";
+        expected.encFileNameSuffix = count > 0 ? "" : lines.endsWith("@@x)") ? "@x)" : "@Variant(x)";
         EXPECT_EQ(read(), expected) << lines.toStdString();
     }
 }
