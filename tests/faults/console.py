@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""console.py QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of each job fail once, in every way that it
-can, and looks at exit code, line and files. Of the allocations each N-th."""
+"""console.py QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of each job fail once, in every
+way that it can, and looks at exit code, line and files. Of the allocations each N-th."""
 
 import argparse
 import collections
@@ -11,7 +11,8 @@ import resource
 import subprocess
 import sys
 
-from server import CALLS, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, Run, Server, Table, read, scratch, sweep, write
+from server import (CALLS, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, Run, Server, Table, read, scratch, sweep,
+                    write)
 
 parser = argparse.ArgumentParser()
 parser.add_argument("cli", type=os.path.abspath)

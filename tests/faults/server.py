@@ -1,5 +1,5 @@
-"""CALLS: what may fail. Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one call failing in each
-run, and counts runs and complaints in a table of jobs and calls."""
+"""CALLS: what may fail. Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one
+call failing in each run, and counts runs and complaints in a table of jobs and calls."""
 
 import collections
 import errno

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""window.py WINDOW_JOB QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of the window's jobs fail once, in
-every way that it can, from the password on, with the deletion of encrypted inputs on, and looks at what the window says
-and at the files. Of the allocations each N-th; on the window's own thread, where the toolkit makes most of them and
-does not survive all, each 20 N-th, and only the files count. With N above 1, two ways of each call."""
+"""window.py WINDOW_JOB QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of the window's jobs
+fail once, in every way that it can, from the password on, with the deletion of encrypted inputs on, and looks at what
+the window says and at the files. Of the allocations each N-th; on the window's own thread, where the toolkit makes
+most of them and does not survive all, each 20 N-th, and only the files count. With N above 1, two ways of each
+call."""
 
 import argparse
 import collections
@@ -10,7 +11,8 @@ import errno
 import os
 import sys
 
-from server import CALLS, DONE, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, Server, Table, read, scratch, sweep, write
+from server import (CALLS, DONE, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, Server, Table, read, scratch, sweep,
+                    write)
 
 parser = argparse.ArgumentParser()
 parser.add_argument("window_job", type=os.path.abspath)
