@@ -24,15 +24,16 @@ TEST(ProgressTest, SaysEachTimeInTheUnitsThatItNeeds)
 TEST(ProgressTest, JoinsWhatIsKnown)
 {
     ProgressTracker progress;
+    progress.reset(100 * MiB, 5000);
     progress.reset(100 * MiB, 0);
     EXPECT_EQ(progressText(Operation::Decrypt, JobPhase::Processing, progress).toStdString(),
               "Decrypting. 0.000% processed");
-    progress.update(25 * MiB, 500);
+    progress.update(24 * MiB, 500);
     EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Processing, progress).toStdString(),
-              "Encrypting. 25.000% processed. Remaining time: 2 seconds");
+              "Encrypting. 24.000% processed. Remaining time: 2 seconds");
     progress.update(50 * MiB, 1000);
     EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Processing, progress).toStdString(),
-              "Encrypting at 50.0 MiB/s. 50.000% processed. Remaining time: 1 seconds");
+              "Encrypting at 48.6 MiB/s. 50.000% processed. Remaining time: 2 seconds");
     progress.update(100 * MiB, 2000);
     EXPECT_EQ(progressText(Operation::Encrypt, JobPhase::Flushing, progress).toStdString(),
               "Waiting until the disk has stored the file. 100.000% processed");
