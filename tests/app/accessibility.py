@@ -2,17 +2,24 @@
 """accessibility.py QUILLET: walks the main window and every dialog of the program as a screen reader does, and
 prints each control with its role, name and actions. Fails on a control without a name, or without an action
 where its role has one, and on a dialog that doesn't come. Runs on an X server and a bus of its own."""
+import importlib.util
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
 import time
 
-PATIENCE = 20  # seconds, for a loaded machine
+PATIENCE = 60  # seconds, for a loaded machine
 
 if "QUILLET_WALK" not in os.environ:
+    missing = [name for name in ("xvfb-run", "dbus-run-session", "xdotool") if not shutil.which(name)]
+    missing += [name for name in ("gi", "pyatspi") if not importlib.util.find_spec(name)]
+    if missing:
+        print("not here:", *missing)
+        sys.exit(77)
     sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
-                             sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=120).returncode)
+                             sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=500).returncode)
 
 from gi.repository import GLib  # noqa: E402
 import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
@@ -190,8 +197,11 @@ def opened(application, opener, before):
 
 
 def encrypt(walk, main):
-    """Leaves the window with a result. What is typed into a masked field is nothing to tell on the bus."""
-    told = []
+    """Leaves the window with a result, which is announced. What is typed into a masked field is nothing to tell on the
+    bus."""
+    told, announced = [], []
+    pyatspi.Registry.registerEventListener(lambda event: announced.append(event.source and event.source.name),
+                                           "object:state-changed:showing")
     pyatspi.Registry.registerEventListener(lambda event: told.append(event.any_data), "object:text-changed:insert")
     dialog = opened(walk.application, button(main, "Encrypt"), [main])
     for field in find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
@@ -203,6 +213,10 @@ def encrypt(walk, main):
     if not eventually(lambda: len(windows(walk.application)) == 1 and find(
             main, lambda n: "successfully" in n.name and states(n, pyatspi.STATE_SHOWING))):
         walk.faults.append("no result to read")
+    # The label has the sentence alone.
+    if not eventually(lambda: GLib.MainContext.default().iteration(False) or
+                      any("successfully. letter.txt" in (name or "") for name in announced)):
+        walk.faults.append(f"no word of the result: {announced}")
 
 
 def walk(quillet, home):

@@ -122,6 +122,20 @@ TEST_F(DesktopTest, KeepsQuietWithoutABus)
     }
 }
 
+/// What others have said of the graphics stays, and nothing is left to programs that this one starts.
+TEST(DisplayTest, StartsLeanlyUnlessTheUserSaysOtherwise)
+{
+    constexpr const char* Variable = "QT_XCB_GL_INTEGRATION";
+    for (const char* said : {static_cast<const char*>(nullptr), "xcb_egl"}) {
+        const test::Environment before(Variable, said);
+        {
+            const thisapp::desktop::LeanStart lean;
+            EXPECT_EQ(qgetenv(Variable), said ? said : "none");
+        }
+        EXPECT_EQ(qgetenv(Variable), said ? said : "");
+    }
+}
+
 TEST(DisplayTest, IsThereOnlyWhenAServerAnswersOrNoneIsNeeded)
 {
     struct

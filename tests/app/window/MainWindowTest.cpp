@@ -1,8 +1,11 @@
 #include "window/WindowHarness.h"
 
 #include "app/widgets/CDropHint.h"
+#include "app/widgets/CElidedLabel.h"
 #include "common/settings/CAppSettings.h"
+#include "crypto/sealed/Argon2.h"
 #include "support/Environment.h"
+#include "support/Eventually.h"
 #include "support/NewThreads.h"
 #include "support/OwnMemory.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
@@ -72,6 +75,8 @@ TEST_F(MainWindowTest, EncryptsAndDecryptsWhatTheUserGives)
             fs::remove(folder() / "back");
         }
     }
+    const auto& bar = *w.window->findChild<QProgressBar*>();
+    EXPECT_EQ(bar.value(), bar.maximum());
     EXPECT_EQ(std::ranges::max(w.taskbarValues), 100);
     EXPECT_TRUE(w.taskbarValues.back() == 0 && !w.isTaskbarShown);
 }
@@ -198,6 +203,26 @@ TEST_F(MainWindowTest, TellsOfAJobThatCannotStart)
     EXPECT_EQ(w.kind("inputMessage"), MessageKind::Warning);
 }
 
+TEST(OfferTest, EndsByItself)
+{
+    CAppSettings().clear();
+    CAppSettings().setValue("UseConfirmPassword", false);
+    WindowHarness w(lookAtInput, WindowHarness::Cheap, std::chrono::milliseconds(1));
+    w.writeInput("in", 100);
+    for (const auto& [key, input, output, algorithm] :
+         {std::tuple(Qt::Key_F5, "in", "out", 452U), std::tuple(Qt::Key_F6, "out", "back", 252U)}) {
+        ASSERT_TRUE(w.form().algFrame().setSelection({1, algorithm}));
+        w.input().setText(w.path(input));
+        w.output().setText(w.path(output));
+        w.answerPassword("secret");
+        QTest::keyClick(w.window.get(), key);
+        ASSERT_TRUE(w.waitForEnd());
+    }
+    EXPECT_NE(w.text("inputMessage"), "");
+    const auto& link = *w.window->findChild<CMessageLine*>("inputMessage")->findChild<CLinkLabel*>();
+    EXPECT_TRUE(QTest::qWaitFor([&link] { return !link.isVisible(); }, WindowHarness::JobTimeoutMs));
+}
+
 TEST_F(MainWindowTest, SealsAndOpensFiles)
 {
     constexpr std::size_t Size = 200'000; // four pieces
@@ -236,6 +261,38 @@ TEST_F(MainWindowTest, SealsAndOpensFiles)
     ASSERT_TRUE(w.waitForEnd());
     EXPECT_EQ(w.text("inputMessage"), "This file was encrypted with AES-256.");
     EXPECT_FALSE(test::isInMemory(Password));
+    w.output().setText(w.path("elsewhere")); // no offer any more, and no key either
+    tessaly::SecretBytes salt(32, 0);
+    std::ifstream(folder() / "other").read(reinterpret_cast<char*>(salt.data()), 32);
+    tessaly::SecretBytes root;
+    ASSERT_TRUE(
+        tessaly::crypto::argon2id(tessaly::SecretText(Password), salt, WindowHarness::Cheap, root).ok());
+    std::ranges::for_each(root, [](auto& byte) { byte ^= 0xff; }); // as it stands nowhere else
+    EXPECT_FALSE(test::isInMemory({reinterpret_cast<const char*>(root.data()), root.size()}, '\xff'));
+}
+
+/// At its finest level, what became of each job.
+TEST_F(MainWindowTest, LogsWhatItDoes)
+{
+    set({{"UseLogFile", true}, {"LogLevel", 6}, {"UseConfirmPassword", false}});
+    w.options.applyAtStart();
+    for (const char* name : {"one", "two"})
+        w.writeInput(name, 1000);
+    run(Qt::Key_F6, w.path("one"), w.path("out"));
+    ASSERT_TRUE(w.waitForEnd());
+    w.answerPassword("secret");
+    w.window->processCommandLine({"-decrypt", "-start", w.path("one"), w.path("two")});
+    ASSERT_TRUE(w.waitForEnd());
+    const auto count = [this](const std::string& text) {
+        const QString log = QString::fromStdString(test::readFile(folder() / "quillet.log"));
+        return log.count(QString::fromStdString(text));
+    };
+    EXPECT_TRUE(test::eventually(
+        [&] { return count("Failed to encrypt/decrypt. Error: Corrupted data (error: 5/4003)") == 3; }));
+    EXPECT_EQ(count("Try to process command line: \"-decrypt\" \"-start\" \"" + (folder() / "one") + "\" \""),
+              1);
+    set({});
+    w.options.applyAtStart();
 }
 
 /// At the cost that users have, to be in time.
@@ -276,6 +333,10 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
     startLongJob();
     EXPECT_TRUE(w.window->windowTitle().contains("% - in - "));
     EXPECT_FALSE(w.input().isEnabled() || w.form().acceptDrops());
+    const QPalette& palette = w.input().palette();
+    EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text),
+              palette.color(QPalette::Active, QPalette::Text))
+        << "names are to be read";
     EXPECT_TRUE(w.isTaskbarShown);
     w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("other"))});
     EXPECT_EQ(w.input().text(), w.path("in"));
@@ -313,6 +374,11 @@ TEST_F(MainWindowTest, NamesTheFilesOfTheJobWhateverTheFieldsHold)
     EXPECT_EQ(w.input().text(), w.path("other"));
     EXPECT_EQ(w.result(), "File encryption was canceled");
     EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
+    EXPECT_TRUE(w.window->findChild<CMessageLine*>("resultMessage")
+                    ->findChild<CElidedLabel*>()
+                    ->toolTip()
+                    .contains(w.path("out")));
+    EXPECT_TRUE(w.input().toolTip().contains(w.path("other")));
     EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
     EXPECT_EQ(w.detail("outputMessage"), folder() / "out");
     w.output().setText(w.path("out"));
@@ -500,6 +566,19 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         }
         return enter.isAccepted();
     };
+    const auto lit = [this, idle = w.window->findChild<CDropHint*>()->grab().toImage()] {
+        return w.window->findChild<CDropHint*>()->grab().toImage() != idle;
+    };
+    QMimeData elsewhere;
+    elsewhere.setUrls({QUrl("https://example.org/x")});
+    QDragEnterEvent enter({}, Qt::CopyAction, &elsewhere, Qt::LeftButton, Qt::NoModifier);
+    QDragLeaveEvent leave;
+    for (QEvent* event : std::initializer_list<QEvent*>{&enter, &leave}) {
+        QApplication::sendEvent(&w.form(), event);
+        EXPECT_EQ(lit(), event == &enter);
+    }
+    EXPECT_TRUE(drop(w.form(), elsewhere));
+    EXPECT_FALSE(lit());
     QMimeData words;
     words.setText("words");
     for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input(), &w.output()})

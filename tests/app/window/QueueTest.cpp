@@ -202,8 +202,9 @@ TEST_F(QueueTest, StopsAsAWhole)
     give({"a", "b", "c"});
     w.answerPassword(Password);
     QTest::keyClick(w.window.get(), Qt::Key_F5);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return w.window->windowTitle().contains("2 of 3 - b - "); },
+    ASSERT_TRUE(QTest::qWaitFor([this] { return w.progress().percent() > 0.01F; }, // the engine is at it
                                 WindowHarness::JobTimeoutMs));
+    EXPECT_TRUE(w.window->windowTitle().contains("2 of 3 - b - "));
     EXPECT_FALSE(w.button("buttonClearList").isEnabled());
     QTest::keyClick(w.window.get(), Qt::Key_F6);
     EXPECT_EQ(w.progress().notice(), "Encryption/Decryption already running.");

@@ -61,15 +61,17 @@ public:
     static constexpr tessaly::crypto::Argon2Cost Cheap{1, 32, 4};
 
     explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput,
-                           tessaly::crypto::Argon2Cost cost = Cheap)
+                           tessaly::crypto::Argon2Cost cost = Cheap,
+                           std::chrono::milliseconds offerLifetime = CAlgorithmOffer::Lifetime)
         : translations(folder.wide("translations"), "Quillet"),
           translators(translations),
           logging(folder / "quillet.log"),
           options(
               {algorithms, translations, translators, logging,
                [this](bool contextMenu, bool sendTo) { shellUpdates.emplace_back(contextMenu, sendTo); }}),
-          window(std::make_unique<CMainWindow>(thisapp::WindowServices{
-              encryptors, decryptors, algorithms, options, *this, *this, std::move(look), cost}))
+          window(std::make_unique<CMainWindow>(thisapp::WindowServices{encryptors, decryptors, algorithms,
+                                                                       options, *this, *this, std::move(look),
+                                                                       cost, offerLifetime}))
     {
         window->show();
     }
