@@ -29,6 +29,7 @@ TEST(KeyFile, ToleratesWhatEditorsAndMailDo)
         {"My Key: x\nKey: 0011\nInitialization vector (IV): 22", "0011/22"},
         {"Key: 0011\n", ""},
         {"Key: 0011\nInitialization vector (IV): \n", ""},
+        {"Key: \nInitialization vector (IV): 22\n", ""},
         {"Key: 0011\nInitialization vector (IV): 2\n", ""},
         {"0011", ""},
         {"", ""},

@@ -38,6 +38,9 @@ TEST_F(Settings, StoredAtTheUsersPlace)
     EXPECT_EQ(settings.fileName(), file());
     EXPECT_EQ(settings.productId(), tessaly::QuilletProductId);
     EXPECT_NE(tessaly::AppSettings(77).fileName(), file());
+    CAppSettings::setApplicationProductId(77);
+    EXPECT_EQ(CAppSettings().fileName(), tessaly::AppSettings(77).fileName());
+    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
 
     qputenv("XDG_CONFIG_HOME", "relative");
     EXPECT_EQ(CAppSettings().fileName(), QDir::home().filePath(".config/Tessaly/Quillet.conf"));
@@ -53,14 +56,39 @@ TEST_F(Settings, EveryValueSurvivesWritingAndReading)
         thisapp::writeLocaleId(settings, options.localeId);
     }
     EXPECT_EQ(read(), options);
+    EXPECT_EQ(thisapp::readNamingSettings(CAppSettings()).encryption.suffix, options.encFileNameSuffix);
+}
 
-    const thisapp::NamingSettings naming = thisapp::readNamingSettings(CAppSettings());
-    EXPECT_EQ(naming.encryption.suffix, options.encFileNameSuffix);
-    SAppOptions other = options;
-    thisapp::NamingSettings().store(other);
-    EXPECT_NE(other, options);
-    naming.store(other);
-    EXPECT_EQ(other, options);
+/// One after the other, so that none can stand for another of its type.
+TEST_F(Settings, EachOptionIsStoredForItself)
+{
+    const auto isOfNames = [](const QString& key) {
+        return key.contains("FileName") || key.contains("OutputDir") || key.contains("Autogenerator");
+    };
+    const auto expectStored = [&](const char* key, const SAppOptions& changed, bool isSeparate) {
+        SAppOptions byNames;
+        thisapp::NamingSettings(changed).store(byNames);
+        EXPECT_EQ(byNames == changed, isOfNames(key)) << key;
+        CAppSettings settings;
+        settings.clear();
+        const std::string_view name = key;
+        EXPECT_EQ(thisapp::writeOptions(settings, changed),
+                  name == "IntegrateToShellContextMenu" || name == "AddToSendMenu");
+        EXPECT_EQ(thisapp::readStoredOptions(settings) == changed, !isSeparate) << key;
+    };
+    const auto usable = [](SAppOptions options) {
+        if (!options.outputDirPath.isEmpty())
+            options.outputDirPath = "/" + options.outputDirPath;
+        return options;
+    };
+    SAppOptions one;
+#define SETTING(Type, Key, member, fallback)                                                                 \
+    test::change((one = {}).member);                                                                         \
+    expectStored(#Key, usable(one), false);
+#define SEPARATE_SETTING(Type, Key, member, fallback)                                                        \
+    test::change((one = {}).member);                                                                         \
+    expectStored(#Key, one, true);
+#include "common/settings/SettingsKeys.def"
 }
 
 TEST_F(Settings, DefaultsInTheOrderOfWriting)
@@ -118,6 +146,18 @@ TEST_F(Settings, WrongTypesReadAsTheDefaults)
     expectDefaultsFor<bool>({"banana", "", 2, "-1", QVariant(), list, QByteArray("\x80\x81")});
     expectDefaultsFor<std::uint32_t>({"true", "1.5", "-1", "99999999999", "", true, QVariant(), list});
     expectDefaultsFor<QString>({list, QVariant(), QVariantMap{{"a", 1}}});
+}
+
+TEST_F(Settings, YesAndNoHaveSeveralForms)
+{
+    for (const QVariant& yes : {QVariant("TRUE"), QVariant("1"), QVariant(1), QVariant(true)}) {
+        set("UseSalt", yes);
+        EXPECT_TRUE(read().useSalt) << yes.typeName();
+    }
+    for (const QVariant& no : {QVariant("False"), QVariant("0"), QVariant(0), QVariant(false)}) {
+        set("ShowConfirmDialog", no);
+        EXPECT_FALSE(read().showConfirmDialog) << no.typeName();
+    }
 }
 
 /// Such a value, read, asks for more memory than there is.
