@@ -35,7 +35,7 @@ public:
         return count;
     }
     ResultCode lastError() const override { return {}; }
-    bool isReached() { return m_reached.wait(60'000); }
+    bool isReached() { return m_reached.wait(240'000); }
     void open() { std::ignore = m_open.set(); }
 
     std::int64_t written = 0;
@@ -73,7 +73,7 @@ protected:
     bool waitForEnd()
     {
         const int before = ends;
-        const bool ended = QTest::qWaitFor([&] { return ends > before; }, 60'000);
+        const bool ended = QTest::qWaitFor([&] { return ends > before; }, 240'000);
         job.finish();
         return ended;
     }

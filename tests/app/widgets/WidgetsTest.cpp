@@ -1,4 +1,6 @@
+#include "app/job/Message.h"
 #include "app/widgets/CDropHint.h"
+#include "app/widgets/CElidedLabel.h"
 #include "app/widgets/CMessageLine.h"
 #include "app/widgets/SymbolicIcon.h"
 #include "app/window/CFirstPaint.h"
@@ -45,6 +47,20 @@ TEST(WidgetsTest, AMessageIsNoMarkupAndReadableInEveryTheme)
     line.setPalette(dark);
     EXPECT_NE(label->palette().color(QPalette::WindowText), light);
     EXPECT_EQ(label->palette().color(QPalette::WindowText), messageColor(MessageKind::Error, dark));
+}
+
+TEST(WidgetsTest, ALongDetailKeepsTheEndsOfBothNames)
+{
+    CElidedLabel label;
+    const QString whole =
+        "begin" + QString(200, 'x') + "end" + nameArrow() + "this" + QString(200, 'y') + "that";
+    label.resize(400, 20);
+    label.setWholeText(whole);
+    for (const char* part : {"begin", "end", "this", "that", "\u2026"})
+        EXPECT_TRUE(label.text().contains(part)) << label.text().toStdString();
+    EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), 400);
+    label.setWholeText("short");
+    EXPECT_TRUE(label.text().contains("short"));
 }
 
 TEST(WidgetsTest, TheDropAreaShowsWhatItHasRoomFor)

@@ -187,7 +187,8 @@ TEST_F(DialogsTest, SwitchTheMenusOfTheDesktop)
         for (const bool sendTo : {true, false}) {
             w.shellUpdates.clear();
             const SAppOptions before = w.options.read();
-            w.onDialog<COptionsDialog>([=](COptionsDialog& dialog) {
+            w.onDialog<COptionsDialog>([=, log = w.path("quillet.log")](COptionsDialog& dialog) {
+                EXPECT_EQ(dialog.findChild<QLineEdit*>("editLogFile")->text(), log);
                 check(dialog, "checkContextMenu", contextMenu);
                 check(dialog, "checkSendTo", sendTo);
                 ok(dialog);

@@ -143,7 +143,7 @@ TEST_F(MainWindowTest, OffersTheAlgorithmThatFits)
 TEST_F(MainWindowTest, KeepsThePasswordOnlyForAnOffer)
 {
     static constexpr char Password[] = "Zebras cross 4711 times"; // where nobody can write
-    w.writeInput("in", 64 << 20);
+    w.writeInput("in", 32 << 20);
     ASSERT_TRUE(w.form().algFrame().setSelection(SlowAlgorithm));
     run(Qt::Key_F5, w.path("in"), w.path("out"), Password);
     ASSERT_TRUE(w.waitForEnd());
@@ -638,6 +638,9 @@ TEST_F(MainWindowTest, LeavesDraggedFilesWithTheirOwner)
             QApplication::sendEvent(target, &move);
             EXPECT_EQ(move.isAccepted(), possible.testFlag(Qt::CopyAction));
             EXPECT_TRUE(!move.isAccepted() || move.dropAction() == Qt::CopyAction);
+            QDropEvent drop({}, possible, &files, Qt::LeftButton, Qt::ShiftModifier);
+            QApplication::sendEvent(target, &drop);
+            EXPECT_NE(drop.dropAction(), Qt::MoveAction);
         }
 }
 
@@ -712,15 +715,20 @@ TEST(SlowFileSystemTest, IsLookedAtOnceForEachChangeWithoutStalling)
     EXPECT_EQ(w.text("inputMessage"), "");
 
     // A command that can't do without the answer waits for it; an output given meanwhile stays.
-    mount.answerFrom(INT_MAX);
-    mount.looks = 0;
-    w.window->processCommandLine({"-ifile", w.path("ab"), "-ofile", w.path("mine")});
-    w.answerPassword("");
-    QTimer::singleShot(0, w.window.get(), [&mount] { mount.answerFrom(0); });
-    QTest::keyClick(w.window.get(), Qt::Key_F5);
-    EXPECT_EQ(w.result(), "Password not defined");
-    EXPECT_EQ(w.output().text(), w.path("mine"));
-    EXPECT_EQ(mount.looks, 1);
+    for (const char* given : {"", "mine"}) {
+        w.output().clear();
+        mount.answerFrom(INT_MAX);
+        mount.looks = 0;
+        w.window->processCommandLine({"-ifile", w.path("ab")});
+        if (*given)
+            w.output().setText(w.path(given));
+        w.answerPassword("");
+        QTimer::singleShot(0, w.window.get(), [&mount] { mount.answerFrom(0); });
+        QTest::keyClick(w.window.get(), Qt::Key_F5);
+        EXPECT_EQ(w.result(), "Password not defined");
+        EXPECT_EQ(w.output().text(), w.path(*given ? given : "ab.enc"));
+        EXPECT_EQ(mount.looks, 1);
+    }
 }
 
 TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
@@ -746,6 +754,11 @@ TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
     w.writeInput("a[*]", 10); // the toolkit's mark
     w.window->processCommandLine({w.path("a[*]")});
     EXPECT_EQ(w.window->windowHandle()->title(), "a[*] - Quillet");
+    w.input().setText(w.path("in"));
+    const auto& hint = *w.window->findChild<CDropHint*>();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&hint] { return hint.accessibleName() == "in"; }, WindowHarness::JobTimeoutMs));
+    EXPECT_EQ(w.output().text(), w.path("a[*].enc")) << "a proposal is for what the user gives";
 }
 
 TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)

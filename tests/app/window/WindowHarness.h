@@ -55,7 +55,7 @@ public slots:
 class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisapp::desktop::INotifier
 {
 public:
-    static constexpr int JobTimeoutMs = 60'000;
+    static constexpr int JobTimeoutMs = 240'000; ///< on a machine with much else to do
 
     /// The least that Argon2 takes.
     static constexpr tessaly::crypto::Argon2Cost Cheap{1, 32, 4};
