@@ -179,8 +179,10 @@ TEST_F(QueueTest, TellsWhatIsLeftOutOfARequest)
     for (const char* name : {"a", "b"})
         w.writeInput(name, 10);
     w.answerPassword("secret");
-    w.window->processCommandLine({"-encrypt", "-start", w.path("a"), w.path("b"), w.path("d")});
+    w.window->processCommandLine(
+        {"-encrypt", "-start", "-ofile", w.path("x"), w.path("a"), w.path("b"), w.path("d")});
     ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.output().text(), "") << "a list has no such field";
     EXPECT_EQ(w.result(), "2 of 2 files encrypted");
     EXPECT_EQ(w.text("queueMessage"),
               "Folders and devices are left out: only files can be encrypted or decrypted.");
