@@ -338,6 +338,9 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
               palette.color(QPalette::Active, QPalette::Text))
         << "names are to be read";
     EXPECT_TRUE(w.isTaskbarShown);
+    for (const auto& [id, offered] : {std::pair("encrypt", false), std::pair("decrypt", false),
+                                      std::pair("default-algorithm", false), std::pair("stop", true)})
+        EXPECT_EQ(w.window->findChild<QAction*>(id)->isEnabled(), offered) << id;
     w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("other"))});
     EXPECT_EQ(w.input().text(), w.path("in"));
     EXPECT_FALSE(fs::exists(folder() / "out")) << "not before it is whole";
