@@ -1,9 +1,13 @@
 #include "window/WindowHarness.h"
 
 #include "app/widgets/CDropHint.h"
+#include "app/widgets/CElidedLabel.h"
 #include "common/settings/CAppSettings.h"
-#include "lib/secret/Secret.h"
+#include "crypto/sealed/Argon2.h"
 #include "support/Environment.h"
+#include "support/Eventually.h"
+#include "support/NewThreads.h"
+#include "support/OwnMemory.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/CSetAlgDialog.h"
 #include "ui/options/COptionsDialog.h"
@@ -11,20 +15,20 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QScreen>
-#include <fcntl.h>
+#include <QWindow>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <atomic>
-#include <chrono>
-#include <cstring>
+#include <climits>
+#include <condition_variable>
 #include <filesystem>
-#include <thread>
+#include <mutex>
 #include <tuple>
 
 using namespace thisapp;
@@ -36,57 +40,9 @@ namespace {
 /// DES_EDE3, the slowest of all.
 constexpr AlgSelection SlowAlgorithm{1, 601};
 
-/// Whether the text stands anywhere in what this program can write to. No copy of it remains.
-bool isInMemory(std::string_view text)
-{
-    tessaly::SecretBytes chunk(1 << 20);
-    const int memory = open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
-    bool found = false;
-    constexpr std::uintptr_t Most = 1UL << 30; // what is larger is a sanitizer's own
-    std::ifstream maps("/proc/self/maps");
-    for (std::string line; !found && std::getline(maps, line);) {
-        std::uintptr_t at = 0;
-        std::uintptr_t end = 0;
-        char access[5] = "";
-        if (std::sscanf(line.c_str(), "%zx-%zx %4s", &at, &end, access) != 3 || access[1] != 'w' ||
-            end - at > Most)
-            continue;
-        while (!found && at < end) {
-            const ssize_t got = pread(memory, chunk.data(), std::min(chunk.size(), end - at), off_t(at));
-            if (got <= 0)
-                break;
-            found = memmem(chunk.data(), std::size_t(got), text.data(), text.size()) != nullptr;
-            at += std::size_t(got);
-        }
-    }
-    close(memory);
-    return found;
-}
-
-class MainWindowTest : public ::testing::Test
+class MainWindowTest : public test::WindowTest
 {
 protected:
-    void SetUp() override { set({}); }
-
-    /// The settings that differ from their defaults.
-    static void set(const std::map<QString, QVariant>& values)
-    {
-        CAppSettings settings;
-        settings.clear();
-        settings.setValue("UseConfirmPassword", false);
-        for (const auto& [key, value] : values)
-            settings.setValue(key, value);
-    }
-
-    void run(Qt::Key key, const QString& input, const QString& output, const QString& password = "secret")
-    {
-        w.input().setText(input);
-        w.output().setText(output);
-        w.answerPassword(password);
-        QTest::keyClick(w.window.get(), key);
-    }
-    void encrypt() { run(Qt::Key_F5, w.path("in"), w.path("out")); }
-
     /// A job that is at work, and would be for a while.
     void startLongJob()
     {
@@ -98,9 +54,6 @@ protected:
             QTest::qWaitFor([this] { return w.progress().percent() > 0; }, WindowHarness::JobTimeoutMs));
         ASSERT_TRUE(w.isRunning());
     }
-    const test::TempFolder& folder() const { return w.folder; }
-
-    WindowHarness w;
 };
 
 TEST_F(MainWindowTest, EncryptsAndDecryptsWhatTheUserGives)
@@ -122,7 +75,10 @@ TEST_F(MainWindowTest, EncryptsAndDecryptsWhatTheUserGives)
             fs::remove(folder() / "back");
         }
     }
-    EXPECT_EQ(w.taskbarValues.back(), 0);
+    const auto& bar = *w.window->findChild<QProgressBar*>();
+    EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_EQ(std::ranges::max(w.taskbarValues), 100);
+    EXPECT_TRUE(w.taskbarValues.back() == 0 && !w.isTaskbarShown);
 }
 
 TEST_F(MainWindowTest, RefusesAWrongPasswordBeforeItWrites)
@@ -150,6 +106,7 @@ TEST_F(MainWindowTest, RefusesAWrongPasswordBeforeItWrites)
 /// The link stands until anything else happens.
 TEST_F(MainWindowTest, OffersTheAlgorithmThatFits)
 {
+    const test::UrlRecorder opened;
     for (const bool seal : {false, true}) {
         set({{"SealFiles", seal}});
         w.writeInput("in", 1000);
@@ -157,14 +114,20 @@ TEST_F(MainWindowTest, OffersTheAlgorithmThatFits)
         encrypt();
         ASSERT_TRUE(w.waitForEnd());
         auto& link = *w.window->findChild<CMessageLine*>("inputMessage")->findChild<CLinkLabel*>();
-        for (const bool taken : {false, true}) {
+        const std::function<void()> happenings[] = {
+            [this] { w.output().setText(w.path("elsewhere")); },
+            [this] { QTest::keyClick(w.form().algFrame().findChild<QComboBox*>(), Qt::Key_Down); },
+            [this] { QTest::keyClick(w.window.get(), Qt::Key_F9, Qt::ControlModifier); }, // any command
+            [] {},
+        };
+        for (const auto& happens : happenings) {
+            const bool taken = &happens == std::end(happenings) - 1;
             ASSERT_TRUE(w.form().algFrame().setSelection({1, 252}));
             run(Qt::Key_F6, w.path("out"), w.path("back"));
             ASSERT_TRUE(w.waitForEnd());
             EXPECT_EQ(w.text("inputMessage"), "This file was encrypted with Serpent-256.");
             EXPECT_EQ(link.accessibleName(), "Decrypt with Serpent-256");
-            if (!taken)
-                w.output().setText(w.path("elsewhere"));
+            happens();
             EXPECT_EQ(link.isVisible(), taken);
             QTest::keyClick(&link, Qt::Key_Return);
             ASSERT_TRUE(w.waitForEnd());
@@ -180,27 +143,84 @@ TEST_F(MainWindowTest, OffersTheAlgorithmThatFits)
 TEST_F(MainWindowTest, KeepsThePasswordOnlyForAnOffer)
 {
     static constexpr char Password[] = "Zebras cross 4711 times"; // where nobody can write
-    w.writeInput("in", 64 << 20);
+    w.writeInput("in", 32 << 20);
     ASSERT_TRUE(w.form().algFrame().setSelection(SlowAlgorithm));
     run(Qt::Key_F5, w.path("in"), w.path("out"), Password);
     ASSERT_TRUE(w.waitForEnd());
     run(Qt::Key_F6, w.path("out"), w.path("back"), Password);
     ASSERT_TRUE(QTest::qWaitFor([this] { return w.progress().percent() > 0; }, WindowHarness::JobTimeoutMs));
     ASSERT_TRUE(w.isRunning());
-    EXPECT_FALSE(isInMemory(Password)) << "the algorithm is the right one";
+    EXPECT_FALSE(test::isInMemory(Password)) << "the algorithm is the right one";
     QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
     ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.result(), "File decryption was canceled");
+    EXPECT_FALSE(fs::exists(folder() / "back"));
 
-    ASSERT_TRUE(w.form().algFrame().setSelection({1, 252}));
-    run(Qt::Key_F6, w.path("out"), w.path("back"), Password);
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_NE(w.text("inputMessage"), "");
-    EXPECT_TRUE(isInMemory(Password)) << "for the offer";
+    const auto makeOffer = [this] {
+        ASSERT_TRUE(w.form().algFrame().setSelection({1, 252}));
+        run(Qt::Key_F6, w.path("out"), w.path("back"), Password);
+        ASSERT_TRUE(w.waitForEnd());
+        EXPECT_NE(w.text("inputMessage"), "");
+        EXPECT_TRUE(test::isInMemory(Password)) << "for the offer";
+    };
+    makeOffer();
     w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("out"))}); // which is there already
     EXPECT_EQ(w.text("inputMessage"), "");
-    EXPECT_FALSE(isInMemory(Password)) << "nothing is offered any more";
+    EXPECT_FALSE(test::isInMemory(Password)) << "nothing is offered any more";
     w.output().setText(w.path("elsewhere"));
     EXPECT_EQ(w.text("inputMessage"), "") << "an old sentence is back";
+    makeOffer();
+    w.window->close();
+    EXPECT_FALSE(test::isInMemory(Password)) << "the process may live on for a while";
+}
+
+/// No thread is to be had: for the job, and afterwards for the removal of its input.
+TEST_F(MainWindowTest, TellsOfAJobThatCannotStart)
+{
+    static constexpr char Password[] = "Quinces melt 0815 slowly";
+    bool threads = false;
+    const test::NewThreads none([&threads] { return threads; });
+    set({{"RewriteOutputFile", true}, {"DeleteSourceFileAfterEncryption", true}});
+    w.writeInput("in", 10);
+    for (const auto& [key, start] : {std::pair(Qt::Key_F5, "Failed to start the encryption. "),
+                                     std::pair(Qt::Key_F6, "Failed to start the decryption. ")}) {
+        folder().write("out", "former");
+        run(key, w.path("in"), w.path("out"), Password);
+        EXPECT_EQ(w.result(), start + std::string("(error: 5/303)"));
+        EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
+        EXPECT_FALSE(w.isRunning() || fs::exists(folder() / "out"));
+        EXPECT_FALSE(test::isInMemory(Password));
+    }
+    threads = true;
+    encrypt();
+    w.onDialog<QMessageBox>([&threads](QMessageBox& box) {
+        threads = false;
+        box.button(QMessageBox::Yes)->click();
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !threads; }, WindowHarness::JobTimeoutMs));
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.text("inputMessage"), "The input file could not be deleted. (error: 5/303)");
+    EXPECT_EQ(w.kind("inputMessage"), MessageKind::Warning);
+}
+
+TEST(OfferTest, EndsByItself)
+{
+    CAppSettings().clear();
+    CAppSettings().setValue("UseConfirmPassword", false);
+    WindowHarness w(lookAtInput, WindowHarness::Cheap, std::chrono::milliseconds(1));
+    w.writeInput("in", 100);
+    for (const auto& [key, input, output, algorithm] :
+         {std::tuple(Qt::Key_F5, "in", "out", 452U), std::tuple(Qt::Key_F6, "out", "back", 252U)}) {
+        ASSERT_TRUE(w.form().algFrame().setSelection({1, algorithm}));
+        w.input().setText(w.path(input));
+        w.output().setText(w.path(output));
+        w.answerPassword("secret");
+        QTest::keyClick(w.window.get(), key);
+        ASSERT_TRUE(w.waitForEnd());
+    }
+    EXPECT_NE(w.text("inputMessage"), "");
+    const auto& link = *w.window->findChild<CMessageLine*>("inputMessage")->findChild<CLinkLabel*>();
+    EXPECT_TRUE(QTest::qWaitFor([&link] { return !link.isVisible(); }, WindowHarness::JobTimeoutMs));
 }
 
 TEST_F(MainWindowTest, SealsAndOpensFiles)
@@ -231,6 +251,48 @@ TEST_F(MainWindowTest, SealsAndOpensFiles)
     EXPECT_EQ(w.text("inputMessage"),
               "The password and the algorithm are right. Try another copy of the file.");
     EXPECT_FALSE(fs::exists(folder() / "none"));
+
+    static constexpr char Password[] = "Walnuts hum 1312 at night"; // needed no more once there is a key
+    set({{"SealFiles", true}});
+    run(Qt::Key_F5, w.path("back"), w.path("other"), Password);
+    ASSERT_TRUE(w.waitForEnd());
+    ASSERT_TRUE(w.form().algFrame().setSelection({1, 452}));
+    run(Qt::Key_F6, w.path("other"), w.path("none"), Password);
+    ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.text("inputMessage"), "This file was encrypted with AES-256.");
+    EXPECT_FALSE(test::isInMemory(Password));
+    w.output().setText(w.path("elsewhere")); // no offer any more, and no key either
+    tessaly::SecretBytes salt(32, 0);
+    std::ifstream(folder() / "other").read(reinterpret_cast<char*>(salt.data()), 32);
+    tessaly::SecretBytes root;
+    ASSERT_TRUE(
+        tessaly::crypto::argon2id(tessaly::SecretText(Password), salt, WindowHarness::Cheap, root).ok());
+    std::ranges::for_each(root, [](auto& byte) { byte ^= 0xff; }); // as it stands nowhere else
+    EXPECT_FALSE(test::isInMemory({reinterpret_cast<const char*>(root.data()), root.size()}, '\xff'));
+}
+
+/// At its finest level, what became of each job.
+TEST_F(MainWindowTest, LogsWhatItDoes)
+{
+    set({{"UseLogFile", true}, {"LogLevel", 6}, {"UseConfirmPassword", false}});
+    w.options.applyAtStart();
+    for (const char* name : {"one", "two"})
+        w.writeInput(name, 1000);
+    run(Qt::Key_F6, w.path("one"), w.path("out"));
+    ASSERT_TRUE(w.waitForEnd());
+    w.answerPassword("secret");
+    w.window->processCommandLine({"-decrypt", "-start", w.path("one"), w.path("two")});
+    ASSERT_TRUE(w.waitForEnd());
+    const auto count = [this](const std::string& text) {
+        const QString log = QString::fromStdString(test::readFile(folder() / "quillet.log"));
+        return log.count(QString::fromStdString(text));
+    };
+    EXPECT_TRUE(test::eventually(
+        [&] { return count("Failed to encrypt/decrypt. Error: Corrupted data (error: 5/4003)") == 3; }));
+    EXPECT_EQ(count("Try to process command line: \"-decrypt\" \"-start\" \"" + (folder() / "one") + "\" \""),
+              1);
+    set({});
+    w.options.applyAtStart();
 }
 
 /// At the cost that users have, to be in time.
@@ -244,7 +306,7 @@ TEST(SealTest, StopsWhileTheKeyIsMade)
     w.output().setText(w.path("out"));
     w.answerPassword("secret");
     QTest::keyClick(w.window.get(), Qt::Key_F5);
-    ASSERT_TRUE(QTest::qWaitFor([&w] { return w.progress().message() != ""; }));
+    ASSERT_TRUE(QTest::qWaitFor([&w] { return w.progress().message() != ""; }, WindowHarness::JobTimeoutMs));
     EXPECT_EQ(w.progress().message(), "Making the key of the password. 0.000% processed");
     QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
     ASSERT_TRUE(w.waitForEnd());
@@ -270,7 +332,17 @@ TEST_F(MainWindowTest, StopsInTheMiddle)
 {
     startLongJob();
     EXPECT_TRUE(w.window->windowTitle().contains("% - in - "));
-    EXPECT_FALSE(w.input().isEnabled());
+    EXPECT_FALSE(w.input().isEnabled() || w.form().acceptDrops());
+    const QPalette& palette = w.input().palette();
+    EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text),
+              palette.color(QPalette::Active, QPalette::Text))
+        << "names are to be read";
+    EXPECT_TRUE(w.isTaskbarShown);
+    for (const auto& [id, offered] : {std::pair("encrypt", false), std::pair("decrypt", false),
+                                      std::pair("default-algorithm", false), std::pair("stop", true)})
+        EXPECT_EQ(w.window->findChild<QAction*>(id)->isEnabled(), offered) << id;
+    w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("other"))});
+    EXPECT_EQ(w.input().text(), w.path("in"));
     EXPECT_FALSE(fs::exists(folder() / "out")) << "not before it is whole";
 
     QTest::keyClick(w.window.get(), Qt::Key_F5);
@@ -305,6 +377,11 @@ TEST_F(MainWindowTest, NamesTheFilesOfTheJobWhateverTheFieldsHold)
     EXPECT_EQ(w.input().text(), w.path("other"));
     EXPECT_EQ(w.result(), "File encryption was canceled");
     EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
+    EXPECT_TRUE(w.window->findChild<CMessageLine*>("resultMessage")
+                    ->findChild<CElidedLabel*>()
+                    ->toolTip()
+                    .contains(w.path("out")));
+    EXPECT_TRUE(w.input().toolTip().contains(w.path("other")));
     EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
     EXPECT_EQ(w.detail("outputMessage"), folder() / "out");
     w.output().setText(w.path("out"));
@@ -328,35 +405,47 @@ TEST_F(MainWindowTest, ClosingEndsTheJobWithoutAPartialOutput)
 
 TEST_F(MainWindowTest, DeletesTheInputAsTheUserDecides)
 {
+    const std::string deleted =
+        "Input file has been deleted after the successfully encryption according to your options";
     struct
     {
-        bool confirm;
+        bool wanted, confirm;
         QMessageBox::StandardButton answer;
-        bool deleted;
+        std::string message;
+        MessageKind kind = MessageKind::Plain;
+        bool linked = false;
     } const cases[] = {
-        {true, QMessageBox::No, false}, {true, QMessageBox::Yes, true}, {false, QMessageBox::NoButton, true}};
+        {false, true, QMessageBox::NoButton, ""},
+        {true, true, QMessageBox::No, ""},
+        {true, true, QMessageBox::Yes, deleted, MessageKind::Success},
+        {true, false, QMessageBox::NoButton, deleted, MessageKind::Success},
+        {true, true, QMessageBox::NoButton, "The input file has been kept: it has another name (hard link).",
+         MessageKind::Warning, true},
+    };
+    const char* name = "<b>in";
     for (const auto& c : cases) {
-        set({{"DeleteSourceFileAfterEncryption", true},
+        set({{"DeleteSourceFileAfterEncryption", c.wanted},
              {"ConfirmDeleteSourceFileAfterEncryption", c.confirm}});
-        w.writeInput("in", 5000);
+        w.writeInput(name, 5000);
+        if (c.linked)
+            fs::create_hard_link(folder() / name, folder() / "twin");
         bool asked = false;
-        encrypt();
-        if (c.confirm)
+        run(Qt::Key_F5, w.path(name), w.path("out"));
+        if (c.answer != QMessageBox::NoButton)
             w.onDialog<QMessageBox>([&](QMessageBox& box) {
                 asked = true;
                 EXPECT_EQ(box.text(),
                           "Are you sure you want to delete the input file after encryption?\nFile: '" +
-                              w.path("in") + "'\n");
+                              w.path(name) + "'\n");
+                EXPECT_EQ(box.textFormat(), Qt::PlainText) << "a name is no markup";
                 EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
                 QTest::mouseClick(box.button(c.answer), Qt::LeftButton);
             });
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !w.isRunning() && asked == c.confirm && w.result() != ""; },
-                                    WindowHarness::JobTimeoutMs));
         ASSERT_TRUE(w.waitForEnd());
-        EXPECT_EQ(fs::exists(folder() / "in"), !c.deleted);
-        EXPECT_EQ(w.text("inputMessage"), c.deleted ? "Input file has been deleted after the successfully "
-                                                      "encryption according to your options"
-                                                    : "");
+        EXPECT_EQ(asked, c.answer != QMessageBox::NoButton);
+        EXPECT_EQ(fs::exists(folder() / name), c.message != deleted);
+        EXPECT_EQ(w.text("inputMessage"), c.message);
+        EXPECT_EQ(w.kind("inputMessage"), c.kind);
         fs::remove(folder() / "out");
     }
 }
@@ -393,6 +482,7 @@ TEST_F(MainWindowTest, MapsKeysToCommands)
         QTest::keyClick(&w.output(), key, Qt::ControlModifier);
         EXPECT_EQ(w.input().text(), w.path("chosen.enc"));
         EXPECT_EQ(w.output().text(), w.path("chosen.dec")) << "the proposal";
+        EXPECT_TRUE(w.button("buttonDecrypt").isDefault());
         QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
         EXPECT_EQ(w.input().text() + w.output().text(), "");
     }
@@ -414,17 +504,36 @@ TEST_F(MainWindowTest, AsksForAMissingInputAndProposesTheOutput)
         EXPECT_EQ(w.result(), "Password not defined");
         EXPECT_EQ(w.output().text(), typed.isEmpty() ? w.path("chosen.enc") : typed);
     }
+    set({{"UseOutputFileAutogenerator", false}});
+    w.onDialog<QFileDialog>([this](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Define output file");
+        EXPECT_EQ(dialog.directory().path() + '/', w.path(""));
+        dialog.reject();
+    });
+    press(Qt::Key_F5, w.path("chosen"), "");
+    EXPECT_EQ(w.text("outputMessage"), "Output file is not defined.");
 }
 
 TEST_F(MainWindowTest, NotifiesWhoLooksElsewhere)
 {
-    w.writeInput("in", 10);
-    for (QWidget* active : std::initializer_list<QWidget*>{w.window.get(), nullptr}) {
-        encrypt();
-        QApplication::setActiveWindow(active);
+    w.writeInput("in", 100);
+    struct
+    {
+        Qt::Key key;
+        QWidget* active;
+        QStringList notifications;
+    } const cases[] = {
+        {Qt::Key_F5, w.window.get(), {}},
+        {Qt::Key_F5, nullptr, {"File was encrypted successfully|out >"}},
+        {Qt::Key_F6, nullptr, {"Failed to decrypt file. Corrupted data (error: 5/4003)|in"}},
+    };
+    for (const auto& c : cases) {
+        w.notifications.clear();
+        run(c.key, w.path("in"), w.path("out"));
+        QApplication::setActiveWindow(c.active);
         ASSERT_TRUE(w.waitForEnd());
         fs::remove(folder() / "out");
-        EXPECT_EQ(w.notifications, active ? QStringList() : QStringList("File was encrypted successfully"));
+        EXPECT_EQ(w.notifications, c.notifications);
     }
 }
 
@@ -460,6 +569,19 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         }
         return enter.isAccepted();
     };
+    const auto lit = [this, idle = w.window->findChild<CDropHint*>()->grab().toImage()] {
+        return w.window->findChild<CDropHint*>()->grab().toImage() != idle;
+    };
+    QMimeData elsewhere;
+    elsewhere.setUrls({QUrl("https://example.org/x")});
+    QDragEnterEvent enter({}, Qt::CopyAction, &elsewhere, Qt::LeftButton, Qt::NoModifier);
+    QDragLeaveEvent leave;
+    for (QEvent* event : std::initializer_list<QEvent*>{&enter, &leave}) {
+        QApplication::sendEvent(&w.form(), event);
+        EXPECT_EQ(lit(), event == &enter);
+    }
+    EXPECT_TRUE(drop(w.form(), elsewhere));
+    EXPECT_FALSE(lit());
     QMimeData words;
     words.setText("words");
     for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input(), &w.output()})
@@ -472,6 +594,7 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
     const std::tuple<QStringList, QString, const char*> cases[] = {
         {{base + "in"}, "in", ""},
         {{"https://example.org/x", base + "in", "file:///y"}, "in", "Not found, and left out: y, x"},
+        {{"https://example.org/x", base + "in"}, "in", "Only one of the dropped files was taken."},
         {{"file://LocalHost" + w.path("in")}, "in", ""},
         {{base + "n%FF"}, QString("n") + QChar(0xdcff), ""},
         {{base + "in%20"}, "in ", ""}, // while there is an "in", too
@@ -487,13 +610,15 @@ TEST_F(MainWindowTest, TakesDroppedFiles)
         QMimeData files;
         files.setUrls(QUrl::fromStringList(urls));
         const QString path = name.isEmpty() ? QString() : w.path("") + name;
-        const bool usable = QString(message).startsWith("Not") || QString(message).isEmpty();
+        const bool usable = QString(message).startsWith("Not") || QString(message).startsWith("Only one") ||
+                            QString(message).isEmpty();
         for (QWidget* target : std::initializer_list<QWidget*>{&w.form(), &w.input()}) {
             QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
             EXPECT_TRUE(drop(*target, files));
             EXPECT_EQ(w.input().text(), path);
             EXPECT_EQ(w.output().text(), usable ? path + ".enc" : "");
             EXPECT_EQ(w.text("inputMessage"), message);
+            EXPECT_EQ(w.window->findChild<CDropHint*>()->accessibleName(), usable ? name : "Drop files here");
         }
         QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
         EXPECT_TRUE(drop(w.output(), files));
@@ -516,45 +641,97 @@ TEST_F(MainWindowTest, LeavesDraggedFilesWithTheirOwner)
             QApplication::sendEvent(target, &move);
             EXPECT_EQ(move.isAccepted(), possible.testFlag(Qt::CopyAction));
             EXPECT_TRUE(!move.isAccepted() || move.dropAction() == Qt::CopyAction);
+            QDropEvent drop({}, possible, &files, Qt::LeftButton, Qt::ShiftModifier);
+            QApplication::sendEvent(target, &drop);
+            EXPECT_NE(drop.dropAction(), Qt::MoveAction);
         }
 }
 
-/// On a slow mount: the longer the name, the faster the answer, so that the newest comes first.
+/// Answers of a slow mount, given when the test says so.
+class SlowMount
+{
+public:
+    thisapp::InputFacts operator()(const QString& text, const NamingSettings& naming)
+    {
+        ++looks;
+        std::unique_lock lock(m_mutex);
+        m_news.wait(lock, [&] { return text.size() >= m_least; });
+        ++answers;
+        return lookAtInput(text, naming);
+    }
+    /// Answers are given for texts of that length or longer.
+    void answerFrom(int length)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_least = length;
+        m_news.notify_all();
+    }
+
+    std::atomic<int> looks = 0;
+    std::atomic<int> answers = 0;
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_news;
+    int m_least = 0;
+};
+
+/// The newest answer comes first.
 TEST(SlowFileSystemTest, IsLookedAtOnceForEachChangeWithoutStalling)
 {
     CAppSettings().clear();
-    std::atomic<int> looks = 0;
-    WindowHarness w([&looks](const QString& text, const NamingSettings& naming) {
-        ++looks;
-        std::this_thread::sleep_for(std::chrono::milliseconds(text.endsWith("abc") ? 200 : 400));
-        return lookAtInput(text, naming);
-    });
+    SlowMount mount;
+    WindowHarness w(std::ref(mount));
+    const auto eventually = [](const std::function<bool()>& condition) {
+        return QTest::qWaitFor(condition, WindowHarness::JobTimeoutMs);
+    };
     for (const char* name : {"a", "ab", "abc"})
         w.folder.write(name, "");
     w.input().setText(w.path(""));
-    QCoreApplication::processEvents();
-    ASSERT_TRUE(QTest::qWaitFor([&looks] { return looks > 0; })); // its thread may be late
-    looks = 0;
-    QElapsedTimer clock;
-    clock.start();
+    ASSERT_TRUE(eventually([&mount] { return mount.answers == 1; }));
+    mount.looks = mount.answers = 0;
+    mount.answerFrom(INT_MAX);
     for (const char letter : {'a', 'b', 'c'}) {
         QTest::keyClick(&w.input(), letter);
         QCoreApplication::processEvents();
     }
-    EXPECT_LT(clock.elapsed(), 150);
-    ASSERT_TRUE(QTest::qWaitFor([&w] { return !w.output().text().isEmpty(); }));
+    ASSERT_TRUE(eventually([&mount] { return mount.looks == 3; }));
+    EXPECT_EQ(mount.answers, 0) << "and the window has not waited for them";
+    mount.answerFrom(w.path("abc").size());
+    ASSERT_TRUE(eventually([&w] { return !w.output().text().isEmpty(); }));
     EXPECT_EQ(w.output().text(), w.path("abc.enc"));
-    QTest::qWait(400); // the answers that nobody wants any more
+    mount.answerFrom(0);
+    ASSERT_TRUE(eventually([&mount] { return mount.answers == 3; })); // which nobody wants any more
+    const auto& hint = *w.window->findChild<CDropHint*>();
+    EXPECT_EQ(hint.accessibleName(), "abc");
+    QTest::keyClick(&w.input(), 'd');
+    ASSERT_TRUE(eventually([&hint] { return hint.accessibleName() == "Drop files here"; }));
     EXPECT_EQ(w.output().text(), w.path("abc.enc"));
-    EXPECT_EQ(looks, 3);
+    EXPECT_EQ(mount.looks, 4);
+
+    // A drop that the user has typed over has nothing to say any more.
+    mount.answerFrom(INT_MAX);
+    w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("a")), QUrl("https://example.org/x")});
+    QTest::keyClick(&w.input(), 'b');
+    mount.answerFrom(0);
+    ASSERT_TRUE(eventually([&hint] { return hint.accessibleName() == "ab"; }));
+    EXPECT_EQ(w.text("inputMessage"), "");
 
     // A command that can't do without the answer waits for it; an output given meanwhile stays.
-    w.window->processCommandLine({"-ifile", w.path("ab"), "-ofile", w.path("mine")});
-    w.answerPassword("");
-    QTest::keyClick(w.window.get(), Qt::Key_F5);
-    EXPECT_EQ(w.result(), "Password not defined");
-    EXPECT_EQ(w.output().text(), w.path("mine"));
-    EXPECT_EQ(looks, 4);
+    for (const char* given : {"", "mine"}) {
+        w.output().clear();
+        mount.answerFrom(INT_MAX);
+        mount.looks = 0;
+        w.window->processCommandLine({"-ifile", w.path("ab")});
+        if (*given)
+            w.output().setText(w.path(given));
+        w.answerPassword("");
+        QTimer::singleShot(0, w.window.get(), [&mount] { mount.answerFrom(0); });
+        QTest::keyClick(w.window.get(), Qt::Key_F5);
+        EXPECT_EQ(w.result(), "Password not defined");
+        EXPECT_EQ(w.output().text(), w.path(*given ? given : "ab.enc"));
+        EXPECT_EQ(mount.looks, 1);
+    }
 }
 
 TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
@@ -577,6 +754,14 @@ TEST_F(MainWindowTest, DoesWhatTheCommandLineSays)
     w.window->processCommandLine({"-algorithm", "no such", "-ifile", w.path("missing")});
     EXPECT_EQ(w.algorithms.displayName(w.form().algFrame().selection()), "AES-128");
     EXPECT_EQ(w.output().text(), w.path("out")) << "no proposal for what isn't there";
+    w.writeInput("a[*]", 10); // the toolkit's mark
+    w.window->processCommandLine({w.path("a[*]")});
+    EXPECT_EQ(w.window->windowHandle()->title(), "a[*] - Quillet");
+    w.input().setText(w.path("in"));
+    const auto& hint = *w.window->findChild<CDropHint*>();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&hint] { return hint.accessibleName() == "in"; }, WindowHarness::JobTimeoutMs));
+    EXPECT_EQ(w.output().text(), w.path("a[*].enc")) << "a proposal is for what the user gives";
 }
 
 TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
@@ -596,7 +781,11 @@ TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
     EXPECT_EQ(hintHeight(), idle) << "whatever there is to say";
     w.window->setGeometry(70, 60, 420, 380);
     w.window->close();
-    EXPECT_GT(WindowHarness().window->y(), 60) << "the other one is not covered";
+    {
+        const WindowHarness other;
+        EXPECT_GT(other.window->y(), 60) << "the first one is not covered";
+        other.window->close(); // and does not take its place
+    }
     w.window.reset();
     EXPECT_EQ(WindowHarness().window->geometry(), QRect(70, 60, 420, 380));
 }
@@ -612,10 +801,13 @@ TEST_F(MainWindowTest, TellsAScreenReaderWhatIsWhat)
         auto* accessible = QAccessible::queryAccessibleInterface(widget);
         EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
     }
+    for (const char* name : {"buttonEncrypt", "buttonDecrypt", "buttonStop"})
+        EXPECT_NE(w.button(name).accessibleDescription(), "");
     const auto& hint = *w.window->findChild<CDropHint*>();
     auto* accessible = QAccessible::queryAccessibleInterface(const_cast<CDropHint*>(&hint));
     EXPECT_EQ(accessible->role(), QAccessible::Button);
     EXPECT_EQ(accessible->text(QAccessible::Name), "in");
+    EXPECT_EQ(accessible->text(QAccessible::Description), "10 bytes");
     EXPECT_TRUE(
         accessible->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
     auto* bar = QAccessible::queryAccessibleInterface(w.window->findChild<QProgressBar*>());
@@ -628,7 +820,8 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
     folder().write("translations/quillet.langs.xml",
                    "<locales><locale language='de' country='DE' displayname='Deutsch' file='de.properties' "
                    "filetype='properties'/></locales>");
-    folder().write("translations/de.properties", "JobRequest|Password\\ not\\ defined=Kein Passwort\n");
+    folder().write("translations/de.properties", "JobRequest|Password\\ not\\ defined=Kein Passwort\n"
+                                                 "Actions|&Quit=&Ende\nCJobFrame|Encrypt=Machen\n");
     w.options.applyAtStart();
     w.writeInput("in", 10);
     w.input().setText(w.path("in"));
@@ -640,17 +833,19 @@ TEST_F(MainWindowTest, ChangesTheLanguageAtOnce)
     struct
     {
         std::uint32_t wanted, stored;
-        const char* message;
+        const char *message, *action, *button;
     } const cases[] = {
-        {1031, 1031, "Kein Passwort"},
-        {1036, 1031, "Kein Passwort"}, // without a translation all stays as it is
-        {1033, 1033, "Password not defined"},
+        {1031, 1031, "Kein Passwort", "&Ende", "Machen"},
+        {1036, 1031, "Kein Passwort", "&Ende", "Machen"}, // without a translation all stays as it is
+        {1033, 1033, "Password not defined", "&Quit", "Encrypt"},
     };
     for (const auto& c : cases) {
         options.localeId = c.wanted;
         w.window->appOptionsChanged(options);
         QCoreApplication::processEvents();
         EXPECT_EQ(w.result(), c.message);
+        EXPECT_EQ(w.window->findChild<QAction*>("quit")->text(), c.action);
+        EXPECT_EQ(w.button("buttonEncrypt").text(), c.button);
         EXPECT_EQ(w.options.read().localeId, c.stored);
     }
 }
