@@ -10,6 +10,5 @@ void wipe(void* data, std::size_t size) noexcept;
 /// Whole pages for at least `size` bytes: left out of core dumps, and kept out of the swap space where the
 /// limit of the process allows it. Null when there is no memory.
 [[nodiscard]] void* mapSecretPages(std::size_t size) noexcept;
-void unmapPages(void* pages, std::size_t size) noexcept;
 
 } // namespace tessaly::platform

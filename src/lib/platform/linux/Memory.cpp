@@ -22,9 +22,4 @@ void* mapSecretPages(std::size_t size) noexcept
     return pages;
 }
 
-void unmapPages(void* pages, std::size_t size) noexcept
-{
-    ::munmap(pages, size);
-}
-
 } // namespace tessaly::platform
