@@ -15,21 +15,24 @@ public:
     std::string calls;
     std::int64_t total = -1;
     char cancelAfter = ' ';
-    std::function<void()> atFlush = [] {};
+    std::function<void(char)> onCall = [](char) {}; ///< p(rogress) among them
 
     void jobStarted(std::int64_t size) override
     {
-        calls += 's';
         total = size;
+        note('s');
     }
-    void jobDerivingKey() override { calls += 'd'; }
-    void jobProgress(std::int64_t, float) override {}
-    void jobFlushing() override
-    {
-        calls += 'w';
-        atFlush();
-    }
+    void jobDerivingKey() override { note('d'); }
+    void jobProgress(std::int64_t, float) override { onCall('p'); }
+    void jobFlushing() override { note('w'); }
     bool isJobCancelled() override { return calls.back() == cancelAfter; }
+
+private:
+    void note(char call)
+    {
+        calls += call;
+        onCall(call);
+    }
 };
 
 } // namespace test

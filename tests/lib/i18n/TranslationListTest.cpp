@@ -1,6 +1,7 @@
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/StrBundleTrMgr.h"
 #include "lib/i18n/list/TranslationListLoaderXml.h"
+#include "lib/i18n/list/WordTest.h"
 #include "lib/i18n/resource/LocaleResLoaderTrFile.h"
 #include "support/TempFolder.h"
 
@@ -53,6 +54,17 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
               err::library(err::FileTooLarge));
     EXPECT_EQ(loader.load(folder.wide("missing")).code, err::system(ENOENT));
     EXPECT_EQ(loader.translations(), expected);
+}
+
+TEST(TranslationListLoaderXml, KnowsTheWordsOfOldFiles)
+{
+    for (const char* word : {"1", "ok", "yes", "ofcouse", "true", "OK", "YES", "TRUE"})
+        EXPECT_EQ(readYesNo(word), true) << word;
+    for (const char* word : {"0", "not", "never", "false", "NeVer"})
+        EXPECT_EQ(readYesNo(word), false) << word;
+    for (const char* word : {"", "no", "x", "ofcourse", "2", " 1"})
+        EXPECT_EQ(readYesNo(word), std::nullopt) << word;
+    EXPECT_EQ(asciiLower("@AZ[`az{\xC3\x84"), "@az[`az{\xC3\x84");
 }
 
 TEST(LocaleResLoaders, SurviveBrokenFiles)

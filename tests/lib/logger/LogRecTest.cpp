@@ -53,6 +53,7 @@ protected:
     ~LogRecTest() override
     {
         setClock(nullptr);
+        EXPECT_NE(now(), 42);
         EXPECT_EQ(sender.release(), 0U) << "a record kept its reference";
     }
 
