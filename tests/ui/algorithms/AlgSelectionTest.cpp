@@ -197,7 +197,7 @@ TEST(SetAlgDialog, FiltersByEveryColumnAndPutsTheRecommendedFirst)
         return names.join(' ');
     };
     const std::pair<const char*, const char*> cases[] = {
-        {"SERPENT", "Serpent-128 Serpent-192 Serpent-256"},
+        {"SERPENT ", "Serpent-128 Serpent-192 Serpent-256"},
         {"blocks of 1024", "Threefish-1024"},
         {" recommended", "AES-256 Twofish-256 Serpent-256 Camellia-256"},
         {"short key", "Skipjack"},

@@ -149,6 +149,7 @@ TEST_F(OptionsDialog, EveryCheckBoxStandsForItsOption)
         EXPECT_EQ(unchosen(applied.back()), unchosen(expected)) << label;
         EXPECT_FALSE(child(dialog, "buttonApply").isEnabled()) << label;
         (*found)->toggle();
+        dialog.onUiApply();
     }
 }
 
@@ -378,6 +379,10 @@ TEST_F(OptionsDialog, LanguagesAndAlgorithmsThatAreNotOffered)
     auto& algorithm = child<QComboBox>(dialog, "comboAlgorithm");
     QTest::keyClick(&algorithm, Qt::Key_Down);
     EXPECT_EQ(algorithm.currentText(), "Alg-3") << "the disabled one is passed over";
+    EXPECT_TRUE(child(dialog, "buttonApply").isEnabled());
+    dialog.onUiApply();
+    QTest::keyClick(&child(dialog, "comboLevel"), Qt::Key_Down);
+    EXPECT_TRUE(child(dialog, "buttonApply").isEnabled()) << "after each change";
 }
 
 TEST_F(OptionsDialog, ChoosesTheOutputFolder)
@@ -468,7 +473,8 @@ TEST_F(OptionsDialog, PlacesItsColumnsByTheRoomAndTheLanguage)
         QApplication::setLayoutDirection(direction);
         EXPECT_TRUE(comesTrue([&] {
             return direction == Qt::LeftToRight ? left("labelOutputDir") > left("checkUseOutputDir")
-                                                : right("labelOutputDir") < right("checkUseOutputDir");
+                                                : left("labelOutputDir") > left("editOutputDir") &&
+                                                      right("labelOutputDir") < right("checkUseOutputDir");
         }));
     }
 }

@@ -20,7 +20,7 @@ TEST(PasswordStrength, RatesGuessability)
 {
     const std::pair<const char*, int> cases[] = {
         {"password", 1},
-        {"Quillet1", 1},
+        {"quilletquillet", 1},
         {"aaaaaaaaaaaaaaaaaaaaaaaa", 1},
         {"Tr0ub4dor&3", 3},
         {"correct horse battery staple", 5},
@@ -56,6 +56,16 @@ TEST(PasswordStrength, RatesGuessability)
     }
 }
 
+struct Paints : QObject
+{
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
 TEST(StrengthBar, FillsAsManyFieldsAsTheLevelFromTheSideOfTheLanguage)
 {
     CStrengthBar bar;
@@ -77,6 +87,12 @@ TEST(StrengthBar, FillsAsManyFieldsAsTheLevelFromTheSideOfTheLanguage)
                                   : QString(level, '#').rightJustified(thisapp::HighestStrength, '-'));
         }
     EXPECT_EQ(bar.accessibleDescription(), "text");
+    open(bar);
+    Paints paints;
+    EXPECT_TRUE(comesTrue([&bar] { return !bar.visibleRegion().isEmpty(); }));
+    bar.installEventFilter(&paints);
+    bar.showStrength({});
+    EXPECT_TRUE(comesTrue([&paints] { return paints.count > 0; }));
 }
 
 TEST(SecretFields, LeaveNoCopyBehind)

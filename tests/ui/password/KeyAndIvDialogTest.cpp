@@ -7,6 +7,7 @@
 #include "ui/password/CSetKeyAndIvDialog.h"
 
 #include <QClipboard>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -95,6 +96,10 @@ TEST_F(KeyAndIvDialog, TakesNoMegabyteFromTheClipboard)
     key.selectAll();
     key.paste();
     EXPECT_EQ(key.document()->characterCount(), CHexEdit::MostText);
+    key.selectAll();
+    QApplication::clipboard()->setText("ab");
+    key.paste();
+    EXPECT_EQ(key.toPlainText(), "ab") << "what is replaced makes room";
 }
 
 TEST_F(KeyAndIvDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
@@ -153,6 +158,7 @@ TEST_F(KeyAndIvDialog, TitlesAndLabelsTellModeAndLengths)
     EXPECT_EQ(label("labelSubject"), "file and 1 more");
     EXPECT_EQ(child(dialog, "buttonCopy").accessibleDescription(),
               "Puts key and IV on the clipboard, from where they are removed after 60 seconds.");
+    EXPECT_TRUE(child(dialog, "buttonCopy").toolTip().contains("60 seconds"));
     EXPECT_EQ(iv.sizeHint(), key.sizeHint()) << "two lines at the least";
     EXPECT_EQ(label("labelKey"), "&Key, length: 4 bytes (HEX format)");
     EXPECT_EQ(label("labelIv"), "&Initialization vector (IV), length: 2 bytes (HEX format)");
@@ -171,6 +177,7 @@ TEST_F(KeyAndIvDialog, TitlesAndLabelsTellModeAndLengths)
 
 TEST_F(KeyAndIvDialog, HandsOverToThePasswordDialogAndKeepsWhatWasTyped)
 {
+    dialog.setRewriteOutputFile(true);
     open(dialog);
     type("0102");
     press(Qt::Key_Tab);
@@ -181,7 +188,7 @@ TEST_F(KeyAndIvDialog, HandsOverToThePasswordDialogAndKeepsWhatWasTyped)
     press(Qt::Key_Space);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_TRUE(dialog.switchToNormal());
-    EXPECT_TRUE(dialog.seal());
+    EXPECT_TRUE(dialog.seal() && dialog.rewriteOutputFile());
     EXPECT_EQ(dialog.iv(), bytes("0102"));
     EXPECT_TRUE(dialog.key().empty()) << "half a byte is no key";
 
@@ -242,6 +249,8 @@ std::pair<QString, bool> useFile(QWidget& dialog, Qt::Key mnemonic, const std::s
     whenModal([&](QWidget& modal) {
         auto& name = child<QLineEdit>(modal, "fileNameEdit");
         proposed = name.text();
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(modal).nameFilters().contains("All files (*)"),
+                  mnemonic == Qt::Key_L);
         name.setText(QString::fromStdString(path));
         waiting = whenModal([](QWidget&) { press(Qt::Key_Y, Qt::AltModifier); });
         QTest::keyClick(&name, Qt::Key_Return);
