@@ -33,6 +33,12 @@ constexpr AlgSelection Enabled{1, 3};
 constexpr AlgSelection Disabled{1, 1};
 constexpr AlgSelection Panama{1, 50};
 
+/// Lists what it does not accept.
+struct RefusingProvider : FakeAlgProvider
+{
+    bool isValid(const AlgSelection&) const override { return false; }
+};
+
 TEST(CryptoAlgProvider, OffersTheWholeCatalogueAndNothingElse)
 {
     const CCryptoAlgProvider provider;
@@ -276,6 +282,8 @@ TEST(SelectAlgFrame, RefusesWhatTheProviderDoesNotAccept)
     const FakeAlgProvider provider;
     CSelectAlgFrame frame;
     EXPECT_FALSE(frame.setSelection(Enabled)) << "no provider yet";
+    frame.setProvider(RefusingProvider());
+    EXPECT_FALSE(frame.setSelection(Enabled));
     frame.setProvider(provider);
     ASSERT_TRUE(frame.setSelection(Enabled));
     frame.setProvider(FakeAlgProvider());
@@ -306,10 +314,7 @@ TEST(DefaultAlgCommand, OpensOnTheStoredDefaultOrTheBuiltInOne)
         EXPECT_EQ(outcome->current, opensOn);
         EXPECT_TRUE(outcome->storeAsDefault);
     }
-    struct : FakeAlgProvider
-    {
-        bool isValid(const AlgSelection&) const override { return false; }
-    } refusing;
+    const RefusingProvider refusing;
     whenModal([](QWidget&) { press(Qt::Key_Return); });
     EXPECT_FALSE(thisapp::askDefaultAlgorithm(nullptr, refusing, std::nullopt));
 }

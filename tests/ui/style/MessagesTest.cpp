@@ -3,6 +3,7 @@
 #include "ui/style/Announcement.h"
 #include "ui/style/CMessageField.h"
 #include "ui/style/CMessageLabel.h"
+#include "ui/style/MaskedText.h"
 
 #include <QAccessible>
 #include <QTextDocument>
@@ -21,6 +22,8 @@ struct SHeard
 
 std::vector<SHeard> heard;
 bool hasReader = false;
+QAccessible::UpdateHandler handler = nullptr;
+QStringList passed; ///< texts of fields, to the platform
 
 } // namespace
 
@@ -29,8 +32,19 @@ bool QAccessible::isActive()
 {
     return hasReader;
 }
+QAccessible::UpdateHandler QAccessible::installUpdateHandler(UpdateHandler wanted)
+{
+    return std::exchange(handler, wanted);
+}
 void QAccessible::updateAccessibility(QAccessibleEvent* event)
 {
+    if (hasReader && handler == nullptr && event->type() == QAccessible::TextInserted)
+        passed += static_cast<QAccessibleTextInsertEvent*>(event)->textInserted();
+    if (hasReader && handler == nullptr && event->type() == QAccessible::TextRemoved)
+        passed += static_cast<QAccessibleTextRemoveEvent*>(event)->textRemoved();
+    if (hasReader && handler == nullptr && event->type() == QAccessible::TextUpdated)
+        passed += static_cast<QAccessibleTextUpdateEvent*>(event)->textRemoved() + '>' +
+                  static_cast<QAccessibleTextUpdateEvent*>(event)->textInserted();
     QAccessibleInterface* source = hasReader ? event->accessibleInterface() : nullptr;
     if (source != nullptr && source->role() == QAccessible::Notification)
         heard.push_back({event->type(), source->text(QAccessible::Name), event->uniqueId()});
@@ -94,6 +108,30 @@ TEST_F(Announcement, IsKeptForReadersThatAskLaterButNotForEver)
     ASSERT_EQ(heard.size(), 18U);
     EXPECT_EQ(QAccessible::accessibleInterface(heard.front().id), nullptr);
     EXPECT_NE(QAccessible::accessibleInterface(heard[2].id), nullptr) << "the second one";
+}
+
+TEST(MaskedText, KeepsPasswordsFromScreenReaders)
+{
+    hasReader = true;
+    thisapp::maskTextOfSecretFields();
+    QLineEdit field;
+    const QString bullets(3, QChar(0x2022));
+    for (const auto mode : {QLineEdit::Password, QLineEdit::PasswordEchoOnEdit, QLineEdit::Normal}) {
+        field.setEchoMode(mode);
+        passed.clear();
+        QAccessibleTextInsertEvent inserted(&field, 0, "abc");
+        QAccessibleTextRemoveEvent removed(&field, 0, "abc");
+        QAccessibleTextUpdateEvent updated(&field, 0, "abc", "abc");
+        for (QAccessibleEvent* event :
+             std::initializer_list<QAccessibleEvent*>{&inserted, &removed, &updated}) {
+            ASSERT_NE(handler, nullptr) << "for every change";
+            handler(event);
+        }
+        const QString told = mode == QLineEdit::Normal ? "abc" : bullets;
+        EXPECT_EQ(passed, QStringList({told, told, told + '>' + told}));
+    }
+    handler = nullptr;
+    hasReader = false;
 }
 
 template <class Widget>

@@ -231,6 +231,14 @@ TEST(ScrollPage, AsksForItsContentsAndScrollsInLess)
     contents->setMinimumSize(5000, 10);
     EXPECT_LT(page.minimumSizeHint().width(), 1000);
     EXPECT_EQ(page.minimumSizeHint().height(), 10);
+
+    contents->setMinimumSize(100, 700);
+    auto* field = new QLineEdit(contents);
+    field->move(0, 600);
+    page.resize(150, 150);
+    open(page);
+    field->setFocus();
+    EXPECT_FALSE(field->visibleRegion().isEmpty()) << "what has the focus is in sight";
 }
 
 TEST(InfoText, ShowsPlainTextWholeAndIsOnlyRead)
