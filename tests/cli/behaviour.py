@@ -371,6 +371,8 @@ class Behaviour(unittest.TestCase):
             self.assertEqual(code, 0, shown)
         shown, code = self.on_terminal(["decrypt", "-o-", "plain.enc"], [(b"Password: ", secret)])
         self.assertNotIn("Making the key", shown, "the output goes there")
+        shown, code = self.on_terminal(["decrypt", "-fo", "opened", "plain.enc"], [(b"Password: ", secret)])
+        self.assertEqual((shown.count("Making the key"), code), (1, 0), "the search has made it")
         shown, code = self.on_terminal(["encrypt", "--force", "plain"],
                                        [(b"Password: ", secret), (b"Confirm password: ", b"hunter3\n")])
         self.assertIn("do not match", shown)

@@ -113,7 +113,7 @@ TEST_F(Search, TellsWhereThereIsNothingToFind)
 
     watch.calls = watch.cancelAfter = 'd';
     const FoundAlgorithm stopped = findAlgorithm(request("encrypted", "out"), watch);
-    EXPECT_TRUE(stopped.cancelled && !stopped.algorithmId);
+    EXPECT_TRUE(stopped.cancelled && stopped.result.ok() && !stopped.algorithmId);
 
     byPassword = false;
     job->key.pop_back(); // a length that none takes

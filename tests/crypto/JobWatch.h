@@ -15,6 +15,8 @@ public:
     std::string calls;
     std::int64_t total = -1;
     char cancelAfter = ' ';
+    int questions = 0;
+    int cancelAtQuestion = 0;
     std::function<void(char)> onCall = [](char) {}; ///< p(rogress) among them
 
     void jobStarted(std::int64_t size) override
@@ -25,7 +27,7 @@ public:
     void jobDerivingKey() override { note('d'); }
     void jobProgress(std::int64_t, float) override { onCall('p'); }
     void jobFlushing() override { note('w'); }
-    bool isJobCancelled() override { return calls.back() == cancelAfter; }
+    bool isJobCancelled() override { return ++questions == cancelAtQuestion || calls.back() == cancelAfter; }
 
 private:
     void note(char call)

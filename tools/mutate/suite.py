@@ -24,8 +24,9 @@ class Test:
         self.seconds = None  # it took when nothing was wrong
 
     def passes(self, base_environment, give_up):
-        """Whether it passes in ten times its time; None when give_up was set first."""
-        limit = 20 + 10 * self.seconds if self.seconds is not None else 600
+        """Whether it passes in many times its time; None when give_up was set first."""
+        limit = 60 + 20 * self.seconds if self.seconds is not None else 600
+        self.ended = True
         end = time.monotonic() + limit
         process = subprocess.Popen(self.command, cwd=self.folder, env=base_environment | self.environment,
                                    stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -38,6 +39,7 @@ class Test:
                     if give_up.is_set():
                         return None
                     if time.monotonic() > end:
+                        self.ended = False
                         return False
         finally:
             try:
@@ -101,7 +103,7 @@ class Suite:
                         return
                     test = waiting.pop()
                 if test.passes(self.environment, found) is False and not test.passes(self.environment, threading.Event()):
-                    failed.append(test.name)
+                    failed.append(test)
                     found.set()
 
         workers = [threading.Thread(target=work) for _ in range(self.jobs)]
@@ -109,8 +111,8 @@ class Suite:
             worker.start()
         for worker in workers:
             worker.join()
-        killers.update(failed)
-        return failed[0] if failed else None
+        killers.update(test.name for test in failed)
+        return failed[0].name + ("" if failed[0].ended else ", which did not end") if failed else None
 
     def _of(self, layer, own):
         return [test for test in self.tests if (test.layer == (layer,)) == own]

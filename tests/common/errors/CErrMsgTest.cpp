@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <cerrno>
 #include <map>
 #include <string>
@@ -31,6 +34,31 @@ TEST(CErrMsg, KnowsItsTextsAndNoOthers)
     EXPECT_EQ(text, "No such file or directory");
     EXPECT_FALSE(messages.lookup(1, 99999, text));
     EXPECT_FALSE(messages.lookup(0, 0, text));
+}
+
+class Shouting final : public QTranslator
+{
+public:
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        return QString(text).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST(CErrMsg, TranslatesTheProgramsOwnTextsAlone)
+{
+    int count = 1;
+    char name[] = "test";
+    char* arguments[] = {name, nullptr};
+    const QCoreApplication application(count, arguments);
+    Shouting translator;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    std::string text;
+    EXPECT_TRUE(thisapp::CErrMsg().lookup(5, 41, text));
+    EXPECT_EQ(text, "FILE NOT FOUND");
+    EXPECT_TRUE(thisapp::CErrMsg().lookup(1, ENOENT, text));
+    EXPECT_EQ(text, "No such file or directory");
 }
 
 TEST(CErrMsg, AnErrorLineHasTheTextOfTheFirstAndTheCodeOfTheLast)

@@ -67,6 +67,11 @@ TEST(OutputNaming, PrefixSuffixAndDate)
                            {longest + "n.txt", longest + "n.txt.enc"}});
     expectNames(settings, {{"a", "x-a-y.enc"}}, QDate());
     expectNames(settings, {{"a", "x-a_0987_12_31-y.enc"}}, QDate(987, 12, 31));
+    for (thisapp::NameParts* parts : {&settings.encryption, &settings.decryption})
+        parts->addPrefix = parts->addSuffix = parts->addDate = false;
+    expectNames(settings, {{"a", "a.enc"}, {"a.enc", "a.dec"}});
+    EXPECT_EQ(thisapp::outputFileName("a.enc", thisapp::NamingDirection::Encryption, settings, QDate()),
+              "a.enc");
     settings.decryption.ext = "longer";
     expectNames(settings, {{longest + ".enc", longest + ".longer"}});
 }

@@ -88,6 +88,18 @@ TEST_F(LogRecTest, StreamsNumbersTextsAndPairs)
                                "b:5:1/2,3/4 5/4003,0/0,1/2"}));
 }
 
+TEST_F(LogRecTest, SendsAgainOnlyWhatIsNew)
+{
+    sender.setLevel(Trace);
+    {
+        LogRec<char> record(&sender, Error, "test");
+        record << "one";
+        record.flush();
+        record << "two";
+    }
+    EXPECT_EQ(notes, (Messages{"b:2:one", "b:2:two"}));
+}
+
 TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)
 {
     sender.setLevel(Trace);
