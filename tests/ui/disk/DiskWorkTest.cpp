@@ -44,7 +44,7 @@ TEST(DiskWork, AnswersWithoutAThreadAndAfterAnException)
     int told = 0;
     QObject::connect(&disk, &CDiskWork::notifyAnswered, [&told] { ++told; });
     const auto failed = disk.start<int>([]() -> int { throw std::bad_alloc(); });
-    EXPECT_TRUE(disk.wait(failed));
+    ASSERT_TRUE(disk.wait(failed));
     EXPECT_EQ(failed.get(), 0);
     const test::NewThreads none([] { return false; });
     const auto answer = disk.start<int>([] { return 7; });
