@@ -100,8 +100,9 @@ int removeSerialisedValues(const QString& path)
         return 0;
     QSaveFile cleaned(path);
     cleaned.setDirectWriteFallback(true);
-    const bool written =
-        cleaned.open(QIODevice::WriteOnly) && cleaned.write(kept) == kept.size() && cleaned.commit();
+    // Without the flush, commit() would put a torn file in place: it overlooks what fails then.
+    const bool written = cleaned.open(QIODevice::WriteOnly) && cleaned.write(kept) == kept.size() &&
+                         cleaned.flush() && cleaned.commit();
     return written ? removed : -1;
 }
 

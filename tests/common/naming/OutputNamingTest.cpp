@@ -54,6 +54,11 @@ TEST(OutputNaming, PrefixSuffixAndDate)
         parts->prefix = "x-";
         parts->suffix = "-y";
     }
+    settings.decryption.addPrefix = settings.encryption.addPrefix = false;
+    settings.encryption.addSuffix = false;
+    expectNames(settings, {{"a", "a_2024_03_05.enc"}, {"a.enc", "a_2024_03_05-y.dec"}});
+    settings.decryption.addPrefix = settings.encryption.addPrefix = true;
+    settings.encryption.addSuffix = true;
     const QString longest(124, 'n');
     expectNames(settings, {{"report.txt", "x-report_2024_03_05-y.txt.enc"},
                            {"report.txt.enc", "x-report.txt_2024_03_05-y.dec"},

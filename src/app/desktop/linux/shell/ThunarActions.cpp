@@ -202,7 +202,8 @@ bool ThunarActions::store(const QString& xml) const
     const QByteArray bytes = xml.toUtf8();
     QSaveFile file(m_path); // writes through a symbolic link, and keeps the permissions
     return QDir().mkpath(QFileInfo(m_path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes) == bytes.size() && file.commit();
+           file.write(bytes) == bytes.size() && file.flush() &&
+           file.commit(); // commit() overlooks a failed flush
 }
 
 bool ThunarActions::write(const std::string& program) const
