@@ -98,6 +98,7 @@ OTHER_LINES = {
     "malloc": ["out of memory", "Resource temporarily unavailable", SECRET,
                r"(Failed to .*|Cannot allocate memory) \(error: (1/12|53/6|5/13|5/14|5/4000|5/4002|5/4020|5/4042)\)\. "],
 }
+OTHER_LINES["mmap"] = OTHER_LINES["malloc"]  # pages for secrets
 STEP = (r"((The (input|output)? ?file .+ could not be (opened|read|processed|created|written|stored)\.|"
         r"Standard input could not be kept in the folder .+\.|Standard output could not be written)"
         r"( What was written to standard output is incomplete\.)?)")

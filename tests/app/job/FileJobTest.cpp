@@ -193,7 +193,7 @@ TEST_F(FileJobTest, RemovesAnInputWithoutHeedingAStop)
     ASSERT_TRUE(job.startInputRemoval().ok());
     EXPECT_TRUE(job.isRunning() && !job.isStoppable());
     ASSERT_TRUE(waitForEnd());
-    EXPECT_TRUE(job.inputRemoval().removed());
+    EXPECT_TRUE(job.inputRemoval().removed);
     EXPECT_FALSE(fs::exists(folder / "plain"));
 }
 
