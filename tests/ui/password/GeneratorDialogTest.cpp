@@ -1,4 +1,4 @@
-#include "ui/NoRandomBytes.h"
+#include "support/SystemCall.h"
 #include "ui/Widgets.h"
 #include "ui/password/CPasswordGeneratorDialog.h"
 #include "ui/password/CStrengthBar.h"
@@ -78,7 +78,7 @@ TEST_F(GeneratorDialog, OffersNothingWithoutRandomBytes)
 {
     open(dialog);
     {
-        const NoRandomBytes none;
+        const test::SystemCall none("getrandom", EIO);
         child<QPushButton>(dialog, "buttonAnother").click();
     }
     EXPECT_EQ(field.text(), "");

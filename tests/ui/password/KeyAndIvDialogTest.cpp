@@ -1,6 +1,6 @@
 #include "lib/secret/Hex.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
-#include "ui/NoRandomBytes.h"
 #include "ui/ShownKind.h"
 #include "ui/Widgets.h"
 #include "ui/password/CHexEdit.h"
@@ -287,15 +287,15 @@ TEST_F(KeyAndIvDialog, GeneratesAndAsksBeforeItReplacesWhatSomebodyHas)
             QApplication::setActiveWindow(&dialog);
             EXPECT_EQ(iv.toPlainText() + key.toPlainText() == before, answer == Qt::Key_Return);
         }
-    dialog.reject();
-    open(dialog);
-    {
-        const NoRandomBytes none;
+    for (const int failing : {1, 2}) {
+        dialog.reject();
+        open(dialog);
+        const test::SystemCall none("getrandom", EIO, failing);
         child<QAbstractButton>(dialog, "buttonGenerate").click();
+        EXPECT_TRUE(key.document()->isEmpty() && iv.document()->isEmpty());
+        EXPECT_EQ(message(), "The system's random generator failed.");
+        EXPECT_EQ(messageKind(), MessageKind::Error);
     }
-    EXPECT_TRUE(key.document()->isEmpty() && iv.document()->isEmpty());
-    EXPECT_EQ(message(), "The system's random generator failed.");
-    EXPECT_EQ(messageKind(), MessageKind::Error);
 }
 
 TEST_F(KeyAndIvDialog, CopiesSavesPrivatelyAndLoads)
