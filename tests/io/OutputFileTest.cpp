@@ -262,7 +262,7 @@ TEST_P(OutputFileTest, LeavesNothingWhenItIsGivenUp)
     OutputFile::removeHiddenNames();
     EXPECT_TRUE(fs::is_empty(folder / "dir"));
     const auto exitMeanwhile = [this] {
-        static_cast<void>(begin().release());
+        [[gnu::used]] static const OutputFile* open = begin().release();
         std::exit(0);
     };
     EXPECT_EXIT(exitMeanwhile(), testing::ExitedWithCode(0), "");

@@ -280,13 +280,15 @@ TEST(SelectAlgFrame, FindsByTypingAndTellsOnlyOfTheUsersChoices)
 TEST(SelectAlgFrame, RefusesWhatTheProviderDoesNotAccept)
 {
     const FakeAlgProvider provider;
+    const FakeAlgProvider other;
+    const RefusingProvider refusing;
     CSelectAlgFrame frame;
     EXPECT_FALSE(frame.setSelection(Enabled)) << "no provider yet";
-    frame.setProvider(RefusingProvider());
+    frame.setProvider(refusing);
     EXPECT_FALSE(frame.setSelection(Enabled));
     frame.setProvider(provider);
     ASSERT_TRUE(frame.setSelection(Enabled));
-    frame.setProvider(FakeAlgProvider());
+    frame.setProvider(other);
     EXPECT_EQ(frame.selection(), Enabled) << "stays with another provider";
     frame.setProvider(provider);
     for (const AlgSelection& refused : {AlgSelection{}, Disabled, AlgSelection{2, 252}, AlgSelection{1, 7}})
