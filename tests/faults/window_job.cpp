@@ -23,7 +23,7 @@ namespace {
 
 void answer(test::WindowHarness& w, const QString& password)
 {
-    w.onDialog<CSetPasswordDialog>([&w, password](CSetPasswordDialog& dialog) {
+    w.onDialog<CSetPasswordDialog>([password](CSetPasswordDialog& dialog) {
         QTest::keyClicks(dialog.findChild<QLineEdit*>("lineEditPassword"), password);
         // Processes that are forked share the event that wakes a thread up: none may be under way.
         while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {

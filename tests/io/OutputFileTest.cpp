@@ -1,5 +1,5 @@
-#include "io/IStreamFile.h"
 #include "io/OutputFile.h"
+#include "io/IStreamFile.h"
 #include "io/PrivateFile.h"
 #include "lib/err/ErrorCodes.h"
 #include "support/SystemCall.h"

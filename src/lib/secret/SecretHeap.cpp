@@ -89,7 +89,7 @@ void deallocate(void* block, std::size_t size) noexcept
         return;
     platform::wipe(block, size);
     if (size > LargestBlock)
-        ::operator delete(block, size);
+        ::operator delete(block);
     else
         pool().deallocate(block, size);
 }

@@ -16,7 +16,7 @@ using tessaly::crypto::guarded;
 
 TEST(Guard, TellsWhatWasThrownAndWhere)
 {
-    constexpr auto Stage = err::library(err::KeyingFailed);
+    static constexpr auto Stage = err::library(err::KeyingFailed);
     const auto result = [](CryptoPP::Exception::ErrorType type) {
         return CryptoResult({err::CategoryCryptoPP, static_cast<std::uint32_t>(type)}, Stage);
     };
