@@ -99,10 +99,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(memory.peak() <= 256 * size + (1 << 20), "memory in proportion to the file");
     }
     checkOptions(options);
-    // A name part that the user typed may look like anything.
+    // A name part that the user typed may look like anything else.
     if (const QString typed =
             QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<int>(size)).right(40);
-        isNamePart(typed) && QString::fromUtf8(typed.toUtf8()) == typed)
+        isNamePart(typed) && QString::fromUtf8(typed.toUtf8()) == typed &&
+        !typed.contains(QRegularExpression("[=,\\s]@(Variant|DateTime)\\(")))
         options.encFileNamePrefix = typed;
     checkWriting(options);
     std::filesystem::remove_all(folder.path() / profile);

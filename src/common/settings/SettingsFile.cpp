@@ -65,7 +65,7 @@ QByteArray plain(const QByteArray& line)
 }
 
 /// Only what a value, or one of a list, begins with is an object to the reader; elsewhere it is the user's
-/// text.
+/// text, which is lost only when it has such a beginning behind one of the signs that may stand before it.
 bool holdsSerialisedValue(const QByteArray& line)
 {
     const QByteArray before = "=, \t\v\f\r\n";
