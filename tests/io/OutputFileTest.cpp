@@ -26,7 +26,7 @@ class OutputFileTest : public testing::TestWithParam<OutputFile::Kind>
 protected:
     void SetUp() override { fs::create_directory(folder / "dir"); }
 
-    std::shared_ptr<io::FilePlace> placeOfOut() const
+    std::shared_ptr<io::FilePlace> outputPlace() const
     {
         const auto place = std::make_shared<io::FilePlace>();
         EXPECT_TRUE(place->open(folder.at("dir/out")).ok());
@@ -35,7 +35,7 @@ protected:
     std::unique_ptr<OutputFile> begin()
     {
         auto file = std::make_unique<OutputFile>(GetParam());
-        EXPECT_TRUE(file->open(placeOfOut(), platform::Access::ownerOnly()).ok());
+        EXPECT_TRUE(file->open(outputPlace(), platform::Access::ownerOnly()).ok());
         EXPECT_FALSE(file->isBegun());
         EXPECT_EQ(file->write("data", 4), 4);
         EXPECT_TRUE(file->isBegun());
@@ -168,7 +168,7 @@ TEST_P(OutputFileTest, IsWholeOrNotThereWhateverTheSystemSaysAndOthersDo)
         fs::rename(folder.write("other", "other"), fs::directory_iterator(folder / "dir")->path());
     };
     const auto other = [this] { fs::rename(folder.write("other", "other"), folder / "dir/out"); };
-    const auto another = [this] { OutputFile().open(placeOfOut(), platform::Access::ownerOnly()).ok(); };
+    const auto another = [this] { OutputFile().open(outputPlace(), platform::Access::ownerOnly()).ok(); };
     const auto clear = [this] {
         for (const auto& entry : fs::directory_iterator(folder / "dir"))
             fs::remove(entry.path());
@@ -239,7 +239,7 @@ TEST_P(OutputFileTest, IsWholeOrNotThereWhateverTheSystemSaysAndOthersDo)
         OutputFile file(GetParam());
         file.protect(platform::fileStatus(folder / "plain"));
         const test::SystemCall call(row.call, row.how, row.at, row.before);
-        ResultCode result = file.open(placeOfOut(), platform::Access::ownerOnly(), 1 << 17);
+        ResultCode result = file.open(outputPlace(), platform::Access::ownerOnly(), 1 << 17);
         EXPECT_TRUE(result.ok() || files("dir") == row.left);
         if (result.ok() && file.write("data", 4) < 4)
             result = file.lastError();
@@ -284,7 +284,7 @@ TEST_P(OutputFileTest, HoldsItsFolderNoLongerThanItLivesAndKeepsItsFilesToItself
     const auto inheritedBefore = inheritedFiles();
     std::weak_ptr<io::FilePlace> held;
     {
-        const auto place = placeOfOut();
+        const auto place = outputPlace();
         held = place;
         folder.write("dir/out", "in");
         io::IStreamFile<wchar_t> in;
