@@ -12,10 +12,10 @@ namespace {
 using namespace test;
 
 /// The right output up to the end of a chunk, each of which but the first was told of. Gives their number.
-std::size_t wholeChunks(const Way& way, const Outcome& outcome)
+int wholeChunks(const Way& way, const Outcome& outcome)
 {
     const std::size_t header = way.isEncryption || outcome.bytes.empty() ? 0 : 56;
-    const std::size_t chunks = (outcome.bytes.size() + header + way.chunk - 1) / way.chunk;
+    const int chunks = static_cast<int>((outcome.bytes.size() + header + way.chunk - 1) / way.chunk);
     EXPECT_EQ(outcome.bytes, way.outputOf(chunks));
     EXPECT_EQ(way.recorder.calls, courseUpTo(chunks) + "f");
     EXPECT_EQ(way.recorder.result, outcome.result);
@@ -28,14 +28,13 @@ TEST(Operation, TheFirstFailureOfTheStreamsIsTold)
     forEveryWay([](Way& way) {
         const CryptoResult readFailed(err::ReadStreamFailed, StreamFault);
         const CryptoResult writeFailed(err::WriteStreamFailed, StreamFault);
-        const int calls = static_cast<int>(way.chunks);
-        for (int read = 1; read <= calls + 1; ++read)
-            for (const int write : {1, read - 1, read, calls + 1}) {
+        for (int read = 1; read <= way.chunks + 1; ++read)
+            for (const int write : {1, read - 1, read, way.chunks + 1}) {
                 const Outcome outcome = way.run({.failAtCall = read}, {.failAtCall = write});
-                const bool all = read > calls && write > calls;
+                const bool all = read > way.chunks && write > way.chunks;
                 const bool isWrite = write > 0 && write < read;
                 EXPECT_EQ(outcome.result, all ? CryptoResult() : isWrite ? writeFailed : readFailed);
-                EXPECT_EQ(wholeChunks(way, outcome), std::min(isWrite ? write : read, calls + 1) - 1);
+                EXPECT_EQ(wholeChunks(way, outcome), std::min(isWrite ? write : read, way.chunks + 1) - 1);
             }
         for (std::size_t size = 0; size < way.input.size(); size += way.chunk / 5) {
             const Outcome outcome = way.run({.endsAt = static_cast<std::int64_t>(size)});
@@ -53,16 +52,16 @@ TEST(Operation, TheFirstFailureOfTheStreamsIsTold)
 TEST(Operation, StopsAfterTheChunkAtHand)
 {
     forEveryWay([](Way& way) {
-        for (int chunks = 0; chunks <= static_cast<int>(way.chunks); ++chunks) {
+        for (int chunks = 0; chunks <= way.chunks; ++chunks) {
             const auto stopThere = [&](int call) { call == chunks ? way.stop() : void(); };
             way.stop(); // an early stop is forgotten at the start
             way.recorder.onCall = [&](char) { stopThere(0); };
             const Outcome outcome = way.run({}, {.onCall = stopThere});
             EXPECT_EQ(outcome.result, CryptoResult());
             EXPECT_EQ(way.recorder.calls.back(), 'F');
-            if (way.chunks == 5) // else the caller may be behind with its reports
-                EXPECT_EQ(way.recorder.calls, courseUpTo(static_cast<std::size_t>(chunks)) + "F");
-            EXPECT_EQ(outcome.bytes, way.outputOf(static_cast<std::size_t>(chunks)));
+            // In a pipeline the caller may be behind with its reports.
+            EXPECT_TRUE(way.chunks > 5 || way.recorder.calls == courseUpTo(chunks - 1) + "F");
+            EXPECT_EQ(outcome.bytes, way.outputOf(chunks));
             EXPECT_LE(way.run({.onCall = stopThere}).writes, chunks);
         }
     });
@@ -76,12 +75,14 @@ TEST(Operation, ReportsItsCourseInOrderOnTheCallingThread)
         };
         EXPECT_EQ(wholeChunks(way, way.run()), way.chunks);
         ASSERT_EQ(way.recorder.processed.size(), way.chunks - 1);
-        for (std::size_t i = 0; i < way.chunks - 1; ++i) {
-            const std::size_t processed = std::min((i + 2) * way.chunk - 56, (way.chunks - 1) * way.chunk);
-            const auto part =
-                static_cast<float>(processed) / static_cast<float>((way.chunks - 1) * way.chunk);
-            EXPECT_EQ(way.recorder.processed[i], processed);
-            EXPECT_FLOAT_EQ(way.recorder.percents[i], part * 100);
+        const auto chunk = static_cast<std::int64_t>(way.chunk);
+        const std::int64_t all = chunk * (way.chunks - 1);
+        std::int64_t end = chunk - 56;
+        for (std::size_t i = 0; i < way.recorder.processed.size(); ++i) {
+            end = std::min(end + chunk, all);
+            EXPECT_EQ(way.recorder.processed[i], end);
+            EXPECT_FLOAT_EQ(way.recorder.percents[i],
+                            static_cast<float>(end) * 100 / static_cast<float>(all));
         }
 
         way.job.intervalMs = 100000;

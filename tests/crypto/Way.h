@@ -43,12 +43,12 @@ private:
 /// One way of one algorithm over some chunks, by default five small ones, whose course is recorded.
 struct Way
 {
-    Way(const char* name, bool encryption, std::uint32_t chunkSize = 60, std::size_t count = 5)
+    Way(const char* name, bool encryption, std::uint32_t chunkSize = 60, int count = 5)
         : isEncryption(encryption), job(name), chunks(count)
     {
         job.chunkSize = chunkSize;
         chunk = tessaly::crypto::effectiveChunkSize(chunkSize, job.algorithm.record.blockLength);
-        const Bytes data = noise((chunks - 1) * chunk);
+        const Bytes data = noise(static_cast<std::size_t>(count - 1) * chunk);
         const Bytes encrypted = job.encrypt(data).bytes;
         input = isEncryption ? data : encrypted;
         output = isEncryption ? encrypted : data;
@@ -64,16 +64,17 @@ struct Way
                             : job.decrypt({input, inputFaults}, outputFaults);
     }
     void stop() { isEncryption ? job.encryptor->stop() : job.decryptor->stop(); }
-    Bytes outputOf(std::size_t most) const
+    Bytes outputOf(int most) const
     {
         Bytes start = output;
-        start.resize(std::min(most == 0 ? 0 : most * chunk - (isEncryption ? 0 : 56), output.size()));
+        const std::size_t end = static_cast<std::size_t>(most) * chunk;
+        start.resize(std::min(end - (isEncryption || end == 0 ? 0 : 56), output.size()));
         return start;
     }
 
     bool isEncryption;
     Job job;
-    std::size_t chunks;
+    int chunks;
     std::uint64_t chunk; ///< as the engine rounds it
     Bytes input;
     Bytes output;
@@ -99,9 +100,9 @@ inline void forEveryWay(const std::function<void(Way&)>& action, bool alsoSmall 
 }
 
 /// The calls up to a chunk, of which the first reports nothing.
-inline std::string courseUpTo(std::size_t chunks)
+inline std::string courseUpTo(int chunks)
 {
-    return "s" + std::string(std::max<std::size_t>(chunks, 1) - 1, 'p');
+    return "s" + std::string(static_cast<std::size_t>(std::max(chunks - 1, 0)), 'p');
 }
 
 } // namespace test

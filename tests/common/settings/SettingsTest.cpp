@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -31,7 +32,7 @@ protected:
 
     QString file() const { return profile.filePath("Tessaly/Quillet.conf"); }
     SAppOptions read() const { return thisapp::readOptions(CAppSettings(), KnownAlgorithm); }
-    static void set(const char* key, const QVariant& value) { CAppSettings().setValue(key, value); }
+    static void set(const QString& key, const QVariant& value) { CAppSettings().setValue(key, value); }
     static bool write(const SAppOptions& options)
     {
         CAppSettings settings;
@@ -103,7 +104,7 @@ TEST_F(Settings, DefaultsAreWrittenInOrderButForLocaleAndAlgorithm)
 
 /// Stores each value under every key of one type.
 template <typename T>
-void expectDefaultsFor(const std::vector<QVariant>& values)
+void expectDefaultsFor(const QVariantList& values)
 {
     for (const QVariant& value : values) {
         CAppSettings settings;
@@ -167,56 +168,16 @@ TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
 
 TEST_F(Settings, WhatCannotBeUsedReadsAsTheDefaultAndIsTold)
 {
-    const QString home = QDir::homePath();
-    const struct
-    {
-        const char* key;
-        QVariant stored;
-        QString used;
-        bool isMeant = false; ///< by what is stored, in other words or not
-    } rows[] = {
-        {"EncFileNamePrefix", "a/b", ""},
-        {"EncFileNameExt", "\\", "enc"},
-        {"EncFileNameSuffix", "/", ""},
-        {"DecFileNameExt", "a\x1F", "dec"},
-        {"DecFileNameSuffix", "a\nb", ""},
-        {"DecFileNamePrefix", "a\\", ""},
-        {"DecFileNamePrefix", "\u00E9 ~", "\u00E9 ~", true},
-        {"OutputDirPath", "FILE:///a", "/a"},
-        {"OutputDirPath", "relative", ""},
-        {"OutputDirPath", "~", home},
-        {"OutputDirPath", "~/x y", home + "/x y"},
-        {"OutputDirPath", "~other/x", ""},
-        {"OutputDirPath", "file:///a%20b", "/a b"},
-        {"OutputDirPath", "file://localhost/a", "/a"},
-        {"OutputDirPath", "file://else/a", ""},
-        {"OutputDirPath", "sftp://h/a", ""},
-        {"OutputDirPath", ":/icons", ""},
-        {"OutputDirPath", "/a", "/a", true},
-        {"UseSalt", "maybe", "false"},
-        {"UseSalt", "TRUE", "true", true},
-        {"UseSalt", 1, "true", true},
-        {"ShowConfirmDialog", "False", "false", true},
-        {"ShowConfirmDialog", 0, "false", true},
-        {"LogLevel", -1, "0"},
-        {"LogLevel", 6, "6", true},
-        {"LogLevel", 7, "0"},
-        {"LocaleId", 0, "1033"},
-        {"LocaleId", "1034", "1033"},
-        {"LocaleId", -1, "1033"},
-        {"LocaleId", "x", "1033"},
-        {"LocaleId", 1031, "1031", true},
-        {"DefaultCryptoLibrary", "2", "1"},
-        {"DefaultCryptoAlgorithm", "8", "252"},
-    };
-    for (const auto& row : rows) {
+    for (const test::Row& row : test::dataRows("settings_values.txt")) {
+        const QString key = QString::fromStdString(row.at(0));
+        const QString stored = QString::fromStdString(row.at(1)).replace("^J", "\n").replace("^_", "\x1F");
+        const QString used =
+            QString::fromStdString(row.at(2)).replace(QRegularExpression("^~"), QDir::homePath());
         CAppSettings().clear();
-        set(row.key, row.stored);
-        const QString stored = row.stored.toString();
-        EXPECT_EQ(unused(read()), row.isMeant ? "" : row.key + (' ' + stored) + '>' + row.used + ' ');
+        set(key, stored);
+        EXPECT_EQ(unused(read()), row.at(3) == "meant" ? "" : key + ' ' + stored + '>' + used + ' ');
         write(read());
-        EXPECT_EQ(CAppSettings().value(row.key).toString(), row.used)
-            << row.key << ' ' << stored.toStdString();
+        EXPECT_EQ(CAppSettings().value(key).toString(), used) << testing::PrintToString(row);
     }
     set("UseDefaultAlgorithmAtStarting", false);
     EXPECT_EQ(unused(read()), "") << "nobody asks for it";
