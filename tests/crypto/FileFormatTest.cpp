@@ -1,8 +1,6 @@
 #include "crypto/Engine.h"
 #include "support/DataRows.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
 namespace {

@@ -1,8 +1,6 @@
 #include "crypto/Jobs.h"
 #include "support/DataRows.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <map>
 #include <thread>

@@ -5,8 +5,6 @@
 #include "crypto/sealed/SealedFormat.h"
 #include "crypto/sealed/SealedKeys.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>

@@ -1,7 +1,5 @@
 #include "crypto/Way.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <chrono>
 #include <stdexcept>

@@ -3,8 +3,6 @@
 #include "crypto/sealed/SealedFormat.h"
 #include "support/DataRows.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using namespace test;

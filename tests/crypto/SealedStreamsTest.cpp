@@ -4,8 +4,6 @@
 #include "crypto/sealed/SealingOutput.h"
 #include "support/NewThreads.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using namespace test;
