@@ -62,6 +62,7 @@ TEST_SYSTEM_CALL(int, linkat, (int from, const char* old, int to, const char* na
                  (from, old, to, name, flags))
 TEST_SYSTEM_CALL(int, renameat2, (int from, const char* old, int to, const char* name, unsigned flags),
                  (from, old, to, name, flags))
+TEST_SYSTEM_CALL(int, unlinkat, (int folder, const char* name, int flags), (folder, name, flags))
 TEST_SYSTEM_CALL(int, fallocate, (int fd, int mode, off_t offset, off_t length), (fd, mode, offset, length))
 TEST_SYSTEM_CALL(ssize_t, getrandom, (void* data, std::size_t size, unsigned flags), (data, size, flags))
 TEST_SYSTEM_CALL(int, flock, (int fd, int operation), (fd, operation))
