@@ -24,12 +24,10 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     QString input, output, chosenInput, chosenOutput;
     std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
     std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
-    OnEncrypted onEncrypted = OnEncrypted::Encrypt;
     bool engine = true;
     bool answers = true;
     std::pair<Area, std::string> message;
     QString dialogTitle;
-    std::pair<int, int> counted;
 
     bool isJobRunning() const override { return running; }
     AlgSelection selection() const override { return selected; }
@@ -48,11 +46,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
-    OnEncrypted askAboutEncrypted(int encrypted, int all) override
-    {
-        counted = {encrypted, all};
-        return onEncrypted;
-    }
+    OnEncrypted askAboutEncrypted(int, int) override { return OnEncrypted::Cancel; }
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
     bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
     bool prepareEngine(Operation, const AlgSelection&) override { return engine; }
@@ -172,30 +166,25 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
 
-TEST_P(JobRequestTest, AsksOnceForAllFilesOfAList)
+/// The fields of a decryption show no such switches.
+TEST_P(JobRequestTest, SealsAndSaltsByTheSettingsOnlyWhatItEncrypts)
 {
-    host.output = path("out.txt");
-    const QStringList names{"a.txt", "b.ENC", "c"};
-    QStringList asked;
-    host.password = [&asked](PasswordEntry& entry) {
-        asked = entry.names;
-        return enterSecret(entry);
-    };
-    for (const OnEncrypted answer : {OnEncrypted::Cancel, OnEncrypted::LeaveOut}) {
-        const bool goesOn = !encrypts || answer != OnEncrypted::Cancel;
-        host.onEncrypted = answer;
-        asked.clear();
-        JobRequest request(GetParam(), host, host);
-        EXPECT_EQ(request.runForList(names).has_value(), goesOn);
-        EXPECT_EQ(request.onEncrypted(), encrypts ? answer : OnEncrypted::Encrypt);
-        EXPECT_EQ(asked, goesOn ? names : QStringList());
-    }
-    EXPECT_EQ(host.counted, encrypts ? std::pair(1, 3) : std::pair(0, 0));
-    folder.write("x.enc", "");
-    host.input = path("x.enc");
-    host.output = path("x");
-    host.onEncrypted = OnEncrypted::Cancel;
-    EXPECT_EQ(run().has_value(), !encrypts);
+    CAppSettings().setValue("SealFiles", true);
+    CAppSettings().setValue("UseSalt", true);
+    host.input = path("in.txt");
+    host.output = path("new");
+    host.password = enterSecret;
+    const auto job = run();
+    ASSERT_TRUE(job);
+    EXPECT_EQ(job->request.seal, encrypts);
+    EXPECT_EQ(job->request.useSalt, encrypts);
+}
+
+TEST_P(JobRequestTest, NamesAllFilesOfAList)
+{
+    const QStringList names{"a.txt", "b", "c"};
+    host.password = [&names](PasswordEntry& entry) { return entry.names == names && enterSecret(entry); };
+    EXPECT_TRUE(JobRequest(GetParam(), host, host).runForList(names)) << host.message.second;
 }
 
 /// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one. What a

@@ -1,6 +1,5 @@
 #include "window/WindowHarness.h"
 
-#include "support/Environment.h"
 #include "support/Eventually.h"
 
 namespace test {
@@ -107,9 +106,6 @@ TEST_F(OptionsHandlerTest, TellsWhatIsNotInEffect)
     EXPECT_EQ(problemOf(), "Nothing is written to the log file: Failed to create file logger.");
     wanted.useLogFile = false;
     EXPECT_EQ(problemOf(), "");
-    folder.write("file", "");
-    const Environment noFolder("XDG_CONFIG_HOME", (folder / "file").c_str());
-    EXPECT_EQ(problemOf(), "The options can't be saved in " + (folder / "file/Tessaly/Quillet.conf") + ".");
 }
 
 } // namespace test
