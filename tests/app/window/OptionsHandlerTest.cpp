@@ -52,7 +52,7 @@ TEST_F(OptionsHandlerTest, WhatDoesNotFitGivesWayAndIsLogged)
     EXPECT_FALSE(options.defaultAlgorithm() || selected.isComplete()) << "there is none such";
     used.setDefaultAlgorithm({1, 452});
     EXPECT_EQ(apply(used).problem, "");
-    EXPECT_EQ(selected, AlgSelection(1, 452));
+    EXPECT_EQ(selected, (AlgSelection{1, 452}));
     EXPECT_EQ(options.defaultAlgorithm(), selected);
     EXPECT_EQ(CAppSettings().value("LocaleId").toInt(), 1033);
     used.localeId = 1031;
