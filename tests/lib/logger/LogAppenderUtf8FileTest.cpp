@@ -7,10 +7,8 @@
 
 #include <csignal>
 #include <map>
-#include <string>
 #include <sys/resource.h>
 #include <thread>
-#include <vector>
 
 namespace {
 
