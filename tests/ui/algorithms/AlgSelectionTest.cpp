@@ -101,10 +101,7 @@ TEST(AlgList, ShowsAsManyColumnsAsThereIsRoomFor)
 
 struct SetAlgDialog : DialogTest<CSetAlgDialog>
 {
-    void click(int row, void (*button)(QWidget*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int))
-    {
-        button(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center(), -1);
-    }
+    QPoint place(int row) const { return list.visualItemRect(list.item(row)).center(); }
     QString shown() const
     {
         QStringList names;
@@ -130,13 +127,13 @@ TEST_F(SetAlgDialog, ListsADisabledAlgorithmThatNothingCanChooseAndFillsOnceForE
     reopen(Disabled);
     ASSERT_EQ(list.count(), 3) << "the index that yields nothing is skipped";
     EXPECT_EQ(dialog.selection(), thisapp::DefaultAlgSelection) << "the first row instead";
-    click(1, QTest::mouseClick);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place(1));
     EXPECT_EQ(dialog.selection(), thisapp::DefaultAlgSelection);
     press("Down");
     EXPECT_EQ(dialog.selection(), Enabled);
     EXPECT_EQ(text("labelAlg"), "Algorithm: Alg-3");
-    click(2, QTest::mouseClick);
-    click(2, QTest::mouseDClick);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place(2));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place(2));
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
 
     reopen(Enabled);

@@ -14,7 +14,6 @@ namespace {
 
 using thisapp::SAppOptions;
 
-const char* const SameEncrypted = "Encrypted files would get the names of their input files.";
 const char* const SameDecrypted = "Decrypted files would get the names of their input files.";
 const char* const NoFolder = "No default output folder is given: files go beside their input.";
 const char* const RelativeFolder = "The default output folder must be an absolute path.";
@@ -216,7 +215,7 @@ TEST(NamingWarning, TellsOfNamesThatCannotWork)
     };
     std::vector<SRow> rows = {
         {"enc", "dec", {}, ""},
-        {"", "dec", {}, SameEncrypted},
+        {"", "dec", {}, "Encrypted files would get the names of their input files."},
         {"enc", "ENC", {}, SameDecrypted},
         {"enc", "dec", "", NoFolder},
         {"enc", "dec", "x", RelativeFolder},
