@@ -74,8 +74,10 @@ TEST_F(LogAppenderUtf8FileTest, StartsAfreshPastTheLimitOrWithoutItsFile)
     LogAppenderUtf8File appender(1, path);
     appender.setMaxSize(static_cast<std::int64_t>(line("0").size()));
     append(appender, "0");
+    const auto start = std::chrono::steady_clock::now();
     ASSERT_TRUE(appender.start().ok());
     ASSERT_TRUE(eventually([&] { return test::readFile(path) == line("0"); }));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8)) << "it slept first";
     write(appender, "1");
     EXPECT_EQ(test::readFile(path), line("0") + line("1")) << "a file of the limit goes on";
     write(appender, "2");
