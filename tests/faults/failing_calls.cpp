@@ -22,11 +22,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern "C" void* __libc_malloc(std::size_t);
-extern "C" void* __libc_calloc(std::size_t, std::size_t);
-extern "C" void* __libc_realloc(void*, std::size_t);
-extern "C" void* __libc_memalign(std::size_t, std::size_t);
-
 namespace {
 
 /// What happens at the call instead of, or beside, an error of that number.
@@ -93,10 +88,14 @@ Function* next(const char* name)
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
-bool isWithout(const char* function)
+/// What a call gives that the file system does not have.
+bool isWithout(const char* function, int error)
 {
     const char* missing = isOn ? std::getenv("FAULTS_WITHOUT") : nullptr;
-    return missing != nullptr && std::strstr(missing, function) != nullptr;
+    if (missing == nullptr || std::strstr(missing, function) == nullptr)
+        return false;
+    errno = error;
+    return true;
 }
 
 /// The error of a call that is due.
@@ -228,13 +227,17 @@ extern "C" void endFaults()
     isOn = false;
 }
 
-#define FORWARD(group, Result, name, parameters, arguments)                                                  \
+#define FORWARD_AS(how, group, Result, name, parameters, arguments)                                          \
     extern "C" Result name parameters                                                                        \
     {                                                                                                        \
         static auto* const real = next<Result parameters>(#name);                                            \
-        return failing(group, [&] { return real arguments; });                                               \
+        return how(group, [&] { return real arguments; });                                                   \
     }
+#define FORWARD(group, Result, name, parameters, arguments)                                                  \
+    FORWARD_AS(failing, group, Result, name, parameters, arguments)
 
+FORWARD_AS(allocating, "open", std::FILE*, fopen, (const char* path, const char* mode), (path, mode))
+FORWARD_AS(allocating, "readdir", dirent*, readdir, (DIR * folder), (folder))
 FORWARD("fsync", int, fsync, (int fd), (fd))
 FORWARD("fsync", int, fdatasync, (int fd), (fd))
 FORWARD("close", int, close, (int fd), (fd))
@@ -263,10 +266,8 @@ FORWARD("getrandom", int, getentropy, (void* data, std::size_t size), (data, siz
         va_start(rest, flags);                                                                               \
         const mode_t mode = va_arg(rest, mode_t);                                                            \
         va_end(rest);                                                                                        \
-        if ((flags & O_TMPFILE) == O_TMPFILE && isWithout("O_TMPFILE")) {                                    \
-            errno = EOPNOTSUPP;                                                                              \
+        if ((flags & O_TMPFILE) == O_TMPFILE && isWithout("O_TMPFILE", EOPNOTSUPP))                          \
             return -1;                                                                                       \
-        }                                                                                                    \
         static auto* const real = next<int(first const char*, int, ...)>(#name);                             \
         return failing("open", [&] { return real(__VA_ARGS__ path, flags, mode); });                         \
     }
@@ -293,27 +294,17 @@ extern "C" ssize_t write(int fd, const void* data, std::size_t size)
 extern "C" int linkat(int from, const char* source, int to, const char* target, int flags)
 {
     static auto* const real = next<int(int, const char*, int, const char*, int)>("linkat");
-    if (isWithout("link")) {
-        errno = EPERM;
+    if (isWithout("link", EPERM))
         return -1;
-    }
     return failing("link", [&] { return real(from, source, to, target, flags); });
 }
 
 extern "C" int renameat2(int from, const char* source, int to, const char* target, unsigned flags)
 {
     static auto* const real = next<int(int, const char*, int, const char*, unsigned)>("renameat2");
-    if (isWithout(flags == RENAME_EXCHANGE ? "exchange" : "noreplace")) {
-        errno = EINVAL;
+    if (isWithout(flags == RENAME_EXCHANGE ? "exchange" : "noreplace", EINVAL))
         return -1;
-    }
     return failing("rename", [&] { return real(from, source, to, target, flags); });
-}
-
-extern "C" std::FILE* fopen(const char* path, const char* mode)
-{
-    static auto* const real = next<std::FILE*(const char*, const char*)>("fopen");
-    return allocating("open", [&] { return real(path, mode); });
 }
 
 /// One byte of an unbuffered file, which the library reads by itself.
@@ -336,12 +327,6 @@ extern "C" void* mmap(void* at, std::size_t size, int access, int flags, int fd,
     return MAP_FAILED;
 }
 
-extern "C" dirent* readdir(DIR* folder)
-{
-    static auto* const real = next<dirent*(DIR*)>("readdir");
-    return allocating("readdir", [&] { return real(folder); });
-}
-
 extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* how, void* (*run)(void*),
                               void* argument) noexcept
 {
@@ -350,25 +335,17 @@ extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* how, void
     return isDue("pthread_create") ? dueError() : real(thread, how, run, argument);
 }
 
-extern "C" void* malloc(std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_malloc(size); });
-}
+#define FORWARD_MALLOC(name, parameters, arguments)                                                          \
+    extern "C" void* __libc_##name parameters;                                                               \
+    extern "C" void* name parameters noexcept                                                                \
+    {                                                                                                        \
+        return allocating("malloc", [&] { return __libc_##name arguments; });                                \
+    }
 
-extern "C" void* calloc(std::size_t count, std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_calloc(count, size); });
-}
-
-extern "C" void* realloc(void* former, std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_realloc(former, size); });
-}
-
-extern "C" void* memalign(std::size_t alignment, std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_memalign(alignment, size); });
-}
+FORWARD_MALLOC(malloc, (std::size_t size), (size))
+FORWARD_MALLOC(calloc, (std::size_t count, std::size_t size), (count, size))
+FORWARD_MALLOC(realloc, (void* former, std::size_t size), (former, size))
+FORWARD_MALLOC(memalign, (std::size_t alignment, std::size_t size), (alignment, size))
 
 extern "C" void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept
 {

@@ -18,8 +18,8 @@ def eventually(look, what, seconds=PATIENCE):
 
 
 class Screen:
-    def __init__(self):
-        self.display = display.Display()
+    def __init__(self, name=None):
+        self.display = display.Display(name)
         self.root = self.display.screen().root
         self.own = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
 
