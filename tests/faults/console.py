@@ -140,6 +140,8 @@ class ConsoleJudge(Judge):
 
     def told(self, run, call, way, matters, code):
         if code == self.job.code and run.told == self.normal.told:
+            if call == "fsync" and matters:
+                return "a failed flush is a success"
             return None if run.out == self.normal.out or "stdout" in self.job.outputs else "another answer"
         usual = self.normal.told.splitlines()
         if call == "malloc" and code == self.job.code and len(self.whole) == len(self.job.outputs) and \
