@@ -1,28 +1,17 @@
 #!/usr/bin/python3
 """accessibility.py QUILLET: walks the main window and every dialog of the program as a screen reader does, and
 prints each control with its role, name and actions. Fails on a control without a name, or without an action
-where its role has one, and on a dialog that doesn't come. Runs on an X server and a bus of its own."""
-import importlib.util
+where its role has one, and on a dialog that doesn't come. Needs an X server and a bus of its own."""
 import os
-import shutil
 import subprocess
 import sys
 import tempfile
 import time
 
+from gi.repository import GLib
+import pyatspi  # which asks for the bus as soon as it is loaded
+
 PATIENCE = 60  # seconds, for a loaded machine
-
-if "QUILLET_WALK" not in os.environ:
-    missing = [name for name in ("xvfb-run", "dbus-run-session", "xdotool") if not shutil.which(name)]
-    missing += [name for name in ("gi", "pyatspi") if not importlib.util.find_spec(name)]
-    if missing:
-        print("not here:", *missing)
-        sys.exit(77)
-    sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
-                             sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=500).returncode)
-
-from gi.repository import GLib  # noqa: E402
-import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
 
 
 def roles(names):

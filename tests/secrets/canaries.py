@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 """canaries.py QUILLET QUILLET_CLI: gives passwords, keys and initialisation vectors to both programs in every
 place that takes them, and looks for them afterwards: in all the memory of the program, which it is held at its end
-for, in what it wrote (log at its highest level, settings, messages) and in its arguments. Runs on an X server and a
-bus of its own, with accessibility on. Libraries are bound at the start: where a function is called for the first
-time, the loader would save the registers on the stack, which nobody can wipe."""
+for, in what it wrote (log at its highest level, settings, messages) and in its arguments. Needs an X server and a bus
+of its own, and LD_BIND_NOW: where a function is called for the first time, the loader would save the registers on the
+stack, which nobody can wipe."""
 import os
 import pathlib
 import pty
@@ -20,11 +20,6 @@ from traced import Traced
 
 sys.path.insert(1, os.path.join(sys.path[0], "../support"))
 from screen import PATIENCE, Screen, eventually  # noqa: E402
-
-if "QUILLET_CANARIES" not in os.environ:
-    sys.exit(subprocess.run(
-        ["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--", sys.executable,
-         "-B", *sys.argv], env=os.environ | {"QUILLET_CANARIES": "1", "LD_BIND_NOW": "1"}, timeout=580).returncode)
 
 QUILLET, CLI = sys.argv[1:]
 ENCODINGS = ("utf-8", "utf-16-le", "utf-32-le")
