@@ -69,7 +69,7 @@ class Walk:
         print(f"== {window.name or '(no name)'}")
         self.expect(window.name, "a window without a title")
         self.node(window, 0, False)
-        for tab in find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB)[1:]:
+        for tab in list(find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB))[1:]:
             before = shown(tab.parent.parent)
             do(tab, "Press")
             self.expect(eventually(lambda: shown(tab.parent.parent) != before), f"the tab {tab.name} shows nothing")
@@ -130,13 +130,14 @@ def children(node):
 
 
 def find_all(node, predicate):
-    return [node] * predicate(node) + [found for child in children(node) for found in find_all(child, predicate)]
+    if predicate(node):
+        yield node
+    for child in children(node):
+        yield from find_all(child, predicate)
 
 
 def find(node, predicate):
-    if predicate(node):
-        return node
-    return next(filter(None, (find(child, predicate) for child in children(node))), None)
+    return next(find_all(node, predicate), None)
 
 
 def shown(node):
@@ -180,7 +181,7 @@ def encrypt(walk, main):
                                            "object:state-changed:showing")
     pyatspi.Registry.registerEventListener(lambda event: told.append(event.any_data), "object:text-changed:insert")
     dialog = opened(walk.application, button(main, "Encrypt"))
-    for field in find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
+    for field in list(find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT)):
         field.queryEditableText().setTextContents(SECRET)
     is_masked = eventually(lambda: told.count("\u2022" * len(SECRET)) == 2) and SECRET not in told
     walk.expect(is_masked, f"told of the password: {told}")

@@ -34,10 +34,7 @@ def end(process):
 def run(direction, source, target):
     process = ask(direction, source, target)
     process.send_signal(signal.SIGPIPE)  # as a reader of its output that goes away: nothing to end a job for
-    screen.type(SECRET)
-    if direction == "encrypt":
-        screen.key("Tab")
-        screen.type(SECRET)
+    screen.type(*[SECRET] * (2 if direction == "encrypt" else 1))
     screen.key("Return")
     eventually(target.exists, f"no output {target}")  # which appears when it is whole
     end(process)

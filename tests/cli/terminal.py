@@ -14,6 +14,7 @@ import tempfile
 import termios
 import time
 import unittest
+from pathlib import Path
 
 CLI = os.path.abspath(sys.argv.pop(1))
 PROMPT = b"assword: "
@@ -66,16 +67,9 @@ class Case(unittest.TestCase):
         self.addCleanup(scratch.cleanup)
         self.addCleanup(os.chdir, os.getcwd())
         os.chdir(scratch.name)
-        for name, data in ("pw", SECRET), ("plain", b"0123456789" * 10000):
-            self.write(name, data)
-
-    def write(self, name, data):
-        with open(name, "wb") as file:
-            file.write(data)
-
-    def read(self, name):
-        with open(name, "rb") as file:
-            return file.read()
+        for name, data in ("pw", SECRET), ("plain", b"0123456789" * 10000), ("large", b""):
+            Path(name).write_bytes(data)
+        os.truncate("large", 8 << 30)
 
 
 class Prompt(Case):
@@ -134,15 +128,15 @@ class Prompt(Case):
                 self.answer(*answers, code=code)
                 self.assertEqual(self.shown.count(b"Making the key of the password"), keys_made)
                 self.assertIn(shown, self.shown)
-        self.assertEqual(self.read("plain.dec"), self.read("plain"))
+        self.assertEqual(Path("plain.dec").read_bytes(), Path("plain").read_bytes())
 
     def test_output_that_appears_during_the_question_stays(self):
         subprocess.run([*ENCRYPT, "plain"], check=True)
         self.start("decrypt", "plain.enc")
-        self.write("plain.dec", b"precious")
+        Path("plain.dec").write_bytes(b"precious")
         self.answer(SECRET, code=1)
         self.assertIn(b"File exists", self.shown)
-        self.assertEqual(self.read("plain.dec"), b"precious")
+        self.assertEqual(Path("plain.dec").read_bytes(), b"precious")
 
     def test_is_hidden_again_after_a_stop(self):
         self.start()
@@ -193,17 +187,11 @@ class Prompt(Case):
 
 
 class Interrupt(Case):
-    def setUp(self):
-        super().setUp()
-        with open("large", "wb") as file:
-            file.truncate(8 << 30)
-
     def wait_until_busy(self, process):
         """Until it has worked for a moment; the output has no name by which it could be seen."""
         while process.poll() is None:
-            with open(f"/proc/{process.pid}/stat") as stat_file:
-                if int(stat_file.read().rpartition(")")[2].split()[11]) > 20:  # user time in 1/100 s
-                    return
+            if int(Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()[11]) > 20:  # 1/100 s of work
+                return
             time.sleep(0.01)
         self.fail("it ended on its own")
 

@@ -20,6 +20,7 @@
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <type_traits>
 #include <unistd.h>
 
 namespace {
@@ -106,18 +107,16 @@ int dueError()
     return order.error == FromThereOn ? ENOMEM : order.error;
 }
 
-/// A call that gives -1 and an error number.
-template <class Call>
-auto failing(const char* name, Call real) -> decltype(real())
+/// A call that fails with this value and an error number, or gives nothing.
+template <class Call, class Result = std::invoke_result_t<Call>>
+Result failing(const char* name, Call real, std::type_identity_t<Result> failed)
 {
     if (!isDue(name))
         return real();
-    if (order.error == KillAfter) {
+    if (order.error == KillAfter)
         real();
-        die();
-    }
     errno = dueError();
-    return order.error == Nothing ? 0 : -1;
+    return order.error == Nothing ? Result{} : failed;
 }
 
 /// A thread of the toolkit wakes another one up by such a file.
@@ -135,18 +134,9 @@ ssize_t moving(const char* name, int fd, std::size_t size, Call real)
     if (isOn && isEvent(fd))
         return real(size);
     if (order.error != Short)
-        return failing(name, [&] { return real(size); });
+        return failing(
+            name, [&] { return real(size); }, -1);
     return real(isDue(name) && size > 1 ? size / 2 : size);
-}
-
-/// One that gives null.
-template <class Call>
-auto allocating(const char* name, Call real) -> decltype(real())
-{
-    if (!isDue(name))
-        return real();
-    errno = dueError();
-    return nullptr;
 }
 
 bool readOrder(std::FILE* from)
@@ -227,17 +217,21 @@ extern "C" void endFaults()
     isOn = false;
 }
 
-#define FORWARD_AS(how, group, Result, name, parameters, arguments)                                          \
+#define FORWARD_OR(failed, group, Result, name, parameters, arguments)                                       \
     extern "C" Result name parameters                                                                        \
     {                                                                                                        \
         static auto* const real = next<Result parameters>(#name);                                            \
-        return how(group, [&] { return real arguments; });                                                   \
+        return failing(                                                                                      \
+            group, [&] { return real arguments; }, failed);                                                  \
     }
 #define FORWARD(group, Result, name, parameters, arguments)                                                  \
-    FORWARD_AS(failing, group, Result, name, parameters, arguments)
+    FORWARD_OR(-1, group, Result, name, parameters, arguments)
 
-FORWARD_AS(allocating, "open", std::FILE*, fopen, (const char* path, const char* mode), (path, mode))
-FORWARD_AS(allocating, "readdir", dirent*, readdir, (DIR * folder), (folder))
+FORWARD_OR(nullptr, "open", std::FILE*, fopen, (const char* path, const char* mode), (path, mode))
+FORWARD_OR(nullptr, "readdir", dirent*, readdir, (DIR * folder), (folder))
+FORWARD_OR(MAP_FAILED, "mmap", void*, mmap,
+           (void* at, std::size_t size, int access, int flags, int fd, off_t offset),
+           (at, size, access, flags, fd, offset))
 FORWARD("fsync", int, fsync, (int fd), (fd))
 FORWARD("fsync", int, fdatasync, (int fd), (fd))
 FORWARD("close", int, close, (int fd), (fd))
@@ -269,7 +263,8 @@ FORWARD("getrandom", int, getentropy, (void* data, std::size_t size), (data, siz
         if ((flags & O_TMPFILE) == O_TMPFILE && isWithout("O_TMPFILE", EOPNOTSUPP))                          \
             return -1;                                                                                       \
         static auto* const real = next<int(first const char*, int, ...)>(#name);                             \
-        return failing("open", [&] { return real(__VA_ARGS__ path, flags, mode); });                         \
+        return failing(                                                                                      \
+            "open", [&] { return real(__VA_ARGS__ path, flags, mode); }, -1);                                \
     }
 #define NONE
 #define FOLDER int folder,
@@ -296,7 +291,8 @@ extern "C" int linkat(int from, const char* source, int to, const char* target, 
     static auto* const real = next<int(int, const char*, int, const char*, int)>("linkat");
     if (isWithout("link", EPERM))
         return -1;
-    return failing("link", [&] { return real(from, source, to, target, flags); });
+    return failing(
+        "link", [&] { return real(from, source, to, target, flags); }, -1);
 }
 
 extern "C" int renameat2(int from, const char* source, int to, const char* target, unsigned flags)
@@ -304,7 +300,8 @@ extern "C" int renameat2(int from, const char* source, int to, const char* targe
     static auto* const real = next<int(int, const char*, int, const char*, unsigned)>("renameat2");
     if (isWithout(flags == RENAME_EXCHANGE ? "exchange" : "noreplace", EINVAL))
         return -1;
-    return failing("rename", [&] { return real(from, source, to, target, flags); });
+    return failing(
+        "rename", [&] { return real(from, source, to, target, flags); }, -1);
 }
 
 /// One byte of an unbuffered file, which the library reads by itself.
@@ -316,15 +313,6 @@ extern "C" int fgetc(std::FILE* file)
     if (dueError() > 0)
         file->_flags |= 0x20; // _IO_ERR_SEEN
     return EOF;
-}
-
-extern "C" void* mmap(void* at, std::size_t size, int access, int flags, int fd, off_t offset) noexcept
-{
-    static auto* const real = next<void*(void*, std::size_t, int, int, int, off_t)>("mmap");
-    if (!isDue("mmap"))
-        return real(at, size, access, flags, fd, offset);
-    errno = dueError();
-    return MAP_FAILED;
 }
 
 extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* how, void* (*run)(void*),
@@ -339,7 +327,8 @@ extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* how, void
     extern "C" void* __libc_##name parameters;                                                               \
     extern "C" void* name parameters noexcept                                                                \
     {                                                                                                        \
-        return allocating("malloc", [&] { return __libc_##name arguments; });                                \
+        return failing(                                                                                      \
+            "malloc", [&] { return __libc_##name arguments; }, nullptr);                                     \
     }
 
 FORWARD_MALLOC(malloc, (std::size_t size), (size))

@@ -88,8 +88,7 @@ class Report:
 
 
 def write(path, text):
-    with open(path, "w") as stream:
-        stream.write(text)
+    pathlib.Path(path).write_text(text)
     return path
 
 
@@ -115,8 +114,8 @@ def console_cases(home, right, wrong, key, iv):
 
 def seconds_of(program):
     """What it has calculated."""
-    with open(f"/proc/{program.pid}/stat") as stat:
-        return int(stat.read().rpartition(")")[2].split()[11]) / os.sysconf("SC_CLK_TCK")
+    stat = pathlib.Path(f"/proc/{program.pid}/stat").read_text()
+    return int(stat.rpartition(")")[2].split()[11]) / os.sysconf("SC_CLK_TCK")
 
 
 def answer_prompts(master, answers):
@@ -130,10 +129,8 @@ def answer_prompts(master, answers):
 
 def run_console(report, home):
     right, wrong, key, iv = password(), password(), Canary(size=32), Canary(size=16)
-    with open(f"{home}/letter", "wb") as stream:
-        stream.write(random.randbytes(300000))
-    with open(f"{home}/zeros", "wb") as stream:
-        stream.truncate(8 << 30)
+    pathlib.Path(home, "letter").write_bytes(random.randbytes(300000))
+    os.truncate(write(f"{home}/zeros", ""), 8 << 30)
     for place, arguments, canaries, told, expected in console_cases(home, right, wrong, key, iv):
         master, terminal = pty.openpty()
         settings = termios.tcgetattr(terminal)
@@ -214,11 +211,8 @@ class Window:
     def encryption(self, shown=False):
         dialog, secret = self.open("F5", "Password to encrypt"), password()
         if shown:
-            self.screen.key("s", "Alt_L")
-            self.screen.key("p", "Alt_L")
-        self.screen.type(secret.text)
-        self.screen.key("Tab")
-        self.screen.type(secret.text)
+            self.screen.key("Alt_L+s", "Alt_L+p")
+        self.screen.type(secret.text, secret.text)
         self.await_typed(secret)
         return dialog, "Password to", [secret]
 
@@ -234,24 +228,17 @@ class Window:
     def key_and_iv(self):
         """By way of a password that is typed and left."""
         _, _, secrets = self.encryption()
-        self.screen.key("p", "Alt_L")
-        for _ in range(3):
-            self.screen.key("Tab", "Shift_L")
-        self.screen.key("space")
+        self.screen.key("Alt_L+p", *["Shift_L+Tab"] * 3, "space")
         dialog, key, iv = self.screen.await_window("Key and IV"), Canary(size=32), Canary(size=16)
-        self.screen.type(iv.text)
-        self.screen.key("Tab")
-        self.screen.type(key.text)
+        self.screen.type(iv.text, key.text)
         self.await_typed(key, iv)
         return dialog, "Key and IV", [*secrets, key, iv]
 
     def generator(self):
         outer = self.open("F5", "Password to encrypt")
-        self.screen.key("g", "Alt_L")
+        self.screen.key("Alt_L+g")
         dialog = self.screen.await_window("Generate a password")
-        self.screen.key("m", "Alt_L")
-        self.screen.key("Down")  # no words, which are in a list
-        self.screen.key("c", "Alt_L")
+        self.screen.key("Alt_L+m", "Down", "Alt_L+c")  # no words, which are in a list
         secret = Canary(eventually(self.screen.clipboard, "nothing on the clipboard"))
         self.await_typed(secret)
         self.screen.take_clipboard()
