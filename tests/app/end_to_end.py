@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""end_to_end.py QUILLET: types the password on an X server of its own, and compares the file after the way back. Afterwards no
-secret may be found in settings, log or temporary files."""
+"""end_to_end.py QUILLET: types the password on an X server of its own, and compares the file after the way back.
+Afterwards no secret may be found in settings, log or temporary files."""
 import os
 import pathlib
 import re

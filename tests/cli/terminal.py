@@ -190,7 +190,8 @@ class Interrupt(Case):
     def wait_until_busy(self, process):
         """Until it has worked for a moment; the output has no name by which it could be seen."""
         while process.poll() is None:
-            if int(Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()[11]) > 20:  # 1/100 s of work
+            fields = Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()
+            if int(fields[11]) > 20:  # user time in 1/100 s
                 return
             time.sleep(0.01)
         self.fail("it ended on its own")
@@ -210,7 +211,8 @@ class Interrupt(Case):
     def test_at_standard_input_unless_it_was_ignored(self):
         for sent, expected in ((signal.SIGTERM, (130, b"quillet-cli: interrupted\n")), (signal.SIGHUP, (0, b""))):
             reader = subprocess.Popen([*ENCRYPT, "-"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
-                                      stderr=subprocess.PIPE, preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN))
+                                      stderr=subprocess.PIPE,
+                                      preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN))
             os.write(reader.stdin.fileno(), b"x")
             while struct.unpack("i", fcntl.ioctl(reader.stdin, termios.FIONREAD, bytes(4)))[0]:
                 time.sleep(0.01)

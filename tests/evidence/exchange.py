@@ -45,7 +45,8 @@ def cryptx(key, iv, _block, name, data):
 def mars_cbc(key, iv, _block, _name, data):
     cipher = mars.Mars(key)
     blocks = (data[at:at + 16] for at in range(0, len(data), 16))
-    return b"".join(itertools.accumulate(blocks, lambda last, block: cipher.encrypted(xor(block, last)), initial=iv))[16:]
+    chain = itertools.accumulate(blocks, lambda last, block: cipher.encrypted(xor(block, last)), initial=iv)
+    return b"".join(chain)[16:]
 
 
 def panama_stream(key, iv, _block, _name, data):

@@ -31,7 +31,8 @@ def rows(name, splits=-1):
 
 def job_of(words, outputs, former, code, stdin, without):
     outputs = dict(pair.split("=") for pair in outputs.split(", ") if pair)
-    return Job(words.split(), outputs, former.split(), int(code), os.path.join(SWEEP.folder, stdin or os.devnull), without)
+    stdin = os.path.join(SWEEP.folder, stdin or os.devnull)
+    return Job(words.split(), outputs, former.split(), int(code), stdin, without)
 
 
 JOBS = {name: job_of(*fields) for name, *fields in rows("fault_jobs.txt")}
@@ -173,7 +174,8 @@ def sweep_job(name, job):
 
 def sweep_others():
     """What others do to the files is theirs."""
-    contents = {"other": b"other", "precious": FORMER, "new": FILES.inputs["encrypted.enc"], "input": FILES.inputs["plain"]}
+    contents = {"other": b"other", "precious": FORMER, "new": FILES.inputs["encrypted.enc"],
+                "input": FILES.inputs["plain"]}
     for name, at, command, error, expected in OTHERS:
         with Server(LIBRARY, [CLI, *JOBS[name].words], SWEEP.folder) as server:
             ConsoleJudge(FILES, JOBS[name], server).prepare()
@@ -190,8 +192,9 @@ def sweep_others():
 
 def without_memory_for_the_key():
     write("out", FORMER)
+    limit = lambda: resource.setrlimit(resource.RLIMIT_AS, (200 << 20,) * 2)
     done = subprocess.run([CLI, "encrypt", "--seal", *PASSWORD, "--force", "--output", "out", "plain"], text=True,
-                          capture_output=True, preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (200 << 20,) * 2))
+                          capture_output=True, preexec_fn=limit)
     right = done.returncode == FAILED and "Cannot allocate memory (error: 5/4042)" in done.stderr
     SWEEP.add("no memory for the key", "malloc", errno.ENOMEM, 0, Run(done.returncode, 0, done.stderr, b""),
               None if right and read("out") == FORMER else "wrong")

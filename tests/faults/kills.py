@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""kills.py QUILLET QUILLET_CLI [BYTES]: ends the window in the middle of encryptions and decryptions, with and without a
-former output, in every way in which it can be ended from outside, and looks for what is left that should not be, or is
+"""kills.py QUILLET QUILLET_CLI [BYTES]: ends the window in the middle of encryptions and decryptions, with and without
+a former output, in every way in which it can be ended from outside, and looks for what is left that should not be, or is
 gone that should be there. window.py kills it at every system call. Needs Xvfb."""
 
 import itertools
