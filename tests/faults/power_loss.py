@@ -4,6 +4,7 @@ can hold whose power fails then: the data of a file as far as they were flushed,
 its last flush, or after any number of the changes since. Never may the only copy be gone, or a name lead to a file that
 is not whole; after a success told, the result is there. Needs strace."""
 
+import itertools
 import os
 import re
 import subprocess
@@ -15,13 +16,10 @@ WINDOW_JOB, CLI, LIBRARY = map(os.path.abspath, sys.argv[1:4])
 RENAMING = ("linkat", "renameat", "renameat2", "unlink", "unlinkat")
 TRACED = ",".join(("open", "openat", "write", "pwrite64", "fsync", "fdatasync", "close", *RENAMING))
 
-# Name: program, operation, whether an output is there before, and what the file system cannot do.
-FILE_SYSTEMS = {"": "", " without nameless files": "O_TMPFILE", " nor RENAME_NOREPLACE": "O_TMPFILE noreplace",
-                " nor hard links": "O_TMPFILE noreplace link", " without RENAME_EXCHANGE": "exchange",
-                " with none of them": "O_TMPFILE noreplace link exchange"}
-JOBS = [(program, operation, former, name, without)
-        for program in ("console", "window") for operation in ("encrypt", "decrypt") for former in (False, True)
-        for name, without in FILE_SYSTEMS.items()]
+# The program, the operation, whether an output is there before, and what the file system lacks.
+JOBS = list(itertools.product(("console", "window"), ("encrypt", "decrypt"), (False, True),
+                              ("", "O_TMPFILE", "O_TMPFILE noreplace", "O_TMPFILE noreplace link", "exchange",
+                               "O_TMPFILE noreplace link exchange")))
 
 
 class Disk:
@@ -98,7 +96,7 @@ def problem_at(disk, operation, former, gives_up):
 
 
 def run(job, folder):
-    program, operation, former, _, without = job
+    program, operation, former, without = job
     os.chdir(folder)
     for name in os.listdir():
         os.remove(name)
@@ -148,7 +146,7 @@ with scratch() as home:
         moments += checked
         if problem:
             failures += 1
-            print(f"{job[0]} {job[1]}{', output exists' * job[2]}{job[3]}: {problem}", flush=True)
+            print(f"{job[0]} {job[1]}{', output exists' * job[2]}, without ({job[3]}): {problem}", flush=True)
     print(f"{len(JOBS)} jobs, {moments} moments, {failures} failures")
     os.chdir("/")
 sys.exit(failures > 0)

@@ -216,9 +216,6 @@ class Window:
         self.await_typed(secret)
         return dialog, "Password to", [secret]
 
-    def shown_encryption(self):
-        return self.encryption(True)
-
     def decryption(self, secret=None):
         dialog, secret = self.open("F6", "Password to decrypt"), secret or password()
         self.screen.type(secret.text)
@@ -247,11 +244,12 @@ class Window:
     # The places
 
     def leave(self):
-        for fill in (self.encryption, self.shown_encryption, self.decryption, self.key_and_iv):
+        for name, fill in (("encryption", self.encryption), ("shown encryption", lambda: self.encryption(True)),
+                           ("decryption", self.decryption), ("key and IV", self.key_and_iv)):
             for way in ("Escape", "Cancel", "close"):
                 dialog, title, secrets = fill()
                 self.away(way, dialog, title)
-                self.check(f"{fill.__name__.replace('_', ' ')} left by {way}", *secrets)
+                self.check(f"{name} left by {way}", *secrets)
 
     def generate(self):
         for way in ("Return", "Escape", "close"):
