@@ -141,7 +141,7 @@ def run_console(report, home):
         if isinstance(told, signal.Signals):
             eventually(lambda: seconds_of(program) > 0.2, "it does not work")
             report.await_clean(f"console, {place}, before", program, *canaries)
-            program.send(told)
+            os.kill(program.pid, told)
         elif told:
             answer_prompts(master, told)
         program.hold_at_end()
@@ -283,7 +283,7 @@ class Window:
 
     def end(self, place, *canaries):
         self.seen += canaries
-        self.program.send(signal.SIGTERM)
+        os.kill(self.program.pid, signal.SIGTERM)
         self.program.hold_at_end()
         self.check(place, *canaries)
         self.program.end()

@@ -64,9 +64,6 @@ class Traced:
             number = os.WSTOPSIG(status)
             ptrace(PTRACE_CONT, self.pid, 0 if number == signal.SIGTRAP else number)
 
-    def send(self, number):
-        os.kill(self.pid, number)
-
     def mappings(self):
         """(first, last, name) of all that can be read and is not just a file's content."""
         self.maps.seek(0)
