@@ -18,8 +18,8 @@ def eventually(look, what, seconds=PATIENCE):
 
 
 class Screen:
-    def __init__(self):
-        self.display = display.Display()
+    def __init__(self, name=None):
+        self.display = display.Display(name)
         self.root = self.display.screen().root
         self.own = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
 
@@ -49,18 +49,20 @@ class Screen:
             return self.display.get_input_focus().focus == window
         eventually(has_focus, "no focus")
 
-    def key(self, name, *held):
-        codes = [self.display.keysym_to_keycode(XK.string_to_keysym(each)) for each in (*held, name)]
-        for code in codes:
-            xtest.fake_input(self.display, X.KeyPress, code)
-        for code in reversed(codes):
-            xtest.fake_input(self.display, X.KeyRelease, code)
+    def key(self, *strokes):
+        """Each by its name, behind those of what is held, such as Alt_L+p."""
+        for stroke in strokes:
+            codes = [self.display.keysym_to_keycode(XK.string_to_keysym(name)) for name in stroke.split("+")]
+            for code in codes:
+                xtest.fake_input(self.display, X.KeyPress, code)
+            for code in reversed(codes):
+                xtest.fake_input(self.display, X.KeyRelease, code)
         self.display.sync()
 
-    def type(self, text):
-        """Of lower-case letters and digits."""
-        for character in text:
-            self.key(character)
+    def type(self, *texts):
+        """Of lower-case letters and digits, into fields that follow one another."""
+        for i, text in enumerate(texts):
+            self.key(*["Tab"] * (i > 0), *text)
 
     def close(self, window):
         """As the button of a title bar does."""
@@ -84,10 +86,8 @@ class Screen:
             return ""
         names = [self.display.intern_atom(name) for name in ("CLIPBOARD", "UTF8_STRING", "QUILLET_TEST")]
         self.own.convert_selection(names[0], names[1], names[2], X.CurrentTime)
-        while True:
-            answer = self.display.next_event()
-            if answer.type == X.SelectionNotify:
-                break
+        while (answer := self.display.next_event()).type != X.SelectionNotify:
+            pass
         if answer.property == X.NONE:
             return ""
         return self.own.get_full_property(names[2], X.AnyPropertyType).value.decode()
