@@ -1,14 +1,14 @@
 #include "app/job/InputRemoval.h"
 #include "app/job/SEncryptData.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <dlfcn.h>
 #include <filesystem>
 #include <functional>
-#include <unistd.h>
+#include <optional>
 
 using namespace thisapp;
 using namespace tessaly;
@@ -40,13 +40,11 @@ void swapFolder(const test::TempFolder& dir)
     fs::remove_all(moved);
 }
 
-/// The next removal fails as on a disk that has become read-only.
-bool isReadOnly = false;
-
 TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
 {
     const test::TempFolder dir;
     SEncryptData data;
+    std::optional<test::SystemCall> readOnly;
     const auto out = dir / "out", in = dir / "in";
     using enum KeepReason;
     struct
@@ -80,7 +78,7 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
          },
          {}},
         {"sealed, without its tag", [&] { data.outcome.sealed = true; }, OutputDiffers},
-        {"disk read-only", [&] { isReadOnly = true; }, {}},
+        {"disk read-only", [&] { readOnly.emplace("unlinkat", EROFS); }, {}},
         {"folder swapped", [&] { swapFolder(dir); }, OutputDiffers},
     };
     for (const auto& c : cases) {
@@ -95,7 +93,8 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         data.outcome.output = opened(out);
         c.happens();
         const InputRemoval removal = removeInput(data);
-        const bool failed = std::exchange(isReadOnly, false);
+        const bool failed = readOnly.has_value();
+        readOnly.reset();
         EXPECT_EQ(removal.kept, c.kept);
         EXPECT_EQ(removal.error.ok(), !failed);
         EXPECT_EQ(removal.removed, !c.kept && !failed);
@@ -110,13 +109,3 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
 }
 
 } // namespace
-
-/// Stands before the library's in the whole test program.
-extern "C" [[gnu::used]] int unlinkat(int folder, const char* name, int flags)
-{
-    static const auto next = reinterpret_cast<decltype(&unlinkat)>(::dlsym(RTLD_NEXT, "unlinkat"));
-    if (!isReadOnly)
-        return next(folder, name, flags);
-    errno = EROFS;
-    return -1;
-}
