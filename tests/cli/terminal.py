@@ -224,4 +224,5 @@ class Interrupt(Case):
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGINT, signal.default_int_handler)  # ignored below a shell that does other work meanwhile
     unittest.main()
