@@ -304,6 +304,7 @@ def run_window(report, home):
     report.written("window, files and messages", home, window.seen)
 
 
+signal.signal(signal.SIGINT, signal.default_int_handler)  # ignored below a shell that does other work meanwhile
 with tempfile.TemporaryDirectory() as console, tempfile.TemporaryDirectory() as windowed:
     report = Report()
     run_console(report, console)
