@@ -69,6 +69,7 @@ TEST_F(Settings, StoredAtTheUsersPlace)
 
 TEST_F(Settings, EveryValueSurvivesWritingAndReading)
 {
+    int ofNaming = 0;
     for (const SAppOptions& options : test::eachChanged()) {
         const bool integration = read().integrateToShellContextMenu != options.integrateToShellContextMenu ||
                                  read().addToSendMenu != options.addToSendMenu;
@@ -81,7 +82,11 @@ TEST_F(Settings, EveryValueSurvivesWritingAndReading)
         thisapp::NamingSettings().store(other);
         naming.store(other);
         EXPECT_EQ(other, options);
+        SAppOptions named;
+        naming.store(named);
+        ofNaming += named == options && named != SAppOptions();
     }
+    EXPECT_EQ(ofNaming, 17);
     CAppSettings settings;
     EXPECT_EQ(settings.value("LocaleId"), 1031);
     EXPECT_EQ(settings.value("DefaultCryptoLibrary"), 1);
