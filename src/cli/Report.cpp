@@ -4,6 +4,7 @@
 #include "common/errors/JobStepText.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 
 namespace cli {
@@ -39,7 +40,7 @@ std::string nameOf(std::uint32_t algorithmId)
 std::string stepSentence(const FileJobRequest& request, const FileJobOutcome& outcome)
 {
     std::string text = thisapp::failedStepText(outcome);
-    return text.replace(text.find("%1"), 2, thisapp::failedFile(outcome, request).string());
+    return text.replace(text.find("%1"), 2, platform::nativeText(thisapp::failedFile(outcome, request)));
 }
 
 /// Why nothing fits, or what would.

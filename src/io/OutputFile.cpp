@@ -126,6 +126,7 @@ ResultCode OutputFile::replaceFormer(const ResultCode& occupied)
         return named;
     const ResultCode exchanged = folder.exchange(m_hidden.name(), m_place->name());
     if (platform::isUnsupported(exchanged)) {
+        static_cast<void>(m_former.close()); // no file system need replace an open file
         const ResultCode renamed = folder.renameOver(m_hidden.name(), m_place->name());
         if (renamed.ok())
             m_state = State::Settled;

@@ -1,6 +1,7 @@
 #include "common/path/UrlPath.h"
 
 #include "common/path/PathText.h"
+#include "lib/platform/Path.h"
 
 #include <QDir>
 #include <QSysInfo>
@@ -17,7 +18,8 @@ QString urlPath(const QUrl& url)
     if (!isHere)
         return {};
     const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
-    return QDir::toNativeSeparators(pathText(QByteArray::fromPercentEncoding(encoded).toStdString()));
+    return QDir::toNativeSeparators(
+        pathText(tessaly::platform::pathFromNative(QByteArray::fromPercentEncoding(encoded).toStdString())));
 }
 
 } // namespace thisapp

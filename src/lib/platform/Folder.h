@@ -8,6 +8,7 @@
 namespace tessaly::platform {
 
 // What a failure means, whatever the system's number for it.
+bool isMissing(const ResultCode& result);     ///< nothing stands there
 bool isOccupied(const ResultCode& result);    ///< something stands there already
 bool isUnsupported(const ResultCode& result); ///< the file system has no such thing
 bool isLocked(const ResultCode& result);      ///< somebody else has the lock
@@ -23,7 +24,7 @@ public:
     Folder(Folder&& other) noexcept;
     Folder& operator=(Folder&& other) noexcept;
 
-    /// The folder that holds, or would hold, the file of this path. (1, ENOENT) for a path without a
+    /// The folder that holds, or would hold, the file of this path. isMissing for a path without a
     /// file name.
     ResultCode openParentOf(const std::filesystem::path& path);
     bool isOpen() const { return m_handle >= 0; }

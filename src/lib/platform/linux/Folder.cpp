@@ -56,6 +56,11 @@ ResultCode grant(int handle, mode_t mode, bool forGroup, std::uint32_t group)
 
 } // namespace
 
+bool isMissing(const ResultCode& result)
+{
+    return result == err::system(ENOENT);
+}
+
 bool isOccupied(const ResultCode& result)
 {
     return result == err::system(EEXIST);

@@ -99,6 +99,16 @@ std::wstring wideText(const std::filesystem::path& path)
     return widePath(path.native());
 }
 
+std::filesystem::path pathFromNative(std::string_view native)
+{
+    return native;
+}
+
+std::string nativeText(const std::filesystem::path& path)
+{
+    return path.native();
+}
+
 wchar_t lowerCase(wchar_t c)
 {
     static const locale_t unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
