@@ -1,0 +1,77 @@
+#include "lib/platform/Process.h"
+
+#include "lib/platform/Path.h"
+#include "lib/platform/windows/AccessList.h"
+#include "lib/platform/windows/SystemCall.h"
+
+#include <aclapi.h>
+#include <sddl.h>
+#include <shellapi.h>
+
+namespace tessaly::platform {
+
+namespace {
+
+/// What other processes of the user may do with this one: see it, wait for it and end it, but not read its
+/// memory. Whoever it belongs to could else allow himself more.
+bool closeToOthers()
+{
+    const std::wstring user = userSid();
+    const std::wstring text = L"D:P(A;;GA;;;SY)(A;;RC;;;OW)(A;;0x101401;;;" + user + L")";
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (user.empty() || !::ConvertStringSecurityDescriptorToSecurityDescriptorW(text.c_str(), SDDL_REVISION_1,
+                                                                                &descriptor, nullptr))
+        return false;
+    const BOOL done = ::SetKernelObjectSecurity(::GetCurrentProcess(), DACL_SECURITY_INFORMATION, descriptor);
+    ::LocalFree(descriptor);
+    return done != FALSE;
+}
+
+/// Of crashes, which may go to the maker of the system. The header with the call's declaration does not
+/// compile with every version of our compiler.
+bool keepHeapOutOfReports()
+{
+    using SetFlags = HRESULT(WINAPI*)(DWORD);
+    constexpr DWORD NoHeap = 1;
+    const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "WerSetFlags");
+    const auto setFlags = reinterpret_cast<SetFlags>(reinterpret_cast<void*>(found));
+    return setFlags != nullptr && SUCCEEDED(setFlags(NoHeap));
+}
+
+} // namespace
+
+std::uint32_t processId()
+{
+    return ::GetCurrentProcessId();
+}
+
+std::uint32_t threadId()
+{
+    return ::GetCurrentThreadId();
+}
+
+void endProcess(int exitCode)
+{
+    ::TerminateProcess(::GetCurrentProcess(), static_cast<UINT>(exitCode));
+    for (;;) // the call does not return
+        ::Sleep(INFINITE);
+}
+
+bool disableCoreDumps()
+{
+    const bool isReportLean = keepHeapOutOfReports();
+    return closeToOthers() && isReportLean;
+}
+
+std::vector<std::string> programArguments(int, char**)
+{
+    int count = 0;
+    LPWSTR* words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; words != nullptr && i < count; ++i)
+        arguments.push_back(nativePath(words[i]));
+    ::LocalFree(words);
+    return arguments;
+}
+
+} // namespace tessaly::platform
