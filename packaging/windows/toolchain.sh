@@ -32,13 +32,18 @@ version_of() {
   awk -v name="$1" '$1 == name { print $2 }' "$here/sources.txt"
 }
 
-# unpack SOURCE: fetches and unpacks the source package, verified by apt, into a new folder, and goes there.
+# unpack SOURCE: fetches and unpacks the source package, verified by apt, and goes there. What an interrupted run has
+# left of the same version is gone on with.
 unpack() {
-  rm -rf "$cache/source/$1"
-  mkdir "$cache/source/$1"
-  cd "$cache/source/$1"
-  apt_get source "$1=$(version_of "$1")" || { apt_get update && apt_get source "$1=$(version_of "$1")"; }
-  cd ./*/
+  local folder=$cache/source/$1-$(version_of "$1")
+  if [ ! -e "$folder/unpacked" ]; then
+    rm -rf "$cache/source/$1"-*
+    mkdir "$folder"
+    cd "$folder"
+    apt_get source "$1=$(version_of "$1")" || { apt_get update && apt_get source "$1=$(version_of "$1")"; }
+    touch unpacked
+  fi
+  cd "$folder"/*/
 }
 
 # describe NAME LIBRARIES: lets pkg-config find what has been put into the prefix.
@@ -87,9 +92,9 @@ build_googletest() {
 # Into a prefix of its own, whose tools (moc, rcc, uic) are this machine's.
 build_qt() {
   unpack qtbase-opensource-src
-  mkdir ../build
-  cd ../build
-  ../qtbase-*/configure -prefix "$cache/qt" -opensource -confirm-license -release -static -platform linux-g++ \
+  mkdir -p build
+  cd build
+  [ -e Makefile ] || ../configure -prefix "$cache/qt" -opensource -confirm-license -release -static -platform linux-g++ \
     -xplatform win32-g++ -device-option CROSS_COMPILE=$host- -nomake examples -nomake tests -no-compile-examples \
     -no-avx -no-avx2 -no-avx512 -no-opengl -no-openssl -no-dbus -no-icu -no-libjpeg -qt-zlib -qt-libpng -qt-freetype \
     -qt-harfbuzz -qt-pcre -no-feature-vulkan -no-feature-direct2d -no-feature-sql -no-feature-network \
@@ -120,7 +125,7 @@ step() {
     echo "toolchain.sh: $name could not be built; its log is $cache/log/$name" >&2
     return 1
   fi
-  rm -rf "$cache/done/$name"-* "$cache/source/$2"
+  rm -rf "$cache/done/$name"-* "$cache/source/$2"-*
   date +%F >"$done"
   printf '%-12s %4d s\n' "$name" $((SECONDS - seconds))
 }

@@ -42,6 +42,12 @@ Wait::~Wait()
     ::CloseHandle(m_thread);
 }
 
+bool Wait::isAnyUnderWay()
+{
+    const std::lock_guard guard(waiting().mutex);
+    return !waiting().threads.empty();
+}
+
 void Wait::endAll()
 {
     // A thread that has said that it will wait need not have begun to.

@@ -17,6 +17,7 @@ public:
     Wait(const Wait&) = delete;
     Wait& operator=(const Wait&) = delete;
 
+    static bool isAnyUnderWay();
     /// Ends all that are under way or about to begin: repeated until each of them has ended.
     static void endAll();
 
