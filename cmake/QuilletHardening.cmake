@@ -10,6 +10,8 @@ target_compile_options(quillet_hardening INTERFACE
   # Needs optimisation; some compilers bring a lower level of their own.
   $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
   $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=3>
+  # As Qt asks; whatever is linked into a position-independent program must be so. On Windows all code is.
+  $<$<NOT:$<BOOL:${WIN32}>>:-fPIC>
   -fstack-protector-strong
   $<$<BOOL:${QUILLET_HAS_CF_PROTECTION}>:-fcf-protection=full>
   $<$<BOOL:${QUILLET_HAS_STACK_CLASH_PROTECTION}>:-fstack-clash-protection>)
@@ -18,8 +20,6 @@ if(QUILLET_SYSTEM STREQUAL "windows")
     LINKER:--nxcompat LINKER:--dynamicbase LINKER:--high-entropy-va
     -fstack-protector-strong) # its functions stand in a library of their own here
 else()
-  target_compile_options(quillet_hardening INTERFACE
-    -fPIC) # as Qt asks; whatever is linked into a position-independent program must be so
   target_link_options(quillet_hardening INTERFACE
     $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>
     LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)

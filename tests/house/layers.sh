@@ -35,8 +35,18 @@ hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+<Q[A-Za-z]+' lib io crypto cli
 hits=$(grep -rnE '^[[:space:]]*#[[:space:]]*(if|ifdef|ifndef|elif)\b.*(_WIN32|__linux__|__unix__|Q_OS_)' .)
 [ -z "$hits" ] || complain "platform switch in the logic" "$hits"
 
-hits=$(grep -rnE '#[[:space:]]*include[[:space:]]+<(unistd|fcntl|sys/[a-z]+|termios|pwd|windows)\.h>' . |
-  grep -vE '^\./(lib/platform|app/desktop)/')
+posix='unistd|fcntl|sys/[a-z]+|termios|pwd|dirent|poll|dlfcn'
+windows='windows|winternl|aclapi|sddl|shlobj|shellapi|shobjidl|io'
+for system in linux windows; do
+  [ $system = linux ] && foreign=$windows || foreign=$posix
+  hits=$(grep -rnE "#[[:space:]]*include[[:space:]]+<($foreign)\.h>" lib/platform/$system app/desktop/$system 2>/dev/null |
+    grep -vE ':#include <fcntl\.h>$')
+  [ -z "$hits" ] || complain "header of another system" "$hits"
+  hits=$(grep -rnE "#[[:space:]]*include[[:space:]]+\"(lib/platform|app/desktop)/$system/" . |
+    grep -vE "^\./(lib/platform|app/desktop)/$system/")
+  [ -z "$hits" ] || complain "one system's own header outside its folder" "$hits"
+done
+hits=$(grep -rnE "#[[:space:]]*include[[:space:]]+<($posix|$windows)\.h>" . | grep -vE '^\./(lib/platform|app/desktop)/(linux|windows)/')
 [ -z "$hits" ] || complain "system header outside the platform folders" "$hits"
 
 exit $failed
