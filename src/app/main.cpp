@@ -120,7 +120,7 @@ int runApplication(int& argc, char** argv)
         {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
 
     // The application object has taken its own arguments out. Its list of the rest would lose bytes.
-    const QStringList arguments = argumentTexts({argv + 1, static_cast<std::size_t>(argc - 1)});
+    const QStringList arguments = argumentTexts(platform::programArguments(argc, argv));
     new CFirstPaint(window, [&] {
         leanStart.reset();
         QApplication::setWindowIcon(applicationIcon());
