@@ -1,7 +1,7 @@
 #include "lib/platform/Interrupts.h"
 
 #include "lib/platform/windows/SystemCall.h"
-#include "lib/platform/windows/Waits.h"
+#include "lib/platform/windows/Wait.h"
 
 #include <atomic>
 #include <system_error>

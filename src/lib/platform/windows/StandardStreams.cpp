@@ -5,7 +5,7 @@
 #include "lib/platform/windows/FileStatus.h"
 #include "lib/platform/windows/SystemCall.h"
 #include "lib/platform/windows/SystemPath.h"
-#include "lib/platform/windows/Waits.h"
+#include "lib/platform/windows/Wait.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -4,7 +4,7 @@
 #include "lib/platform/Path.h"
 #include "lib/platform/windows/SystemCall.h"
 #include "lib/platform/windows/SystemPath.h"
-#include "lib/platform/windows/Waits.h"
+#include "lib/platform/windows/Wait.h"
 
 #include <array>
 #include <string>

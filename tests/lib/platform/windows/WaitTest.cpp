@@ -1,6 +1,6 @@
 #include "lib/platform/StandardStreams.h"
 #include "lib/platform/windows/SystemCall.h"
-#include "lib/platform/windows/Waits.h"
+#include "lib/platform/windows/Wait.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +37,7 @@ private:
     OwnHandle m_ours;
 };
 
-TEST(Waits, AnInterruptEndsARead)
+TEST(Wait, AnInterruptEndsARead)
 {
     const PipedStream input(STD_INPUT_HANDLE);
     ResultCode result;

@@ -1,4 +1,4 @@
-#include "lib/platform/windows/Waits.h"
+#include "lib/platform/windows/Wait.h"
 
 #include "lib/platform/windows/SystemCall.h"
 
