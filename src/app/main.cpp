@@ -60,12 +60,13 @@ Options may begin with "/" instead of "-", in either case of letters.
 bool answerOnTerminal(std::span<char*> arguments)
 {
     const auto has = [arguments](std::string_view word) { return std::ranges::count(arguments, word) > 0; };
+    if (!has("--help") && !has("--version"))
+        return false;
+    desktop::useTerminal();
     if (has("--help"))
         std::fputs(Usage, stdout);
-    else if (has("--version"))
-        std::printf("%s %s\n", QuilletName, versionText());
     else
-        return false;
+        std::printf("%s %s\n", QuilletName, versionText());
     return true;
 }
 

@@ -20,6 +20,12 @@ std::wstring wideText(const std::filesystem::path& path);
 std::filesystem::path pathFromNative(std::string_view native);
 std::string nativeText(const std::filesystem::path& path);
 
+/// The path of a file URL, of which `host` is the name of the computer and `path` what follows it, with its
+/// escapes resolved. Empty when such a file cannot be opened from here.
+std::filesystem::path pathFromUrl(std::string_view host, std::string_view path);
+/// What follows "file://" in the URL of an absolute path, before any escapes.
+std::string urlText(const std::filesystem::path& path);
+
 /// The lower-case letter of Unicode's simple mapping, whatever the user's locale.
 wchar_t lowerCase(wchar_t c);
 

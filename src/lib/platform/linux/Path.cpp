@@ -2,9 +2,13 @@
 
 #include "lib/text/Utf8.h"
 
+#include <array>
+#include <climits>
 #include <cstddef>
 #include <cwctype>
 #include <locale.h>
+#include <strings.h>
+#include <unistd.h>
 
 namespace tessaly::platform {
 
@@ -62,6 +66,21 @@ std::filesystem::path pathFromNative(std::string_view native)
 }
 
 std::string nativeText(const std::filesystem::path& path)
+{
+    return path.native();
+}
+
+std::filesystem::path pathFromUrl(std::string_view host, std::string_view path)
+{
+    std::array<char, HOST_NAME_MAX + 1> here{};
+    ::gethostname(here.data(), here.size() - 1);
+    const std::string name(host);
+    const bool isHere = name.empty() || ::strcasecmp(name.c_str(), "localhost") == 0 ||
+                        ::strcasecmp(name.c_str(), here.data()) == 0;
+    return isHere ? path : std::string_view();
+}
+
+std::string urlText(const std::filesystem::path& path)
 {
     return path.native();
 }

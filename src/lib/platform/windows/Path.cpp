@@ -80,6 +80,21 @@ std::string nativeText(const std::filesystem::path& path)
     return nativePath(path.native());
 }
 
+std::filesystem::path pathFromUrl(std::string_view host, std::string_view path)
+{
+    const bool isShare = !host.empty() && host != "localhost";
+    if (isShare)
+        return std::filesystem::path(L"//" + widePath(host) + widePath(path)).make_preferred();
+    const bool hasDrive = path.size() > 2 && path[0] == '/' && path[2] == ':';
+    return hasDrive ? pathFromNative(path.substr(1)).make_preferred() : std::filesystem::path();
+}
+
+std::string urlText(const std::filesystem::path& path)
+{
+    const std::string text = nativePath(path.generic_wstring());
+    return text.starts_with("//") ? text.substr(2) : '/' + text;
+}
+
 wchar_t lowerCase(wchar_t c)
 {
     wchar_t lower = c;
