@@ -2,7 +2,9 @@
 # tests/packaging/hardening.sh reads from the programs whether it is there.
 include(CheckCXXCompilerFlag)
 check_cxx_compiler_flag(-fcf-protection=full QUILLET_HAS_CF_PROTECTION)
-check_cxx_compiler_flag(-fstack-clash-protection QUILLET_HAS_STACK_CLASH_PROTECTION)
+if(NOT WIN32) # there the compiler touches each page of a large frame anyway, and fails with the flag
+  check_cxx_compiler_flag(-fstack-clash-protection QUILLET_HAS_STACK_CLASH_PROTECTION)
+endif()
 
 add_library(quillet_hardening INTERFACE)
 target_compile_definitions(quillet_hardening INTERFACE _GLIBCXX_ASSERTIONS)

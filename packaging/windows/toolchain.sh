@@ -68,8 +68,8 @@ build_cryptopp() {
   make -j"$jobs" static CXX=$host-g++ AR=$host-ar RANLIB=$host-ranlib CXXFLAGS="$flags -D_WIN32_WINNT=0x0A00"
   mkdir -p "$prefix/include/cryptopp"
   install -m 644 ./*.h "$prefix/include/cryptopp"
-  install -m 644 libcryptopp.a "$prefix/lib"
-  describe libcrypto++ "-lcryptopp -lbcrypt -lws2_32" "$(version_of libcrypto++)"
+  install -m 644 libcrypto++.a "$prefix/lib"
+  describe libcrypto++ "-lcrypto++ -lbcrypt -lws2_32" "$(version_of libcrypto++)"
 }
 
 build_zxcvbn() {

@@ -27,6 +27,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <new>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -155,6 +156,8 @@ int main(int argc, char* argv[])
     try {
         prepareApplication();
         return runApplication(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("quillet: out of memory\n", stderr);
     } catch (const std::exception& exception) {
         std::fprintf(stderr, "quillet: %s\n", exception.what());
     } catch (...) {

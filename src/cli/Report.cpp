@@ -7,6 +7,8 @@
 #include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 
+#include <new>
+
 namespace cli {
 
 using namespace tessaly;
@@ -34,6 +36,15 @@ ExitCode exitCodeOf(const CryptoResult& result)
 std::string nameOf(std::uint32_t algorithmId)
 {
     return std::string(crypto::displayName(algorithmId));
+}
+
+/// Beside the work, which is done: where there is no memory for the words, they are left out.
+void tellAlgorithm(const FileResult& result)
+{
+    try {
+        complain(result.input + " was encrypted with " + nameOf(result.algorithmId.value_or(0)));
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 /// What was being done to which file.
@@ -95,7 +106,7 @@ ExitCode report(const FileJobRequest& request, const FileResult& result, const A
     if (arguments.command == Command::Verify)
         return tell(result.input + ": " + verdict(result, request.passwordMode));
     if (arguments.command == Command::Decrypt && !arguments.algorithmId && !result.isEmpty)
-        complain(result.input + " was encrypted with " + nameOf(result.algorithmId.value_or(0)));
+        tellAlgorithm(result);
     return Done;
 }
 

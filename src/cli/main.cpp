@@ -8,6 +8,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,8 @@ int main(int argc, char** argv)
     // The last resort: neither memory nor a thread may be had. It needs neither itself.
     try {
         return run(tessaly::platform::programArguments(argc, argv));
+    } catch (const std::bad_alloc&) {
+        std::fputs("quillet-cli: out of memory\n", stderr);
     } catch (const std::exception& exception) {
         std::fprintf(stderr, "quillet-cli: %s\n", exception.what());
     } catch (...) {

@@ -60,6 +60,7 @@ ResultCode OutputFile::createHidden(const platform::Access& access, platform::Fi
         const bool locked = !platform::isLocked(file.tryLock(platform::Lock::Exclusive));
         if (locked && m_hidden.status().sameFile(m_status))
             return {};
+        m_hidden.remove(m_status);
     }
     return err::library(err::OpenFileFailed);
 }
@@ -153,9 +154,10 @@ bool OutputFile::discard()
     withdraw();
     if (m_state != State::Exchanged) // else the former file stands there, and could not be given back
         m_hidden.remove(m_status);
-    const bool gone = m_state == State::Unnamed && isNameless();
+    if (m_stream.file().isOpen()) // else it has been looked at before
+        m_nameless = isNameless();
     static_cast<void>(m_stream.close());
-    return gone;
+    return m_state == State::Unnamed && m_nameless;
 }
 
 /// Takes the name back from a file that must not stand at the path. What others have put there, or where
@@ -185,7 +187,7 @@ void OutputFile::withdraw()
 bool OutputFile::isNameless() const
 {
     platform::FileStatus now;
-    return !m_stream.file().isOpen() || (m_stream.file().status(now).ok() && now.hardLinks == 0);
+    return m_stream.file().status(now).ok() && now.hardLinks == 0;
 }
 
 void OutputFile::removeHiddenNames()

@@ -89,6 +89,7 @@ private:
     platform::FileStatus m_formerStatus;
     HiddenName m_hidden;
     bool m_begun = false;
+    bool m_nameless = true; ///< as discard found it
     State m_state = State::Unnamed;
 };
 

@@ -2,17 +2,24 @@
 """accessibility.py QUILLET: walks the main window and every dialog of the program as a screen reader does, and
 prints each control with its role, name and actions. Fails on a control without a name, or without an action
 where its role has one, and on a dialog that doesn't come. Runs on an X server and a bus of its own."""
+import importlib.util
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
 import time
 
-PATIENCE = 20  # seconds, for a loaded machine
+PATIENCE = 60  # seconds, for a loaded machine
 
 if "QUILLET_WALK" not in os.environ:
+    missing = [name for name in ("xvfb-run", "dbus-run-session", "xdotool") if not shutil.which(name)]
+    missing += [name for name in ("gi", "pyatspi") if not importlib.util.find_spec(name)]
+    if missing:
+        print("not here:", *missing)
+        sys.exit(77)
     sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
-                             sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=120).returncode)
+                             sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=500).returncode)
 
 from gi.repository import GLib  # noqa: E402
 import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
@@ -38,6 +45,8 @@ SECRET = "Tr0ub4dor-and-3"
 def eventually(look, seconds=PATIENCE):
     end = time.monotonic() + seconds
     while not (answer := look()) and time.monotonic() < end:
+        while GLib.MainContext.default().iteration(False):  # the news of the bus
+            pass
         time.sleep(0.05)
     return answer
 
@@ -67,8 +76,10 @@ class Walk:
             self.faults.append("a window without a title")
         self.node(window, 0, False)
         for tab in find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB)[1:]:
+            before = shown(tab.parent.parent)
             do(tab, "Press")
-            eventually(lambda: states(tab, pyatspi.STATE_SELECTED))
+            if not eventually(lambda: shown(tab.parent.parent) != before):
+                self.faults.append(f"the tab {tab.name} shows nothing")
             self.node(tab.parent.parent, 1, False)
 
     def node(self, node, depth, within):
@@ -157,6 +168,10 @@ def find(node, predicate):
     return next(filter(None, (find(child, predicate) for child in children(node))), None)
 
 
+def shown(node):
+    return [n.name for n in find_all(node, lambda n: n.getRole() in ACTIVE and states(n, pyatspi.STATE_SHOWING))]
+
+
 def button(node, *names):
     return find(node, lambda n: n.getRole() == pyatspi.ROLE_PUSH_BUTTON and n.name in names)
 
@@ -190,32 +205,40 @@ def opened(application, opener, before):
 
 
 def encrypt(walk, main):
-    """Leaves the window with a result. What is typed into a masked field is nothing to tell on the bus."""
-    told = []
+    """Leaves the window with a result, which is announced. What is typed into a masked field is nothing to tell on the
+    bus."""
+    told, announced = [], []
+    pyatspi.Registry.registerEventListener(lambda event: announced.append(event.source and event.source.name),
+                                           "object:state-changed:showing")
     pyatspi.Registry.registerEventListener(lambda event: told.append(event.any_data), "object:text-changed:insert")
     dialog = opened(walk.application, button(main, "Encrypt"), [main])
     for field in find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
         field.queryEditableText().setTextContents(SECRET)
     bullets = "\u2022" * len(SECRET)
-    if not eventually(lambda: GLib.MainContext.default().iteration(False) and told.count(bullets) == 2) or SECRET in told:
+    if not eventually(lambda: told.count(bullets) == 2) or SECRET in told:
         walk.faults.append(f"told of the password: {told}")
     do(button(dialog, "OK"), "Press")
     if not eventually(lambda: len(windows(walk.application)) == 1 and find(
             main, lambda n: "successfully" in n.name and states(n, pyatspi.STATE_SHOWING))):
         walk.faults.append("no result to read")
+    # The label has the sentence alone.
+    if not eventually(lambda: any("successfully. letter.txt" in (name or "") for name in announced)):
+        walk.faults.append(f"no word of the result: {announced}")
 
 
 def walk(quillet, home):
     file = home + "/letter.txt"
     with open(file, "w") as stream:
         stream.write("x")
+    len(pyatspi.Registry.getDesktop(0))  # once it answers, programs can make themselves known
     process = subprocess.Popen([quillet, file], env=os.environ | {
         "HOME": home, "XDG_CONFIG_HOME": home, "XDG_DATA_HOME": home, "XDG_STATE_HOME": home,
         "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "ASAN_OPTIONS": "detect_leaks=0"})
     try:
-        desktop = pyatspi.Registry.getDesktop(0)
-        application = eventually(lambda: next((a for a in desktop if a is not None and len(a) > 0 and
+        application = eventually(lambda: next((a for a in pyatspi.Registry.getDesktop(0) if a is not None and len(a) > 0 and
                                                a.get_process_id() == process.pid), None))
+        if application is None:
+            sys.exit(f"the program has not come to the bus, and ended with {process.poll()}")
         walk = Walk(application)
         main = eventually(lambda: application[0])
         eventually(lambda: "letter.txt" in main.name)

@@ -14,6 +14,7 @@ import time
 import unittest
 
 CLI = os.path.abspath(sys.argv.pop(1))
+DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../data")
 PASSWORD = "correct horse"
 
 
@@ -53,6 +54,18 @@ class Behaviour(unittest.TestCase):
 
     def assert_files(self, *names):
         self.assertEqual(sorted(os.listdir()), sorted(("pw", "plain") + names))
+
+    def test_lists_the_algorithms(self):
+        algorithms = json.loads(self.run_cli("algorithms", "--json"))
+        table = self.run_cli("algorithms").splitlines()
+        self.assertEqual(table[0].split(), ["id", "name", "key", "block", "IV", "mode"])
+        with open(os.path.join(DATA, "algorithms.txt")) as known:
+            rows = [line.split()[:5] for line in known if line[0] != "#"]
+        modes = ["Stream" if row[3] == "0" else "CBC" for row in rows]
+        self.assertEqual([line.split() for line in table[1:]], [[*row, mode] for row, mode in zip(rows, modes)])
+        self.assertEqual([[str(value) for value in row.values()] for row in algorithms],
+                         [[*row, mode] for row, mode in zip(rows, modes)])
+        self.assertEqual(list(algorithms[0]), ["id", "name", "keyBytes", "blockBytes", "ivBytes", "mode"])
 
     def test_every_algorithm_by_password_and_by_key(self):
         algorithms = json.loads(self.run_cli("algorithms", "--json"))
@@ -285,10 +298,20 @@ class Behaviour(unittest.TestCase):
         self.run_cli("encrypt", "--output", "", "--password-file", "pw", "plain", code=2)
         self.assertIn("no IV", self.run_cli("encrypt", "--key-file", "key", "plain", code=1))
         self.assertIn("has 15 bytes", self.run_cli("encrypt", "--key-file", "key", "--iv-file", "iv", "plain", code=1))
+        self.assertIn("the IV in iv has 15 bytes, the algorithm takes 16",
+                      self.run_cli("encrypt", "--key-file", "key", "--iv-file", "iv", "plain", code=1))
+        self.assertIn("the key file pw is not hex", self.run_cli("encrypt", "--key-file", "pw", "--iv-file", "iv", "plain", code=1))
+        self.assertIn("cannot read the key file /", self.run_cli("encrypt", "--key-file", "/", "--iv-file", "iv", "plain", code=1))
+        self.assertIn("cannot read the password file /", self.run_cli("encrypt", "--password-file", "/", "plain", code=1))
         for password, word in (("", "empty"), ("zero\0byte", "control character"), ("a\rb", "line break"), ("\t", "tab")):
             self.write("pw", password)
+            self.assertIn("password file pw: the password ".lower(), self.encrypt("plain", code=1).lower())
             self.assertIn(word, self.encrypt("plain", code=1))
+        self.write("pw", "x" * (1 << 20) + "x")
+        self.assertIn("cannot read the password file pw", self.encrypt("plain", code=1))
         self.assert_files("key", "iv")
+        self.write("pw", "x" * (1 << 20) + "\n")
+        self.encrypt("plain")
 
     def test_reads_what_the_window_saved(self):
         self.write("key", "0011" * 16)
@@ -304,10 +327,16 @@ class Behaviour(unittest.TestCase):
         for name, shown in ((b"a\nb", r"a\nb"), (b"\x1b[2J\xff", r"\x1B[2J\xFF"), ("\x9b\u202egnp.exe".encode(),
                              r"\xC2\x9B\xE2\x80\xAEgnp.exe"), ("ä ☂".encode(), "ä ☂")):
             self.assertIn(shown + "\n", self.encrypt(os.fsdecode(name), code=1))
+            self.write(name, "")
+            self.assertTrue(self.run_cli("verify", "--password-file", "pw", os.fsdecode(name)).startswith(shown + ": "))
 
     def test_closed_output_is_an_error(self):
         with open("/dev/full", "wb") as full:
             self.assertEqual(subprocess.run([CLI, "algorithms"], stdout=full, stderr=subprocess.DEVNULL).returncode, 1)
+            done = subprocess.run([CLI, "encrypt", "--password-file", "pw", "-qo-", "plain"], stdout=full, stderr=subprocess.PIPE)
+            self.assertEqual((done.returncode, done.stderr),
+                             (1, b"quillet-cli: No space left on device (error: 1/28). The output file (standard output) could "
+                                 b"not be written.\n"))
 
     def on_terminal(self, arguments, answers):
         """Runs on a terminal of its own, giving each answer at its prompt; what was shown, and the exit code."""
@@ -324,7 +353,7 @@ class Behaviour(unittest.TestCase):
                 shown += piece
         except OSError:
             pass
-        return shown.decode(), os.waitstatus_to_exitcode(os.waitpid(child, 0)[1])
+        return shown.decode(errors="replace"), os.waitstatus_to_exitcode(os.waitpid(child, 0)[1])
 
     def test_asks_on_a_terminal_without_echo(self):
         secret = b"hunter2\n"
@@ -335,12 +364,17 @@ class Behaviour(unittest.TestCase):
         self.assertEqual(self.read("plain.dec"), self.read("plain"))
         self.assertNotIn("hunter2", shown + shown_again)
         self.assertNotIn("Making the key", shown + shown_again)
-        shown, code = self.on_terminal(["encrypt", "--seal", "--force", "plain"],
-                                       [(b"Password: ", secret), (b"Confirm password: ", secret)])
-        self.assertIn("Making the key of the password", shown)
-        self.assertEqual(code, 0, shown)
+        for quiet in ([], ["-q"]):
+            shown, code = self.on_terminal(["encrypt", "--seal", "--force", *quiet, "plain"],
+                                           [(b"Password: ", secret), (b"Confirm password: ", secret)])
+            self.assertEqual("Making the key of the password" in shown, not quiet)
+            self.assertEqual(code, 0, shown)
+        shown, code = self.on_terminal(["decrypt", "-o-", "plain.enc"], [(b"Password: ", secret)])
+        self.assertNotIn("Making the key", shown, "the output goes there")
+        shown, code = self.on_terminal(["decrypt", "-fo", "opened", "plain.enc"], [(b"Password: ", secret)])
+        self.assertEqual((shown.count("Making the key"), code), (1, 0), "the search has made it")
         shown, code = self.on_terminal(["encrypt", "--force", "plain"],
-                                       [(b"Password: ", secret), (b"Confirm password: ", b"other\n")])
+                                       [(b"Password: ", secret), (b"Confirm password: ", b"hunter3\n")])
         self.assertIn("do not match", shown)
         self.assertEqual(code, 1)
         shown, code = self.on_terminal(["encrypt", "--force", "plain"], [(b"Password: ", b"\x03")])
@@ -365,6 +399,28 @@ class Behaviour(unittest.TestCase):
                     return
             time.sleep(0.01)
         self.fail("it ended on its own")
+
+    def test_no_password_in_memory_while_it_works_and_no_core_dump(self):
+        with open("large", "wb") as file:
+            file.truncate(8 << 30)
+        running = subprocess.Popen([CLI, "encrypt", "--password-file", "pw", "large"], stderr=subprocess.DEVNULL)
+        self.addCleanup(running.wait)
+        self.addCleanup(running.kill)
+        self.wait_until_busy(running)
+        with open(f"/proc/{running.pid}/limits") as limits:
+            self.assertRegex(limits.read(), r"Max core file size +0 +0 ")
+        try:
+            memory = open(f"/proc/{running.pid}/mem", "rb", 0)
+        except PermissionError:
+            self.skipTest("only root may look into a process without core dumps")
+        with memory, open(f"/proc/{running.pid}/maps") as maps:
+            for line in maps:
+                area, rights = line.split()[:2]
+                if not rights.startswith("rw"):
+                    continue
+                begin, end = (int(number, 16) for number in area.split("-"))
+                memory.seek(begin)
+                self.assertNotIn(PASSWORD.encode(), memory.read(end - begin), line)
 
     def test_interrupt_leaves_nothing(self):
         with open("large", "wb") as file:
@@ -399,15 +455,19 @@ class Behaviour(unittest.TestCase):
             "no encrypted file": ["decrypt", "--password-file", "pw", "empty.enc"],
             "hides its size": ["encrypt", "--password-file", "pw", "/proc/self/status"],
             "output is the password file": ["encrypt", "--password-file", "out", "plain"],
+            "output is the key file": ["encrypt", "--key-file", "out", "--iv-file", "wrong", "plain"],
+            "output is the IV file": ["encrypt", "--key-file", "wrong", "--iv-file", "out", "plain"],
+            "cannot be opened": ["decrypt", "--password-file", "pw", "/proc/sys/vm/compact_memory"],
         }.items():
             with self.subTest(name):
                 self.write("wrong", "incorrect horse")
                 self.write("out", "precious")
                 command, *rest = arguments
                 error = self.run_cli(command, "--force", "--output", "out", *rest,
-                                     code=3 if command == "decrypt" else 1)
+                                     code=3 if command == "decrypt" and name[0] != "c" else 1)
+                self.assertEqual("could not be opened" in error, name == "cannot be opened" or name[0] == "h")
                 self.assertEqual(self.read("out"), b"precious")
-                self.assertRegex(error, r"/proc/self/status|plain\.enc|empty\.enc|out", "the file is named")
+                self.assertRegex(error, r"/proc/s|plain\.enc|empty\.enc|out", "the file is named")
 
 
 if __name__ == "__main__":

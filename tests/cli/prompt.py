@@ -73,7 +73,7 @@ class Prompt(unittest.TestCase):
     def wait_for(self, text):
         """Reads until the text comes; gives what came before it."""
         while text not in self.unread:
-            self.assertTrue(select.select([self.terminal], [], [], 20)[0], self.unread)
+            self.assertTrue(select.select([self.terminal], [], [], 120)[0], self.unread)
             self.unread += os.read(self.terminal, 1024)
         before, _, self.unread = self.unread.partition(text)
         self.shown += before + text
@@ -83,7 +83,7 @@ class Prompt(unittest.TestCase):
         return bool(termios.tcgetattr(self.terminal)[3] & termios.ECHO)
 
     def assert_echo(self, on):
-        wait_until = time.monotonic() + 5
+        wait_until = time.monotonic() + 60
         while self.has_echo() != on:
             self.assertLess(time.monotonic(), wait_until, "the echo is " + ("off" if on else "on"))
             time.sleep(0.01)

@@ -1,19 +1,31 @@
 #include "crypto/Engine.h"
 #include "crypto/catalogue/AlgInfo.h"
+#include "crypto/key/Hash.h"
 #include "support/DataRows.h"
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace {
 
 using namespace test;
+using tessaly::crypto::AlgAdvice;
 using tessaly::crypto::AlgInfo;
 using tessaly::crypto::CipherMode;
+using tessaly::crypto::hashName;
 using tessaly::cryptopp::CDecryptorFactory;
 using tessaly::cryptopp::CEncryptorFactory;
 
+bool isShortBlock(AlgAdvice advice)
+{
+    return advice != AlgAdvice::None && advice != AlgAdvice::Recommended &&
+           advice != AlgAdvice::SharedKeyStream;
+}
+
 TEST(Catalogue, IsTheOnePublished)
 {
+    const std::set<std::string_view> recommended = {"AES-256", "Twofish-256", "Serpent-256", "Camellia-256"};
     const auto rows = dataRows("algorithms.txt");
     ASSERT_EQ(rows.size(), tessaly::crypto::catalogue().size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -33,7 +45,14 @@ TEST(Catalogue, IsTheOnePublished)
         EXPECT_EQ(entry.record.stream, job.encryptor->blockLength() == 0);
         EXPECT_EQ(entry.record.mode, entry.record.stream ? CipherMode::Stream : CipherMode::Cbc);
         EXPECT_EQ(findAlgorithm(entry.name), &entry);
+        EXPECT_EQ(modeName(entry.record.mode), entry.record.stream ? "Stream" : "CBC");
+        EXPECT_EQ(entry.advice == AlgAdvice::Recommended, recommended.contains(entry.name)) << entry.name;
+        EXPECT_EQ(entry.advice == AlgAdvice::SharedKeyStream, entry.record.stream) << entry.name;
+        EXPECT_EQ(entry.record.blockLength == 8, isShortBlock(entry.advice)) << entry.name;
     }
+    EXPECT_EQ(hashName(11), "SHA-256");
+    EXPECT_EQ(hashName(21), "SHA3-256");
+    EXPECT_EQ(hashName(12), "");
     EXPECT_EQ(findAlgorithm("aes-256")->id, tessaly::crypto::DefaultAlgorithmId);
 }
 

@@ -4,6 +4,28 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <ctime>
+#include <set>
+
+namespace {
+
+std::time_t pretended = 0; ///< what the clock shows, when not 0
+
+} // namespace
+
+/// Stands before the library's in the whole test program.
+extern "C" std::time_t testTime(std::time_t*) __asm__("time");
+extern "C" std::time_t testTime(std::time_t* time)
+{
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    const std::time_t shown = pretended == 0 ? now.tv_sec : pretended;
+    if (time)
+        *time = shown;
+    return shown;
+}
+
 namespace {
 
 using namespace tessaly::crypto;
@@ -30,6 +52,22 @@ TEST(FileHeader, IsWhatAnotherProgramComputes)
         EXPECT_EQ(verifyHeader(algorithm.id + 1, checked, found),
                   CryptoResult(tessaly::err::CheckValueDiffers));
     }
+}
+
+/// Of 256 values each byte of the filler takes about 200 in 400 seconds.
+TEST(FileHeader, SaltIsSixBytesThatChangeWithTheTime)
+{
+    constexpr std::size_t Filler = 48;
+    std::array<std::set<int>, HeaderSize - Filler> values;
+    for (pretended = 1; pretended <= 400; ++pretended) {
+        std::array<std::uint8_t, HeaderSize> header{};
+        ASSERT_TRUE(makeHeader(252, 1, true, header).ok());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i].insert(header[Filler + i]);
+    }
+    pretended = 0;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        EXPECT_TRUE(i < 6 ? values[i].size() > 150 : values[i] == std::set{0}) << i;
 }
 
 } // namespace

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <sys/stat.h>
+#include <thread>
 
 namespace {
 
@@ -55,14 +57,55 @@ TEST_F(FileJob, TellsWhatItReadAndMade)
     EXPECT_TRUE(outcome.output.place->names(outcome.output.status));
     EXPECT_EQ(test::readFile(folder / "plain2"), content);
     EXPECT_EQ(fs::status(folder / "plain2").permissions(), fs::perms(0600));
-    EXPECT_TRUE(request.password.empty()) << "the password goes with the job";
+}
+
+TEST_F(FileJob, TheSecretGoesAsSoonAsItCan)
+{
+    for (const bool encrypting : {true, false}) {
+        std::string seen;
+        observer.onCall = [&](char call) {
+            seen += call;
+            if (call == 's') { // so that there is progress to tell of
+                const auto start = std::chrono::steady_clock::now();
+                while (std::chrono::steady_clock::now() - start <=
+                       std::chrono::milliseconds(DefaultProgressInterval))
+                    std::this_thread::yield();
+            }
+            EXPECT_EQ(request.password.empty(), encrypting || call != 's') << call;
+        };
+        request.key = request.iv = request.root.salt = request.root.bytes = {1, 2, 3};
+        EXPECT_TRUE((encrypting ? encrypt("plain", "out") : decrypt("out", "plain2")).done());
+        EXPECT_TRUE(seen.starts_with("sp") && seen.ends_with('w')) << seen;
+        EXPECT_TRUE(request.key.empty() && request.iv.empty() && request.root.salt.empty() &&
+                    request.root.bytes.empty());
+    }
+    password = "wrong";
+    request.key = request.iv = {1, 2, 3};
+    observer = {};
+    EXPECT_FALSE(decrypt("encrypted", "plain3").done());
+    EXPECT_TRUE(request.password.empty() && request.key.empty() && request.iv.empty());
+}
+
+TEST_F(FileJob, RemovesNothingFirstThatIsNoFormerOutput)
+{
+    request.existing = ExistingOutput::RemoveFirst;
+    fs::create_symlink("nowhere", folder / "link");
+    fs::create_symlink("plain", folder / "link to a file");
+    fs::create_hard_link(folder / "encrypted", folder / "hard");
+    for (const char* name : {"link", "link to a file", "hard", "encrypted"}) {
+        const FileJobOutcome outcome = decrypt("encrypted", name);
+        EXPECT_FALSE(outcome.done() || outcome.outputDeleted != (name[0] == 'l'));
+        EXPECT_TRUE(outcome.failedAtOutput());
+        EXPECT_EQ(outcome.step == JobStep::RemoveFormerOutput, name[0] != 'l');
+        EXPECT_TRUE(fs::exists(fs::symlink_status(folder / name))) << name;
+    }
 }
 
 /// How a job ends, by what stood at the output's path, and what is told and left of it.
 TEST_F(FileJob, LeavesAndTellsWhatItShould)
 {
     using enum ExistingOutput;
-    enum End { Success, WrongKey, StopAtStart, StopAtFlush, NoInput, OutputComes, FolderMoves };
+    enum End { Success, WrongKey, StopAtStart, StopAtFlush, NoInput, OutputComes, FolderMoves, InputMoves };
     const struct
     {
         const char* name;
@@ -89,7 +132,9 @@ TEST_F(FileJob, LeavesAndTellsWhatItShould)
         {"not replaced, wrong key", ReplaceAtEnd, true, WrongKey, false, "former"},
         {"not replaced, no input", ReplaceAtEnd, true, NoInput, false, "former"},
         {"not replaced, stopped", ReplaceAtEnd, true, StopAtFlush, true, "former"},
+        {"not replaced, as the input stands there", ReplaceAtEnd, true, InputMoves, true, "input"},
     };
+    const std::string encrypted = test::readFile(folder / "encrypted");
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         fs::remove_all(folder / "dir");
@@ -101,17 +146,19 @@ TEST_F(FileJob, LeavesAndTellsWhatItShould)
         request.existing = row.existing;
         observer = {};
         observer.cancelAfter = row.end == StopAtStart ? 's' : row.end == StopAtFlush ? 'w' : ' ';
-        observer.atFlush = [&] {
-            if (row.end == OutputComes)
+        observer.onCall = [&](char call) {
+            if (call == 'w' && row.end == OutputComes)
                 folder.write("dir/out", "another's");
-            if (row.end == FolderMoves)
+            if (call == 'w' && row.end == FolderMoves)
                 fs::rename(folder / "dir", folder / "moved");
+            if (call == 'w' && row.end == InputMoves)
+                fs::rename(folder / "encrypted", folder / "dir/out");
         };
         const FileJobOutcome outcome = decrypt(row.end == NoInput ? "absent" : "encrypted", "dir/out");
         EXPECT_EQ(outcome.done(), row.left == std::string("new"));
         EXPECT_EQ(outcome.outputDeleted, row.deletedTold);
         const std::string left = test::readFile(folder / "dir/out");
-        EXPECT_EQ(left == content ? "new" : left, row.left);
+        EXPECT_EQ(left == content ? "new" : left == encrypted ? "input" : left, row.left);
         EXPECT_TRUE(row.end != FolderMoves || fs::is_empty(folder / "moved"));
         for (const auto& entry : fs::directory_iterator(folder / (row.end == FolderMoves ? "moved" : "dir")))
             EXPECT_EQ(entry.path().filename(), "out");

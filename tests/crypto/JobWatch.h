@@ -15,21 +15,26 @@ public:
     std::string calls;
     std::int64_t total = -1;
     char cancelAfter = ' ';
-    std::function<void()> atFlush = [] {};
+    int questions = 0;
+    int cancelAtQuestion = 0;
+    std::function<void(char)> onCall = [](char) {}; ///< p(rogress) among them
 
     void jobStarted(std::int64_t size) override
     {
-        calls += 's';
         total = size;
+        note('s');
     }
-    void jobDerivingKey() override { calls += 'd'; }
-    void jobProgress(std::int64_t, float) override {}
-    void jobFlushing() override
+    void jobDerivingKey() override { note('d'); }
+    void jobProgress(std::int64_t, float) override { onCall('p'); }
+    void jobFlushing() override { note('w'); }
+    bool isJobCancelled() override { return ++questions == cancelAtQuestion || calls.back() == cancelAfter; }
+
+private:
+    void note(char call)
     {
-        calls += 'w';
-        atFlush();
+        calls += call;
+        onCall(call);
     }
-    bool isJobCancelled() override { return calls.back() == cancelAfter; }
 };
 
 } // namespace test

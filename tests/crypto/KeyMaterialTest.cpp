@@ -1,8 +1,11 @@
 #include "crypto/key/KeyMaterial.h"
 #include "crypto/Engine.h"
+#include "crypto/key/RandomBytes.h"
 #include "support/DataRows.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace {
 
@@ -31,6 +34,20 @@ TEST(KeyMaterial, FailsWithoutAKey)
         EXPECT_TRUE(key.empty());
     }
     EXPECT_EQ(deriveKey(key, 32, 21, nullptr), CryptoResult(err::NullArgument));
+}
+
+TEST(RandomBytes, AreOthersEveryTime)
+{
+    std::vector<std::set<int>> values(33);
+    for (int draw = 0; draw < 200; ++draw) {
+        SecretBytes bytes;
+        ASSERT_TRUE(tessaly::crypto::randomBytes(values.size(), bytes).ok());
+        ASSERT_EQ(bytes.size(), values.size());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i].insert(bytes[i]);
+    }
+    for (const auto& seen : values)
+        EXPECT_GT(seen.size(), 80U);
 }
 
 } // namespace

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -81,6 +83,23 @@ TEST(Operation, ReportsItsCourseInOrder)
         EXPECT_EQ(way.recorder.calls, "sf");
         EXPECT_EQ(way.run().writes, 0);
     });
+}
+
+/// The interval is over once, before the second chunk is written. On a slow machine once more: such rounds
+/// tell nothing.
+TEST(Operation, ReportsWhenTheIntervalIsOver)
+{
+    using Clock = std::chrono::steady_clock;
+    Way way("Twofish-256", true);
+    way.job.intervalMs = 20;
+    const auto spend = [](int call) {
+        const auto start = Clock::now();
+        while (call == 2 && Clock::now() - start <= std::chrono::milliseconds(20))
+            std::this_thread::yield();
+    };
+    for (int round = 0; round < 100 && way.recorder.calls != "spf"; ++round)
+        EXPECT_EQ(way.run({}, {.onCall = spend}).bytes, way.output);
+    EXPECT_EQ(way.recorder.calls, "spf");
 }
 
 /// All arguments are wrong; one after the other is put right.

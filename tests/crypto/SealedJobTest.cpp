@@ -172,6 +172,11 @@ TEST_F(SealedJob, AWrongPasswordIsToldAfterBothFormatsAndAStopBeforeTheSecond)
     observer.cancelAfter = 'd';
     for (const FileJobOutcome& outcome : {encrypt("plain", "out"), decrypt("sealed", "out")})
         EXPECT_TRUE(outcome.cancelled && outcome.result.ok() && !outcome.outputDeleted);
+    observer.cancelAfter = ' ';
+    observer.questions = 0;
+    observer.cancelAtQuestion = 2; // while the key is made
+    EXPECT_TRUE(encrypt("plain", "out").cancelled);
+    EXPECT_EQ(observer.calls, "d");
     EXPECT_FALSE(fs::exists(folder / "out"));
 }
 

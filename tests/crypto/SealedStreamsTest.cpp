@@ -2,6 +2,7 @@
 #include "crypto/sealed/OpeningInput.h"
 #include "crypto/sealed/SealedFormat.h"
 #include "crypto/sealed/SealingOutput.h"
+#include "support/NewThreads.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,7 @@ Outcome opened(MemoryInput in, const SecretBytes& tagKey, std::size_t atOnce = 1
     if (outcome.result.ok())
         outcome.result = opening.lastError();
     EXPECT_TRUE(!outcome.result.ok() || opening.isAtEnd());
+    EXPECT_FALSE(opening.read(buffer.data(), std::ssize(buffer), got)) << "no more after an end or a failure";
     return outcome;
 }
 
@@ -185,6 +187,15 @@ TEST_F(SealedStreams, FailuresOfTheFileAreTold)
         << "it shrank";
     EXPECT_EQ(opened({whole, {.miscount = 1}}, tagKey).result, CryptoResult(err::CheckValueDiffers));
     const Bytes larger = noise((2 * PiecesAtOnce + 1) * PieceSize);
+    {
+        const NewThreads none([] { return false; });
+        EXPECT_EQ(opened(sealed(larger, tagKey), tagKey).bytes, larger) << "one thread does it all";
+    }
+    MemoryOutput taking({.mostAtOnce = 1000});
+    SealingOutput sealingShort(taking, SecretBytes(SealSaltSize));
+    ASSERT_TRUE(sealingShort.open(tagKey).ok());
+    EXPECT_EQ(sealingShort.write(inner.data(), 2000), 2000);
+    EXPECT_FALSE(sealingShort.finish());
     for (const int failing : {1, 2, 3}) {
         MemoryOutput out({.failAtCall = failing});
         SealingOutput sealing(out, SecretBytes(SealSaltSize));

@@ -2,6 +2,7 @@
 #include "io/OStreamFile.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/platform/Path.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -48,12 +49,22 @@ TEST_F(FileStream, ReadsUpToTheSizeAtOpening)
     EXPECT_EQ(readSome(in, 60), "") << "it shrank";
     EXPECT_FALSE(in.isAtEnd());
     folder.write("in", "0123456789 and more");
-    EXPECT_EQ(readSome(in, 60), "89");
+    EXPECT_EQ(readSome(in, 1), "8");
+    EXPECT_FALSE(in.isAtEnd());
+    EXPECT_EQ(readSome(in, 60), "9");
     EXPECT_TRUE(in.isAtEnd());
     EXPECT_EQ(readSome(in, 1), "!");
     EXPECT_TRUE(in.lastError().ok()) << "the end is no error";
     EXPECT_TRUE(in.rewind().ok() && in.isAtStart());
+    {
+        const test::SystemCall broken("read", EIO);
+        EXPECT_EQ(readSome(in, 60), "!");
+        EXPECT_EQ(in.lastError(), err::system(EIO));
+    }
+    const test::SystemCall interrupted("read", EINTR);
     EXPECT_EQ(readSome(in, 60), "0123456789");
+    EXPECT_TRUE(in.lastError().ok());
+    EXPECT_EQ(in.open(folder.wide("in")), err::library(err::AlreadyOpen));
 }
 
 TEST_F(FileStream, ReadingRefusesAndReports)
@@ -79,10 +90,17 @@ TEST_F(FileStream, WritingAppends)
     EXPECT_EQ(out.write("new ", 4), 4);
     folder.write("out", "replaced ");
     EXPECT_EQ(out.write("again", 5), 5);
-    EXPECT_TRUE(out.flush().ok() && out.close().ok());
+    EXPECT_TRUE(out.flush().ok());
+    {
+        const test::SystemCall interrupted("close", EINTR);
+        EXPECT_TRUE(out.close().ok());
+    }
     EXPECT_EQ(test::readFile(folder / "out"), "replaced again");
     EXPECT_EQ(out.flush(), err::library(err::StreamClosed));
     EXPECT_EQ(out.open(L""), err::library(err::NullArgument));
+    EXPECT_TRUE(out.open(folder.wide("out")).ok());
+    const test::SystemCall broken("close", EIO);
+    EXPECT_EQ(out.close(), err::system(EIO));
 }
 
 TEST_F(FileStream, AFullDiskIsAnErrorOfWriteAndOfFlush)

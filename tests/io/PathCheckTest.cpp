@@ -47,6 +47,7 @@ TEST(PathCheck, TellsWhatStandsThereAndChangesNothing)
         EXPECT_EQ(checkInput(folder.at(row.name)), row.asInput) << row.name;
         EXPECT_EQ(checkOutput(folder.at("file"), folder.at(row.name)), row.asOutput) << row.name;
     }
+    EXPECT_EQ(checkOutput(folder.at("file"), "a name in the working folder"), OutputCheck::Free);
     EXPECT_FALSE(fs::exists(folder / "new"));
     EXPECT_FALSE(tessaly::platform::removeFile(folder / "file" + std::string("\0x", 2)).ok());
     EXPECT_TRUE(fs::exists(folder / "file")) << "no half of a name removes it";

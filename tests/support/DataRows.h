@@ -11,7 +11,8 @@ namespace test {
 using Row = std::vector<std::string>;
 
 /// The rows of a text file in tests/data, or of all files in a folder there, split into fields at
-/// blanks. Lines that begin with '#' are skipped; "-" stands for an empty field.
+/// blanks. Lines that begin with '#' are skipped; "-" stands for an empty field. With tabs in it a line is
+/// split at these.
 inline std::vector<Row> dataRows(const std::string& name)
 {
     const std::filesystem::path path = std::filesystem::path(TEST_DATA_DIR) / name;
@@ -25,7 +26,8 @@ inline std::vector<Row> dataRows(const std::string& name)
     for (std::string line; std::getline(text, line);) {
         std::istringstream fields(line);
         Row row;
-        for (std::string field; fields >> field;)
+        const bool hasTabs = line.find('\t') != std::string::npos;
+        for (std::string field; hasTabs ? bool(std::getline(fields, field, '\t')) : bool(fields >> field);)
             row.push_back(field == "-" ? "" : field);
         if (!line.starts_with('#'))
             rows.push_back(row);

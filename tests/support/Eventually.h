@@ -6,10 +6,10 @@
 
 namespace test {
 
-/// Whether the condition comes true within 20 seconds.
+/// Whether the condition comes true within a minute.
 inline bool eventually(const std::function<bool()>& condition)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     while (!condition()) {
         if (std::chrono::steady_clock::now() > deadline)
             return false;

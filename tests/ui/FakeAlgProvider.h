@@ -3,7 +3,7 @@
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
 /// Three algorithms, the second of them disabled, and one index that yields nothing.
-class FakeAlgProvider final : public thisapp::ICryptoAlgProvider
+class FakeAlgProvider : public thisapp::ICryptoAlgProvider
 {
 public:
     int count() const override { return 4; }

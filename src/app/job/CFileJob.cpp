@@ -3,10 +3,9 @@
 #include "app/job/CMsgDispatcher.h"
 #include "common/errors/ErrorText.h"
 #include "lib/err/ErrorCodes.h"
+#include "lib/thread/Deliver.h"
 
-#include <chrono>
 #include <new>
-#include <thread>
 #include <utility>
 
 namespace thisapp {
@@ -18,17 +17,13 @@ namespace {
 /// What the thread is started for.
 enum Task : std::uintptr_t { Cipher, RemoveInput };
 
-/// News that must arrive, whatever the memory is short of: without it the window would wait for ever.
-template <class Signal>
-void deliver(Signal signal)
+/// In words for the log. Empty on success, and without memory for them.
+std::string failureIn(const crypto::FileJobOutcome& outcome)
 {
-    for (;;) {
-        try {
-            signal();
-            return;
-        } catch (const std::bad_alloc&) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
+    try {
+        return errorText(outcome.result).toStdString();
+    } catch (const std::bad_alloc&) {
+        return {};
     }
 }
 
@@ -124,10 +119,10 @@ ResultCode CFileJob::run(std::uint32_t, std::uintptr_t task)
 {
     if (task == Cipher) {
         runCipher();
-        deliver([this] { emit m_dispatcher.notifyEncryptFinished(); });
+        thread::deliver([this] { emit m_dispatcher.notifyEncryptFinished(); });
     } else {
         removeJobInput();
-        deliver([this] { emit m_dispatcher.notifyInputRemovalFinished(); });
+        thread::deliver([this] { emit m_dispatcher.notifyInputRemovalFinished(); });
     }
     return {};
 }
@@ -148,7 +143,6 @@ void CFileJob::removeJobInput()
 void CFileJob::runCipher()
 {
     crypto::FileJobOutcome outcome;
-    std::string text;
     try {
         Operation operation{};
         crypto::FileJobRequest request = m_data.with([&operation](SEncryptData& data) {
@@ -158,11 +152,10 @@ void CFileJob::runCipher()
             return copy;
         });
         outcome = execute(operation, request);
-        text = errorText(outcome.result).toStdString();
     } catch (...) {
-        if (outcome.result.ok())
-            outcome.result = err::library(err::RunnableThrew);
+        outcome.result = err::library(err::RunnableThrew);
     }
+    std::string text = failureIn(outcome);
     m_data.with([&](SEncryptData& data) {
         data.request.wipeSecrets();
         data.outcome = std::move(outcome);

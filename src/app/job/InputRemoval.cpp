@@ -62,8 +62,13 @@ InputRemoval removeInput(const SEncryptData& data)
 {
     InputRemoval removal;
     removal.kept = reasonToKeepInput(data);
-    if (!removal.kept)
-        removal.error = data.outcome.input.place->remove();
+    if (removal.kept)
+        return removal;
+    const io::FilePlace& place = *data.outcome.input.place;
+    removal.error = place.folder().remove(place.name());
+    removal.removed = removal.error.ok();
+    if (removal.removed)
+        removal.error = place.folder().sync();
     return removal;
 }
 

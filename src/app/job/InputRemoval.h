@@ -24,9 +24,9 @@ enum class KeepReason {
 struct InputRemoval
 {
     std::optional<KeepReason> kept;
+    /// The file could not be removed, or the disk did not take it in.
     tessaly::ResultCode error;
-
-    bool removed() const { return !kept && error.ok(); }
+    bool removed = false;
 };
 
 /// Nothing when the input may be deleted. Only looks at both files.

@@ -177,16 +177,18 @@ QString removalText(const InputRemoval& removal)
 {
     if (removal.kept)
         return keptText(*removal.kept);
-    if (!removal.error.ok())
-        return Text::tr("The input file could not be deleted.") + ' ' + errorText(removal.error);
+    const QString failure = removal.error.ok() ? QString() : ' ' + errorText(removal.error);
+    if (!removal.removed)
+        return Text::tr("The input file could not be deleted.") + failure;
     return Text::tr("Input file has been deleted after the successfully encryption "
-                    "according to your options");
+                    "according to your options") +
+           (failure.isEmpty() ? failure : '.' + failure);
 }
 
 void reportInputRemoval(const InputRemoval& removal, const SEncryptData& data, IMessageAreas& areas)
 {
     areas.showMessage(Area::Input,
-                      {removal.removed() ? MessageKind::Success : MessageKind::Warning,
+                      {removal.removed && removal.error.ok() ? MessageKind::Success : MessageKind::Warning,
                        [removal] { return removalText(removal); }, pathText(data.request.input)});
 }
 

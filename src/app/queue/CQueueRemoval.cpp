@@ -1,5 +1,6 @@
 #include "app/queue/CQueueRemoval.h"
 
+#include "lib/err/ErrorCodes.h"
 #include "ui/disk/CDiskWork.h"
 
 #include <chrono>
@@ -29,6 +30,16 @@ SEncryptData reopened(SEncryptData ended)
     return ended;
 }
 
+/// No exception leaves it: of each file it is known what has become of it.
+InputRemoval removeOne(const SEncryptData& ended)
+{
+    try {
+        return removeInput(reopened(ended));
+    } catch (...) {
+        return {.kept = {}, .error = err::library(err::RunnableThrew)};
+    }
+}
+
 } // namespace
 
 CQueueRemoval::CQueueRemoval(CDiskWork& disk) : m_disk(disk)
@@ -54,16 +65,25 @@ void CQueueRemoval::onUiAnswered()
 {
     if (isReady(m_look))
         remove(std::exchange(m_look, {}).get());
-    if (isReady(m_removal)) {
-        const std::vector<Result> removed = std::exchange(m_removal, {}).get();
-        m_results.insert(m_results.end(), removed.begin(), removed.end());
-        m_isRunning = false;
-        emit notifyEnded();
-    }
+    if (isReady(m_removal))
+        end(std::exchange(m_removal, {}).get());
 }
 
-void CQueueRemoval::remove(const Reasons& reasons)
+/// Without memory there is no answer, and nothing has been removed.
+void CQueueRemoval::end(const std::vector<Result>& removed)
 {
+    if (removed.size() == m_removing.size())
+        m_results.insert(m_results.end(), removed.begin(), removed.end());
+    else
+        for (const std::size_t index : m_removing)
+            m_results.push_back({index, {.kept = {}, .error = err::library(err::RunnableThrew)}});
+    m_isRunning = false;
+    emit notifyEnded();
+}
+
+void CQueueRemoval::remove(Reasons reasons)
+{
+    reasons.resize(m_candidates.size(), KeepReason::NotEncrypted); // of no answer, for want of memory
     std::vector<Candidate> removable;
     for (std::size_t i = 0; i < reasons.size(); ++i)
         if (reasons[i])
@@ -73,10 +93,14 @@ void CQueueRemoval::remove(const Reasons& reasons)
     m_candidates.clear();
     if (removable.empty() || !m_confirm(removable))
         removable.clear();
+    m_removing.clear();
+    for (const Candidate& candidate : removable)
+        m_removing.push_back(candidate.index);
     m_removal = m_disk.start<std::vector<Result>>([removable = std::move(removable)] {
         std::vector<Result> results;
+        results.reserve(removable.size()); // before anything is removed
         for (const Candidate& candidate : removable)
-            results.push_back({candidate.index, removeInput(reopened(candidate.ended))});
+            results.push_back({candidate.index, removeOne(candidate.ended)});
         return results;
     });
 }

@@ -50,13 +50,15 @@ private slots:
 private:
     using Reasons = std::vector<std::optional<thisapp::KeepReason>>;
 
-    void remove(const Reasons& reasons);
+    void remove(Reasons reasons);
+    void end(const std::vector<Result>& removed);
 
     CDiskWork& m_disk;
     Confirm m_confirm;
     std::vector<Candidate> m_candidates;
     std::shared_future<Reasons> m_look;
     std::shared_future<std::vector<Result>> m_removal;
+    std::vector<std::size_t> m_removing; ///< the indexes of those that are being removed
     std::vector<Result> m_results;
     bool m_isRunning = false;
 };

@@ -9,10 +9,10 @@
 
 using namespace thisapp;
 
-CAlgorithmOffer::CAlgorithmOffer(CJobFrame& form) : m_form(form)
+CAlgorithmOffer::CAlgorithmOffer(CJobFrame& form, std::chrono::milliseconds lifetime) : m_form(form)
 {
     m_timer.setSingleShot(true);
-    m_timer.setInterval(LifetimeMs);
+    m_timer.setInterval(lifetime);
     connect(&m_timer, &QTimer::timeout, this, &CAlgorithmOffer::withdraw);
     connect(&m_form, &CJobFrame::notifyTextChanged, this, &CAlgorithmOffer::withdraw);
     connect(&m_form.algFrame(), &CSelectAlgFrame::notifyAlgChanged, this, &CAlgorithmOffer::withdraw);

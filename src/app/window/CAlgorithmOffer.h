@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -20,9 +21,9 @@ class CAlgorithmOffer final : public QObject
 
 public:
     /// How long the secret is kept at most, once offered.
-    static constexpr int LifetimeMs = 3 * 60 * 1000;
+    static constexpr std::chrono::milliseconds Lifetime = std::chrono::minutes(3);
 
-    explicit CAlgorithmOffer(CJobFrame& form);
+    explicit CAlgorithmOffer(CJobFrame& form, std::chrono::milliseconds lifetime = Lifetime);
 
     /// A job starts with that request.
     void remember(const thisapp::SEncryptData& request);

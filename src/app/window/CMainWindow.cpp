@@ -51,7 +51,7 @@ CMainWindow::CMainWindow(const WindowServices& services)
       m_actions(*this, [this](const Command& command) { run(command); }),
       m_display(*m_form, services.taskbar, services.notifier,
                 [this](const QString& file) { m_fields.openFolderOf(file); }),
-      m_offer(*m_form),
+      m_offer(*m_form, services.offerLifetime),
       m_job(services.encryptors, services.decryptors, m_dispatcher),
       m_queueJob({m_queue, *m_form, m_input, m_disk, m_job, m_display})
 {

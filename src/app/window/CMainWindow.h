@@ -36,6 +36,7 @@ struct WindowServices
     desktop::INotifier& notifier;
     InputLook look = lookAtInput;
     tessaly::crypto::Argon2Cost cost = {}; ///< see FileJobRequest
+    std::chrono::milliseconds offerLifetime = CAlgorithmOffer::Lifetime;
 };
 
 } // namespace thisapp

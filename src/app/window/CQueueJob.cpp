@@ -279,7 +279,7 @@ void CQueueJob::onUiRemovalEnded()
 {
     std::size_t removed = 0;
     for (const auto& [index, removal] : m_removal.results()) {
-        removed += static_cast<std::size_t>(removal.removed());
+        removed += static_cast<std::size_t>(removal.removed);
         m_parts.queue.note(index, [removal = removal] { return removalText(removal); });
     }
     m_parts.form.queueList().refresh();

@@ -64,6 +64,12 @@ QString compose(const QString& name, const NameParts& parts, bool addExt, const 
     return addExt && !parts.ext.isEmpty() ? withExtension(composed, parts.ext) : composed;
 }
 
+/// The name of a file may begin with a colon, which Qt takes for a place in its resources.
+QString fileText(const QString& path)
+{
+    return path.startsWith(QLatin1Char(':')) ? QLatin1String("./") + path : path;
+}
+
 QString outputFolder(const QFileInfo& input, const NamingSettings& settings, const FolderMaker& folderMaker)
 {
     const QString& folder = settings.outputDirPath;
@@ -103,13 +109,13 @@ QString outputFileName(const QString& fileName, NamingDirection direction, const
 QString outputPath(const QString& inputPath, const NamingSettings& settings, const QDate& today,
                    const FolderMaker& folderMaker)
 {
-    const QFileInfo input(inputPath);
+    const QFileInfo input(fileText(inputPath));
     if (!settings.autogenerate || input.fileName().isEmpty())
         return {};
     const QString name =
         outputFileName(input.fileName(), namingDirection(input.fileName(), settings), settings, today);
     const QDir folder(outputFolder(input, settings, folderMaker));
-    return QDir::toNativeSeparators(QDir::cleanPath(folder.absoluteFilePath(name)));
+    return QDir::toNativeSeparators(QDir::cleanPath(folder.absoluteFilePath(fileText(name))));
 }
 
 } // namespace thisapp

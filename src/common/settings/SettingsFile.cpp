@@ -19,42 +19,62 @@ int endOfLine(const QByteArray& text, int start)
     return text.size();
 }
 
-/// Takes the digits of a numeric escape off; '?' for a character beyond ASCII.
-char takeNumber(const QByteArray& line, int& i, int base)
+/// Takes the digits of a numeric escape off and appends their character; '?' for one beyond ASCII. Without
+/// digits it is none.
+void takeNumber(const QByteArray& line, int& i, int base, QByteArray& text)
 {
     const QByteArray digits = QByteArray("0123456789abcdefABCDEF").left(base == 8 ? 8 : 22);
     const int start = i;
     while (i < line.size() && digits.contains(line[i]))
         ++i;
+    if (i == start)
+        return;
     // The reader keeps 16 bits.
     const unsigned code = line.mid(start, i - start).right(base == 8 ? 6 : 4).toUInt(nullptr, base) & 0xFFFFU;
-    return code < 0x80 ? static_cast<char>(code) : '?';
+    text += code < 0x80 ? static_cast<char>(code) : '?';
 }
 
-/// The line without its quotes and continuations, its escapes resolved.
-QByteArray plain(QByteArray line)
+bool isLineEnd(char c)
 {
-    line.replace("\r\n", "\n");
+    return c == '\n' || c == '\r';
+}
+
+/// The line without its quotes and continuations, its numeric escapes resolved. All other escapes are
+/// dropped: the reader drops those that it doesn't know, and the others are no part of what is looked for.
+QByteArray plain(const QByteArray& line)
+{
     QByteArray text;
     for (int i = 0; i < line.size();) {
         const char c = line[i++];
-        const char next = i < line.size() ? line[i] : '\n';
         if (c != '\\' && c != '"')
             text += c;
-        else if (c == '\\' && next == 'x')
-            text += takeNumber(line, ++i, 16);
-        else if (c == '\\' && next >= '0' && next <= '7')
-            text += takeNumber(line, i, 8);
-        else if (c == '\\' && ++i > 0 && next != '\n' && next != '\r')
-            text += next;
+        if (c != '\\' || i == line.size())
+            continue;
+        const char next = line[i];
+        if (next >= '0' && next <= '7') {
+            takeNumber(line, i, 8, text);
+            continue;
+        }
+        ++i;
+        if (next == 'x')
+            takeNumber(line, i, 16, text);
+        else if (isLineEnd(next) && i < line.size() && isLineEnd(line[i]) && line[i] != next)
+            ++i;
     }
     return text;
 }
 
+/// Only what a value, or one of a list, begins with is an object to the reader; elsewhere it is the user's
+/// text, which is lost only when it has such a beginning behind one of the signs that may stand before it.
 bool holdsSerialisedValue(const QByteArray& line)
 {
+    const QByteArray before = "=, \t\v\f\r\n";
     const QByteArray text = plain(line);
-    return text.contains("@Variant(") || text.contains("@DateTime(");
+    for (const char* object : {"@Variant(", "@DateTime("})
+        for (int at = text.indexOf(object); at >= 0; at = text.indexOf(object, at + 1))
+            if (at == 0 || before.contains(text[at - 1]))
+                return true;
+    return false;
 }
 
 } // namespace
@@ -65,6 +85,8 @@ int removeSerialisedValues(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     const QByteArray text = file.readAll();
+    if (file.error() != QFile::NoError)
+        return -1; // what was not read would be lost
     QByteArray kept;
     int removed = 0;
     for (int start = 0, end = 0; start < text.size(); start = end) {
@@ -78,8 +100,9 @@ int removeSerialisedValues(const QString& path)
         return 0;
     QSaveFile cleaned(path);
     cleaned.setDirectWriteFallback(true);
-    const bool written =
-        cleaned.open(QIODevice::WriteOnly) && cleaned.write(kept) == kept.size() && cleaned.commit();
+    // Without the flush, commit() would put a torn file in place: it overlooks what fails then.
+    const bool written = cleaned.open(QIODevice::WriteOnly) && cleaned.write(kept) == kept.size() &&
+                         cleaned.flush() && cleaned.commit();
     return written ? removed : -1;
 }
 

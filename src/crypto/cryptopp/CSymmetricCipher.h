@@ -1,12 +1,13 @@
 #pragma once
 
 #include "crypto/cipher/SymmetricCipher.h"
+#include "lib/secret/SecretHeap.h"
 
 namespace tessaly::cryptopp {
 
 /// The encryptor or decryptor of one algorithm.
 template <class Engine, class... SaltFlag>
-class CSymmetricCipher final : public crypto::SymmetricCipher<SaltFlag...>
+class CSymmetricCipher final : public crypto::SymmetricCipher<SaltFlag...>, public InSecretHeap
 {
 private:
     crypto::ICipherEngine& engine() override { return m_engine; }

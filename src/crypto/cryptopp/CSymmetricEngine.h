@@ -5,6 +5,8 @@
 #include <cryptopp/modes.h>
 
 #include "crypto/cipher/ICipherEngine.h"
+#include "lib/secret/SecretHeap.h"
+
 #include <memory>
 #include <type_traits>
 
@@ -14,7 +16,7 @@ namespace tessaly::cryptopp {
 /// algorithm of the catalogue.
 template <class Cipher, std::uint32_t Id, std::uint32_t KeyLength, std::uint32_t IvLength,
           std::uint32_t BlockLength, std::uint32_t ExtraRoom>
-class CSymmetricEngine final : public crypto::ICipherEngine
+class CSymmetricEngine final : public crypto::ICipherEngine, public InSecretHeap
 {
 public:
     std::uint32_t algorithmId() const override { return Id; }

@@ -1,6 +1,7 @@
 #include "crypto/key/Hmac.h"
 
 #include "crypto/Guard.h"
+#include "lib/secret/SecretHeap.h"
 
 #include <cryptopp/hmac.h>
 #include <cryptopp/misc.h>
@@ -11,7 +12,7 @@ namespace tessaly::crypto {
 namespace {
 
 template <class Hash>
-class HmacEngine final : public IHashEngine
+class HmacEngine final : public IHashEngine, public InSecretHeap
 {
 public:
     explicit HmacEngine(const SecretBytes& key) : m_hmac(key.data(), key.size()) {}

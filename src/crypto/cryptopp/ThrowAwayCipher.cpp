@@ -2,6 +2,7 @@
 
 #include "crypto/Guard.h"
 #include "crypto/key/RandomBytes.h"
+#include "lib/secret/SecretHeap.h"
 
 #include <cryptopp/aes.h>
 #include <cryptopp/modes.h>
@@ -10,7 +11,7 @@ namespace tessaly::crypto {
 
 namespace {
 
-class ThrowAwayCipher final : public IThrowAwayCipher
+class ThrowAwayCipher final : public IThrowAwayCipher, public InSecretHeap
 {
 public:
     explicit ThrowAwayCipher(const SecretBytes& key)

@@ -88,9 +88,9 @@ FoundAlgorithm searchIn(io::IRewindableBytes& in, const FileJobRequest& request,
     if (!found.algorithmId && any && search.mayBeSealed()) {
         SealedRoot root;
         const auto engine = decryptorOf(any->id);
-        const CryptoResult made = engine ? makeRoot(request, request.password, *engine, search.salt(),
-                                                    observer, root, found.cancelled)
-                                         : CryptoResult(err::UnknownAlgorithm);
+        requireMemory(engine != nullptr);
+        const CryptoResult made =
+            makeRoot(request, request.password, *engine, search.salt(), observer, root, found.cancelled);
         if (found.cancelled || !made.ok()) {
             found.result = made;
             return found;
@@ -182,11 +182,11 @@ bool AlgorithmSearch::fitsPlain(std::uint32_t algorithmId) const
     }
     const CryptoResult result =
         decryptor->run(&in, &out, key, iv, HeaderSize, DefaultProgressInterval, nullptr, nullptr);
-    requireMemory(result != CryptoResult(err::FirstBufferAllocation) &&
-                  result != CryptoResult(err::SecondBufferAllocation) &&
-                  result.second() != err::library(err::ProcessingFailed));
     // Of most files the head alone is cut short, and that is told once the check value fits.
-    return result.ok() || result == CryptoResult(err::InputTruncated);
+    const bool fits = result.ok() || result == CryptoResult(err::InputTruncated);
+    requireMemory(fits || result == CryptoResult(err::CheckValueDiffers) ||
+                  result == CryptoResult(err::InputTooShort));
+    return fits;
 }
 
 bool AlgorithmSearch::fitsSealed(std::uint32_t algorithmId, const SecretBytes& root) const

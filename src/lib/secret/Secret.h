@@ -1,37 +1,33 @@
 #pragma once
 
 #include "lib/platform/Memory.h"
+#include "lib/secret/SecretHeap.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <iterator>
-#include <memory>
 #include <string_view>
 #include <vector>
 
 namespace tessaly {
 
-/// Hands memory back only after wiping it.
+/// Takes memory from where secrets are, which is wiped when it goes back.
 template <class T>
-struct WipingAllocator
+struct SecretAllocator
 {
     using value_type = T;
 
-    WipingAllocator() = default;
+    SecretAllocator() = default;
     template <class U>
-    constexpr WipingAllocator(const WipingAllocator<U>&) noexcept
+    constexpr SecretAllocator(const SecretAllocator<U>&) noexcept
     {
     }
 
-    T* allocate(std::size_t count) { return std::allocator<T>().allocate(count); }
-    void deallocate(T* data, std::size_t count) noexcept
-    {
-        platform::wipe(data, count * sizeof(T));
-        std::allocator<T>().deallocate(data, count);
-    }
+    T* allocate(std::size_t count) { return static_cast<T*>(secretheap::allocate(count * sizeof(T))); }
+    void deallocate(T* data, std::size_t count) noexcept { secretheap::deallocate(data, count * sizeof(T)); }
 
-    friend constexpr bool operator==(const WipingAllocator&, const WipingAllocator&) { return true; }
+    friend constexpr bool operator==(const SecretAllocator&, const SecretAllocator&) { return true; }
 };
 
 /// Keys, IVs, passwords and plaintext. However it is emptied, shortened, moved or assigned over, no
@@ -90,7 +86,7 @@ public:
     friend bool operator==(const SecretBytes&, const SecretBytes&) = default;
 
 private:
-    std::vector<std::uint8_t, WipingAllocator<std::uint8_t>> m_bytes;
+    std::vector<std::uint8_t, SecretAllocator<std::uint8_t>> m_bytes;
 };
 
 /// A password as the engine takes it: bytes, with a terminating zero that is not counted.

@@ -1,5 +1,7 @@
 #include "ui/disk/CDiskWork.h"
 
+#include "lib/thread/Deliver.h"
+
 #include <QEventLoop>
 #include <QTimer>
 
@@ -40,7 +42,7 @@ void CDiskWork::run(const std::function<void()>& work)
         std::erase_if(m_running, isDone);
         auto task = std::make_shared<std::packaged_task<void()>>([work, news = m_news] {
             work();
-            emit news->notifyAnswered();
+            tessaly::thread::deliver([&news] { emit news->notifyAnswered(); });
         });
         m_running.push_back(task->get_future());
         std::thread([task] { (*task)(); }).detach();

@@ -74,7 +74,7 @@ protected:
     test::Environment config{"XDG_CONFIG_HOME", (folder / "config").c_str()};
     test::Environment system{"XDG_CONFIG_DIRS", (folder / "system").c_str()};
     test::Environment programs{"PATH", (folder / "bin").c_str()};
-    std::string program = folder / "it's \"$our\" program {marker} 100%";
+    std::string program = folder / "it's \"$our\" & program; {marker} 100%";
 };
 
 constexpr const char* ServiceMenu = "data/kio/servicemenus/quillet.desktop";
@@ -115,6 +115,10 @@ TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
     update(true, true);
     EXPECT_EQ(files().count(ServiceMenu) + files().count("data/nemo/actions/quillet-open.nemo_action"), 0U)
         << "for managers that are not there";
+    folder.write("bin/nemo", "");
+    fs::permissions(folder / "bin/nemo", fs::perms(0700));
+    update(true, true);
+    EXPECT_EQ(files().count("data/nemo/actions/quillet-open.nemo_action"), 1U) << "yet to be started";
 }
 
 TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
@@ -123,8 +127,9 @@ TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
     EXPECT_NE(read(ServiceMenu).find("Exec=" + execArgument(program) + " -decrypt -start -ifile %F\n"),
               std::string::npos);
     EXPECT_NE(read(SendTo).find("Exec=" + execArgument(program) + " -ifile %F\n"), std::string::npos);
-    EXPECT_NE(read("data/nemo/actions/quillet-encrypt.nemo_action").find("Name=Encrypt with Quillet\n"),
-              std::string::npos);
+    const std::string nemo = read("data/nemo/actions/quillet-encrypt.nemo_action");
+    EXPECT_NE(nemo.find("Name=Encrypt with Quillet\n"), std::string::npos);
+    EXPECT_NE(nemo.find("& program\\; {marker} 100%;\n"), std::string::npos) << nemo;
 
     // Scripts go by the manager's URIs; for files of another machine by the paths that they have on this one.
     folder.write(program, "#!/bin/sh\nprintf '%s|' \"$@\" >>'" + (folder / "arguments") + "'\n");
@@ -189,7 +194,7 @@ TEST_F(ShellIntegrationTest, SharesThunarsActionsWithTheUser)
         update(true, true);
         const std::string ours = read(Actions);
         EXPECT_NE(ours.find(start.empty() ? "System" : theirs), std::string::npos);
-        EXPECT_NE(ours.find("program {marker} 100%%'"), std::string::npos) << ours;
+        EXPECT_NE(ours.find("program; {marker} 100%%'"), std::string::npos) << ours;
         // The user changes things: the order, and one of ours.
         std::string moved = ours;
         const std::size_t end = moved.find("</actions>");
@@ -203,7 +208,7 @@ TEST_F(ShellIntegrationTest, SharesThunarsActionsWithTheUser)
         update(false, true);
         EXPECT_EQ(read(Actions), start); // a file that was not there is gone
     }
-    for (const char* broken : {"<actions><action></actions>", "<other/>", ""}) {
+    for (const char* broken : {"<actions><action></actions>", "<other/>", "", "<actions>\xe9</actions>"}) {
         fs::create_directories(folder / "config/Thunar");
         folder.write(Actions, broken);
         update(true, true);
@@ -247,10 +252,12 @@ TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
     update(true, true);
     EXPECT_EQ(read(ServiceMenu), ours);
 
-    folder.write(menu, "someone else's");
-    for (const bool contextMenu : {true, false}) {
-        update(contextMenu, true);
-        EXPECT_EQ(read(ServiceMenu), "someone else's");
+    for (const std::string& theirs : {"someone else's"s, "a copy of " + OwnedFile::head("/old")}) {
+        folder.write(menu, theirs);
+        for (const bool contextMenu : {true, false}) {
+            update(contextMenu, true);
+            EXPECT_EQ(read(ServiceMenu), theirs);
+        }
     }
     fs::remove(menu);
     fs::create_symlink(folder / SendTo, menu);

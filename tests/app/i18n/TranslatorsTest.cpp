@@ -7,7 +7,6 @@
 #include "support/TempFolder.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <gtest/gtest.h>
 
@@ -38,16 +37,13 @@ TEST(Translators, BringTheWholeApplicationIntoALanguage)
         ASSERT_TRUE(translations.use(lcid).ok());
         translators.install();
     };
-    const bool toolkitSpeaks = std::filesystem::exists(
-        (QLibraryInfo::location(QLibraryInfo::TranslationsPath) + "/qtbase_de.qm").toStdString());
-
     use(German);
     EXPECT_EQ(translated("C", "%n file(s)", 1), "1 Datei");
     EXPECT_EQ(translated("C", "%n file(s)", 2), "2 Dateien");
     EXPECT_EQ(translated("C", "%n hour(s)", 2), "2 hour(s)");
     EXPECT_EQ(QLocale().toString(1234.5, 'f', 1), "1234,5");
     EXPECT_EQ(QLocale().formattedDataSize(1536), "1,50 KiB");
-    EXPECT_EQ(translated("QPlatformTheme", "&Yes"), toolkitSpeaks ? "&Ja" : "&Yes");
+    EXPECT_EQ(translated("QPlatformTheme", "&Yes"), "&Ja");
     use(Arabic);
     EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
     EXPECT_EQ(translated("C", "%Ln hour(s)", 3), "\u0663 hour(s)");

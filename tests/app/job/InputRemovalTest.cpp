@@ -4,8 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <dlfcn.h>
 #include <filesystem>
 #include <functional>
+#include <unistd.h>
+#include <utility>
 
 using namespace thisapp;
 using namespace tessaly;
@@ -45,6 +49,9 @@ void swapFolder(const test::TempFolder& dir)
     fs::remove_all(moved);
 }
 
+/// The next removal fails as on a disk that has become read-only.
+bool isReadOnly = false;
+
 const Case Cases[] = {
     {"nothing", [](auto&, auto&) {}, {}},
     {"decryption", [](auto&, auto& data) { data.operation = Operation::Decrypt; }, KeepReason::NotEncrypted},
@@ -73,6 +80,7 @@ const Case Cases[] = {
      {}},
     {"sealed, without its tag", [](auto&, auto& data) { data.outcome.sealed = true; },
      KeepReason::OutputDiffers},
+    {"disk read-only", [](auto&, auto&) { isReadOnly = true; }, {}},
     {"folder swapped", [](auto& dir, auto&) { swapFolder(dir); }, KeepReason::OutputDiffers},
 };
 
@@ -89,10 +97,35 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         data.outcome.output = opened(folder.at("out"));
         c.happens(folder, data);
         const InputRemoval removal = removeInput(data);
+        const bool failed = std::exchange(isReadOnly, false);
         EXPECT_EQ(removal.kept, c.kept);
-        EXPECT_EQ(removal.removed(), !c.kept);
-        EXPECT_EQ(fs::exists(folder / "in"), c.kept.has_value());
+        EXPECT_EQ(removal.error.ok(), !failed);
+        EXPECT_EQ(removal.removed, !c.kept && !failed);
+        EXPECT_EQ(fs::exists(folder / "in"), c.kept || failed);
     }
 }
 
+TEST(InputRemovalTest, TellsTheReason)
+{
+    const std::pair<KeepReason, const char*> rows[] = {
+        {KeepReason::NotEncrypted, "."},
+        {KeepReason::SymbolicLink, ": it is a symbolic link."},
+        {KeepReason::HardLinks, ": it has another name (hard link)."},
+        {KeepReason::Changed, ": it has changed since it was encrypted."},
+        {KeepReason::OutputDiffers, ": the output file is not what was written."},
+    };
+    for (const auto& [reason, text] : rows)
+        EXPECT_EQ(keptText(reason).toStdString(), std::string("The input file has been kept") + text);
+}
+
 } // namespace
+
+/// Stands before the library's in the whole test program.
+extern "C" [[gnu::used]] int unlinkat(int folder, const char* name, int flags)
+{
+    static const auto next = reinterpret_cast<decltype(&unlinkat)>(::dlsym(RTLD_NEXT, "unlinkat"));
+    if (!isReadOnly)
+        return next(folder, name, flags);
+    errno = EROFS;
+    return -1;
+}

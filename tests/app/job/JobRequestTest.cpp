@@ -5,10 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <filesystem>
 #include <functional>
+#include <tuple>
 
 using namespace thisapp;
 using namespace tessaly;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -25,6 +29,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     bool answers = true;
     std::pair<Area, std::string> message;
     QString dialogTitle;
+    std::pair<int, int> counted;
 
     bool isJobRunning() const override { return running; }
     AlgSelection selection() const override { return selected; }
@@ -43,7 +48,11 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
-    OnEncrypted askAboutEncrypted(int, int) override { return onEncrypted; }
+    OnEncrypted askAboutEncrypted(int encrypted, int all) override
+    {
+        counted = {encrypted, all};
+        return onEncrypted;
+    }
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
     bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
     bool prepareEngine(Operation, const AlgSelection&) override { return engine; }
@@ -173,6 +182,7 @@ TEST_P(JobRequestTest, AsksOnceForAllFilesOfAList)
         EXPECT_EQ(request.onEncrypted(), encrypts ? answer : OnEncrypted::Encrypt);
         EXPECT_EQ(asked, encrypts && answer == OnEncrypted::Cancel ? QStringList() : names);
     }
+    EXPECT_EQ(host.counted, encrypts ? std::pair(1, 3) : std::pair(0, 0));
     folder.write("x.enc", "");
     host.input = path("x.enc");
     host.output = path("x");
@@ -211,12 +221,6 @@ TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)
         EXPECT_EQ(data->request.input, c.input);
         EXPECT_EQ(data->request.output, c.output);
     }
-    host.password = [this, answer = host.password](PasswordEntry& entry) {
-        std::filesystem::rename(folder.at("in.txt "), folder.at("moved"));
-        return answer(entry);
-    };
-    host.input = "in.txt ";
-    expectRefusal(Area::Result, pick("File to encrypt is not found.", "File to decrypt is not found."));
     std::filesystem::current_path(before);
 }
 
@@ -224,29 +228,84 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
 {
     host.input = path("in.txt");
     host.output = path("new");
-    int visits = 0;
-    host.password = [&visits](PasswordEntry& entry) {
-        EXPECT_EQ(entry.useSalt, visits == 1) << "what the other dialog left";
-        EXPECT_FALSE(entry.seal);
-        entry.seal = true;
-        if (visits++ == 0)
-            return entry.switchToAdvanced = true;
-        entry.password = SecretText("secret");
-        return true;
+    using Switches = std::array<bool, 3>; // seal, salt, rewriting
+    for (const int bits : {0b001, 0b010, 0b100, 0b011, 0b101, 0b110})
+        for (const bool endsWithKey : {false, true}) {
+            const Switches first{(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0};
+            const Switches second{first[1], first[2], first[0]};
+            const auto turn = [](auto& entry, const Switches& before, const Switches& after) {
+                EXPECT_EQ((Switches{entry.seal, entry.useSalt, entry.rewriteOutput}), before);
+                std::tie(entry.seal, entry.useSalt, entry.rewriteOutput) = std::tuple_cat(after);
+            };
+            int visits = 0;
+            host.password = [&](PasswordEntry& entry) {
+                turn(entry, visits == 0 ? Switches() : second, first);
+                entry.password = SecretText("secret");
+                entry.switchToAdvanced = visits++ == 0;
+                return true;
+            };
+            host.key = [&](KeyEntry& entry) {
+                EXPECT_TRUE(entry.keyLength == 32 && entry.ivLength == 16);
+                turn(entry, first, second);
+                entry.key = SecretBytes(32, 1);
+                entry.iv = SecretBytes(16, 2);
+                entry.switchToNormal = !endsWithKey;
+                return true;
+            };
+            const auto job = JobRequest(GetParam(), host, host).run();
+            ASSERT_TRUE(job);
+            const crypto::FileJobRequest& request = job->request;
+            EXPECT_EQ((Switches{request.seal, request.useSalt, job->rewriteOutput}),
+                      endsWithKey ? second : first);
+            EXPECT_EQ(request.passwordMode, !endsWithKey);
+            EXPECT_EQ(request.password.view(), endsWithKey ? "" : "secret");
+            EXPECT_EQ(request.key, endsWithKey ? SecretBytes(32, 1) : SecretBytes());
+            EXPECT_EQ(request.iv, endsWithKey ? SecretBytes(16, 2) : SecretBytes());
+            EXPECT_EQ(request.existing, crypto::ExistingOutput::Keep);
+        }
+}
+
+/// However long the questions took: what stands there by then counts.
+TEST_P(JobRequestTest, LooksOnceMoreAfterTheQuestions)
+{
+    struct
+    {
+        std::function<void(const test::TempFolder&)> happens;
+        const char* message;
+    } const cases[] = {
+        {[](const auto& dir) { fs::remove(dir / "a"); },
+         pick("File to encrypt is not found.", "File to decrypt is not found.")},
+        {[](const auto& dir) { dir.write("b", "new"); },
+         "Output file already exists! A 'not rewrite' option has been selected."},
+        {[](const auto& dir) { fs::create_hard_link(dir / "a", dir / "b"); },
+         "Output file name matches the name of the input file"},
+        {[](const auto& dir) { fs::create_directory(dir / "b"); }, "The output is not a regular file."},
     };
-    host.key = [](KeyEntry& entry) {
-        EXPECT_TRUE(entry.keyLength == 32 && entry.ivLength == 16);
-        EXPECT_TRUE(entry.seal);
-        entry.seal = false;
-        return entry.switchToNormal = entry.useSalt = true;
+    host.input = path("a");
+    host.output = path("b");
+    const auto ask = [this](const std::function<void(const test::TempFolder&)>& happens) {
+        fs::remove(folder / "b");
+        folder.write("a", "input");
+        host.password = [this, happens](PasswordEntry& entry) {
+            happens(folder);
+            entry.password = SecretText("secret");
+            return true;
+        };
+        return JobRequest(GetParam(), host, host).run();
     };
-    const auto request = JobRequest(GetParam(), host, host).run();
+    for (const auto& c : cases) {
+        EXPECT_FALSE(ask(c.happens));
+        EXPECT_EQ(host.message, std::pair(Area::Result, std::string(c.message)));
+    }
+    // An offer that is taken asks nothing, but looks, too.
+    auto request = ask([](const auto&) {});
     ASSERT_TRUE(request);
-    EXPECT_EQ(visits, 2);
-    EXPECT_TRUE(request->request.passwordMode && request->request.useSalt && request->request.seal);
-    EXPECT_EQ(request->request.existing, crypto::ExistingOutput::Keep);
-    EXPECT_EQ(request->request.password.view(), "secret");
-    EXPECT_TRUE(request->request.key.empty());
+    request->request.existing = crypto::ExistingOutput::RemoveFirst; // as it was then
+    const auto again = JobRequest(GetParam(), host, host).runAgain(*request);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->request.existing, crypto::ExistingOutput::Keep);
+    folder.write("b", "new");
+    EXPECT_FALSE(JobRequest(GetParam(), host, host).runAgain(*request));
 }
 
 TEST_P(JobRequestTest, AsksAsTheSettingsSay)

@@ -1,5 +1,10 @@
 #include "app/queue/FileQueue.h"
 
+#include "app/queue/CQueueList.h"
+#include "app/queue/CQueueModel.h"
+
+#include <QImage>
+#include <QPixmap>
 #include <gtest/gtest.h>
 
 using namespace thisapp;
@@ -59,6 +64,48 @@ TEST(FileQueueTest, TakesAPathOnceAndCountsWhatBecameOfIt)
     EXPECT_EQ(queue.position(), 1U);
     queue.remove(0);
     EXPECT_EQ(queue.entries()[0].path, "/b");
+    queue.end(0, EntryState::Failed, reason);
+    EXPECT_EQ(queue.count().failed, 1U) << "its place in the run has gone, too";
+}
+
+/// A file's row, as the list paints it in that state.
+QImage painted(EntryState state, std::int64_t processed, const char* path = "/a")
+{
+    FileQueue queue;
+    queue.add({file(path, 200)});
+    queue.begin(true);
+    queue.end(0, state, {});
+    queue.setProcessed(0, processed);
+    CQueueList list(queue);
+    list.resize(400, 200);
+    list.refresh();
+    return list.grab().toImage();
+}
+
+TEST(FileQueueTest, ShowsHowFarAFileIs)
+{
+    FileQueue queue;
+    queue.add({file("/a", 200)});
+    queue.begin(true);
+    queue.startNext();
+    queue.setProcessed(0, 50);
+    const CQueueModel model(queue);
+    EXPECT_EQ(model.index(0, CQueueModel::State).data().toString(), "Running, 25%");
+
+    EXPECT_NE(painted(EntryState::Running, 50), painted(EntryState::Running, 150)) << "a bar";
+    EXPECT_EQ(painted(EntryState::Waiting, 50), painted(EntryState::Waiting, 150)) << "a text";
+    EXPECT_NE(painted(EntryState::Waiting, 0), painted(EntryState::Done, 0));
+    const std::string name = "/" + std::string(100, 'x');
+    EXPECT_NE(painted(EntryState::Waiting, 0, (name + ".enc").c_str()),
+              painted(EntryState::Waiting, 0, (name + ".dec").c_str()))
+        << "the end of a long name tells files apart";
+    const auto glyph = [](EntryState state) {
+        FileQueue one;
+        one.add({file("/a", 200)});
+        one.end(0, state, {});
+        return CQueueModel(one).index(0, CQueueModel::State).data(Qt::DecorationRole).value<QPixmap>();
+    };
+    EXPECT_NE(glyph(EntryState::Failed).toImage(), glyph(EntryState::Done).toImage());
 }
 
 } // namespace

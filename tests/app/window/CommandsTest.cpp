@@ -1,17 +1,15 @@
 #include "window/WindowHarness.h"
 
+#include "app/widgets/CDropHint.h"
 #include "app/window/Commands.h"
-#include "common/settings/CAppSettings.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 
 #include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTextEdit>
+#include <QToolBar>
 #include <gtest/gtest.h>
-
-#include <map>
-#include <set>
 
 using namespace thisapp;
 using test::WindowHarness;
@@ -67,47 +65,71 @@ protected:
     WindowHarness w;
 };
 
-TEST_F(WindowCommandsTest, EachDoesSomethingFromTheMenu)
+/// In menu and tool bar, the same actions.
+TEST_F(WindowCommandsTest, EachDoesAndSaysWhatItShould)
 {
     w.folder.write("in", "");
-    const std::map<std::string, std::string> rows = {
-        {"add-file", "QFileDialog"},
-        {"open-input-folder", "a folder"},
-        {"open-output-folder", "a folder"},
-        {"quit", "closed"},
-        {"encrypt", "CSetPasswordDialog"},
-        {"decrypt", "CSetPasswordDialog"},
-        {"stop", ""}, // nothing to stop; another test stops a job
-        {"clear", "cleared"},
-        {"options", "COptionsDialog"},
-        {"default-algorithm", "CSetAlgDialog"},
-        {"algorithm-info", "CAlgInfoDialog"},
-        {"shortcuts", "CkeyboardShortcutInfoDialog"},
-        {"about", "CAboutDialog"},
+    struct Row
+    {
+        const char *id, *does, *text, *toolTip;
+        bool inToolBar = true, withoutFiles = true;
+    } const rows[] = {
+        {"add-file", "QFileDialog", "&Add file...\tCtrl+O", "Add file (Ctrl+O, Ctrl+N)"},
+        {"open-input-folder", "a folder", "Open folder with &input file\tCtrl+F9",
+         "Open folder with input file (Ctrl+F9)", true, false},
+        {"open-output-folder", "a folder", "Open folder with &output file\tCtrl+F10",
+         "Open folder with output file (Ctrl+F10)", true, false},
+        {"quit", "closed", "&Quit", "Quit", false},
+        {"encrypt", "CSetPasswordDialog", "&Encrypt\tF5", "Encrypt (F5)"},
+        {"decrypt", "CSetPasswordDialog", "&Decrypt\tF6", "Decrypt (F6)"},
+        {"stop", "", "&Stop encryption/decryption\tF8", "Stop encryption/decryption (F8)", true, false},
+        {"clear", "cleared", "&Clear entered data\tCtrl+F8", "Clear entered data (Ctrl+F8)"},
+        {"options", "COptionsDialog", "&Options...", "Options"},
+        {"default-algorithm", "CSetAlgDialog", "&Default algorithm...", "Default algorithm"},
+        {"algorithm-info", "CAlgInfoDialog", "&Information about algorithms...",
+         "Information about algorithms"},
+        {"shortcuts", "CkeyboardShortcutInfoDialog", "&Keyboard shortcuts...", "Keyboard shortcuts"},
+        {"about", "CAboutDialog", "&About...", "About"},
     };
     test::UrlRecorder opened;
-    std::set<std::string> reached;
+    const QList<QAction*> inToolBar = w.window->findChild<QToolBar*>()->actions();
+    const Row* row = rows;
     for (QAction* menu : w.window->menuBar()->actions())
         for (QAction* action : menu->menu()->actions()) {
             if (action->isSeparator())
                 continue;
-            SCOPED_TRACE(action->objectName().toStdString());
+            ASSERT_NE(row, std::end(rows)) << "a command that no row speaks of";
+            SCOPED_TRACE(row->id);
+            ASSERT_EQ(action->objectName(), row->id);
+            EXPECT_EQ(action->text(), row->text);
+            EXPECT_EQ(action->toolTip(), row->toolTip);
+            EXPECT_EQ(inToolBar.contains(action), row->inToolBar);
+            w.input().clear();
+            w.output().clear();
+            EXPECT_EQ(action->isEnabled(), row->withoutFiles);
             opened.urls.clear();
             w.window->show();
             w.input().setText(w.path("in"));
             w.output().setText(w.path("out"));
+            EXPECT_EQ(action->isEnabled(), std::string("stop") != row->id) << "nothing runs";
             std::string seen = dialogOf([action] { action->trigger(); });
             if (seen.empty())
                 seen = !opened.urls.empty()         ? "a folder"
                        : !w.window->isVisible()     ? "closed"
                        : w.input().text().isEmpty() ? "cleared"
                                                     : "";
-            const auto row = rows.find(action->objectName().toStdString());
-            ASSERT_NE(row, rows.end()) << "a command that no row speaks of";
-            EXPECT_EQ(seen, row->second);
-            reached.insert(row->first);
+            EXPECT_EQ(seen, row->does);
+            ++row;
         }
-    EXPECT_EQ(reached.size(), rows.size());
+    EXPECT_EQ(row, std::end(rows));
+}
+
+TEST_F(WindowCommandsTest, FilesAreAskedForWhereverTheUserClicks)
+{
+    for (auto* button : std::initializer_list<QAbstractButton*>{w.window->findChild<CDropHint*>(),
+                                                                &w.toolButton("Choose the input file"),
+                                                                &w.button("buttonAddToList")})
+        EXPECT_EQ(dialogOf([button] { button->click(); }), "QFileDialog");
 }
 
 TEST_F(WindowCommandsTest, AreListedForTheUser)

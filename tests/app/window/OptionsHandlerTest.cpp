@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <memory>
 
 namespace {
@@ -32,11 +33,12 @@ protected:
     std::string problem() const { return options->problem().toStdString(); }
     thisapp::SAppliedOptions apply(const SAppOptions& wanted)
     {
-        return options->apply(wanted, [](const thisapp::AlgSelection&) {});
+        return options->apply(wanted, [this](const thisapp::AlgSelection& chosen) { selected = chosen; });
     }
     static void store(const char* key, const QVariant& value) { CAppSettings().setValue(key, value); }
 
     int shellUpdates = 0;
+    thisapp::AlgSelection selected;
     test::TempFolder folder;
     test::Environment profile{"XDG_CONFIG_HOME", folder.path().c_str()};
     thisapp::CCryptoAlgProvider algorithms;
@@ -55,6 +57,8 @@ TEST_F(OptionsHandler, WhatDoesNotFitGivesWayAndIsLogged)
     store("EncFileNamePrefix", "a/b");
     store("LogLevel", 3);
     store("UseLogFile", true);
+    std::ofstream(CAppSettings().fileName().toStdString(), std::ios::app)
+        << "DecFileNameSuffix=@DateTime(\\0\\0\\0\\x10)\n";
     const std::string log = folder / "log";
     start(log);
     SAppOptions used = options->read();
@@ -65,13 +69,20 @@ TEST_F(OptionsHandler, WhatDoesNotFitGivesWayAndIsLogged)
     EXPECT_NE(problem().find("The translation can't be loaded: "), std::string::npos);
     EXPECT_NE(problem().find("/de.ts:3: (error: 5/47)"), std::string::npos) << problem();
     for (const char* warning :
-         {"/de.ts:3: (error: 5/47)", "LocaleId is stored as \"1031\"; in use is \"1033\"",
-          "DefaultCryptoLibrary is stored as \"10\"", "EncFileNamePrefix is stored as \"a/b\""})
+         {"could not be read: 1", "/de.ts:3: (error: 5/47)",
+          "LocaleId is stored as \"1031\"; in use is \"1033\"", "DefaultCryptoLibrary is stored as \"10\"",
+          "EncFileNamePrefix is stored as \"a/b\""})
         EXPECT_TRUE(test::eventually([&] { return test::readFile(log).find(warning) != std::string::npos; }))
             << warning;
     EXPECT_EQ(test::readFile(log).find("[WARNG]"), test::readFile(log).find("[", 2)) << "as a warning";
 
+    used.setDefaultAlgorithm({1, 9999});
     EXPECT_EQ(apply(used).problem, "") << "what was shown is what is wanted now";
+    EXPECT_FALSE(options->defaultAlgorithm() || selected.isComplete()) << "there is none such";
+    used.setDefaultAlgorithm({1, 452});
+    EXPECT_EQ(apply(used).problem, "");
+    EXPECT_EQ(selected, thisapp::AlgSelection(1, 452));
+    EXPECT_EQ(options->defaultAlgorithm(), selected);
     EXPECT_EQ(CAppSettings().value("LocaleId").toInt(), 1033);
     used.localeId = 1031;
     EXPECT_EQ(apply(used).localeId, 1033U);

@@ -1,7 +1,9 @@
 #include "window/WindowHarness.h"
 
+#include "app/queue/CQueueList.h"
 #include "app/queue/CQueueModel.h"
-#include "common/settings/CAppSettings.h"
+#include "app/widgets/CElidedLabel.h"
+#include "support/OwnMemory.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/style/CLinkLabel.h"
 
@@ -19,20 +21,9 @@ namespace fs = std::filesystem;
 namespace {
 
 /// More than one file in one go, as the user sees it.
-class QueueTest : public ::testing::Test
+class QueueTest : public test::WindowTest
 {
 protected:
-    void SetUp() override { set({}); }
-
-    static void set(const std::map<QString, QVariant>& values)
-    {
-        CAppSettings settings;
-        settings.clear();
-        settings.setValue("UseConfirmPassword", false);
-        for (const auto& [key, value] : values)
-            settings.setValue(key, value);
-    }
-
     void give(const std::vector<const char*>& names)
     {
         QStringList paths;
@@ -64,23 +55,29 @@ protected:
                                 .toStdString());
         return lines;
     }
-    const test::TempFolder& folder() const { return w.folder; }
-
-    WindowHarness w;
 };
 
 using Lines = std::vector<std::string>;
 
 TEST_F(QueueTest, ProcessesAllWithOnePasswordWhateverBecomesOfOne)
 {
+    static constexpr char Password[] = "Otters sing 2603 in March";
     for (const char* name : {"a", "b", "c"})
         w.writeInput(name, 70'000);
     folder().write("b.enc", "former");
+    set({{"SealFiles", true}});
     give({"a", "b", "c", "a", "sub", "none"});
     EXPECT_EQ(states(), Lines({"a: Waiting", "b: Waiting", "c: Waiting"}));
     EXPECT_EQ(w.window->windowTitle(), "3 files - Quillet");
-    run(Qt::Key_F5);
+    EXPECT_EQ(w.form().queueList().findChild<CElidedLabel*>()->text(), "3 files, 205.1 KiB");
+    run(Qt::Key_F5, Password);
+    EXPECT_FALSE(test::isInMemory(Password)) << "there is no more to do";
     EXPECT_EQ(w.result(), "2 of 3 files encrypted, 1 skipped");
+    EXPECT_EQ(w.kind("resultMessage"), MessageKind::Warning);
+    EXPECT_EQ(w.text("queueMessage"), "Not found, and left out: sub, none");
+    w.window->findChild<QTreeView*>("fileList")->setCurrentIndex(list().index(1, 0));
+    EXPECT_EQ(w.text("queueMessage"),
+              "Output file already exists! A 'not rewrite' option has been selected.");
     EXPECT_EQ(w.detail("resultMessage") + "/", folder() / "");
     EXPECT_EQ(states()[1],
               "b: Skipped: Output file already exists! A 'not rewrite' option has been selected.");
@@ -92,19 +89,23 @@ TEST_F(QueueTest, ProcessesAllWithOnePasswordWhateverBecomesOfOne)
 
     // What is not done is done with the next try, and nothing else.
     fs::remove(folder() / "b.enc");
-    run(Qt::Key_F5);
+    run(Qt::Key_F5, Password);
     EXPECT_EQ(w.result(), "1 of 1 files encrypted");
+    EXPECT_EQ(w.kind("resultMessage"), MessageKind::Success);
     EXPECT_EQ(states(), Lines({"a: Done", "b: Done", "c: Done"}));
 
     QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
     EXPECT_EQ(list().rowCount(), 0);
-    folder().write("b.enc", std::string(70'056, 'x'));
+    std::string damaged = test::readFile(folder() / "b.enc");
+    damaged.back() ^= 1;
+    folder().write("b.enc", damaged);
     give({"a.enc", "b.enc", "c.enc"});
     EXPECT_TRUE(w.button("buttonDecrypt").isDefault());
-    run(Qt::Key_F6);
+    run(Qt::Key_F6, Password);
     EXPECT_EQ(w.result(), "2 of 3 files decrypted, 1 failed");
-    EXPECT_EQ(states()[1], "b.enc: Failed: Corrupted data (error: 5/4003). Check the password and the "
-                           "algorithm.");
+    EXPECT_EQ(w.kind("resultMessage"), MessageKind::Error);
+    EXPECT_EQ(states()[1], "b.enc: Failed: The file is damaged or has been changed (error: 5/4010). The "
+                           "password and the algorithm are right. Try another copy of the file.");
     EXPECT_EQ(test::readFile(folder() / "a"), test::readFile(folder() / "a.dec"));
     EXPECT_EQ(test::readFile(folder() / "c"), test::readFile(folder() / "c.dec"));
 }
@@ -131,11 +132,24 @@ TEST_F(QueueTest, KeepsItsFilesFromEachOther)
     EXPECT_EQ(states()[0], "b: Skipped: The output belongs to another file of the list.");
     EXPECT_EQ(test::readFile(folder() / "b.enc"), "precious");
     EXPECT_TRUE(fs::exists(folder() / "b.dec"));
+
+    fs::remove(folder() / "b.dec");
+    w.onDialog<QMessageBox>([](QMessageBox& box) { box.buttons()[1]->click(); });
+    encrypt({"y/a", "b.enc"});
+    EXPECT_EQ(states(), Lines({"a: Done", "b.enc: Skipped: It seems to be encrypted already."}));
+    w.onDialog<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "This file seems to be encrypted already");
+        QTest::keyClick(&box, Qt::Key_Return); // no harm in that
+    });
+    give({"b.enc"});
+    QTest::keyClick(w.window.get(), Qt::Key_F5);
+    EXPECT_EQ(w.result(), "");
+    EXPECT_FALSE(fs::exists(folder() / "b.dec"));
 }
 
 TEST_F(QueueTest, RewritesItsOwnOutputs)
 {
-    set({{"RewriteOutputFile", true}});
+    set({{"RewriteOutputFile", true}, {"UseOutputFileAutogenerator", false}}); // which is for the fields
     for (const char* name : {"a", "b"})
         w.writeInput(name, 10);
     encrypt({"a", "b"});
@@ -155,6 +169,7 @@ TEST_F(QueueTest, TakesAPathAsTheSystemDoes)
         w.writeInput(name, 10);
     encrypt({"B/link/../x", "o", "A/x"});
     EXPECT_EQ(states(), Lines({"x: Done", "o: Done"}));
+    EXPECT_EQ(w.detail("resultMessage"), "") << "there is more than one folder";
     EXPECT_TRUE(fs::exists(folder() / "A/x.enc") && !fs::exists(folder() / "B/x.enc"));
 }
 
@@ -164,8 +179,10 @@ TEST_F(QueueTest, TellsWhatIsLeftOutOfARequest)
     for (const char* name : {"a", "b"})
         w.writeInput(name, 10);
     w.answerPassword("secret");
-    w.window->processCommandLine({"-encrypt", "-start", w.path("a"), w.path("b"), w.path("d")});
+    w.window->processCommandLine(
+        {"-encrypt", "-start", "-ofile", w.path("x"), w.path("a"), w.path("b"), w.path("d")});
     ASSERT_TRUE(w.waitForEnd());
+    EXPECT_EQ(w.output().text(), "") << "a list has no such field";
     EXPECT_EQ(w.result(), "2 of 2 files encrypted");
     EXPECT_EQ(w.text("queueMessage"),
               "Folders and devices are left out: only files can be encrypted or decrypted.");
@@ -177,52 +194,79 @@ TEST_F(QueueTest, TellsWhatIsLeftOutOfARequest)
 
 TEST_F(QueueTest, StopsAsAWhole)
 {
+    static constexpr char Password[] = "Beavers yodel 0704 in May";
+    set({{"RewriteOutputFile", true}});
     for (const char* name : {"a", "b", "c"})
         w.writeInput(name, 10);
+    folder().write("b.enc", "former");
     fs::resize_file(folder() / "b", 4LL << 30);
     ASSERT_TRUE(w.form().algFrame().setSelection({1, 601}));
     give({"a", "b", "c"});
-    w.answerPassword("secret");
+    w.answerPassword(Password);
     QTest::keyClick(w.window.get(), Qt::Key_F5);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return w.window->windowTitle().contains("2 of 3 - b - "); },
+    ASSERT_TRUE(QTest::qWaitFor([this] { return w.progress().percent() > 0.01F; }, // the engine is at it
                                 WindowHarness::JobTimeoutMs));
+    EXPECT_TRUE(w.window->windowTitle().contains("2 of 3 - b - "));
     EXPECT_FALSE(w.button("buttonClearList").isEnabled());
     QTest::keyClick(w.window.get(), Qt::Key_F6);
     EXPECT_EQ(w.progress().notice(), "Encryption/Decryption already running.");
+    auto& view = *w.window->findChild<QTreeView*>("fileList");
+    view.setCurrentIndex(list().index(2, 0));
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(states().size(), 3U);
+    EXPECT_TRUE(test::isInMemory(Password)) << "for the next file";
     QTest::keyClick(w.window.get(), Qt::Key_F8);
+    EXPECT_FALSE(test::isInMemory(Password));
     ASSERT_TRUE(w.waitForEnd());
     EXPECT_EQ(w.result(), "Stopped: 1 of 3 files encrypted, 2 skipped");
-    EXPECT_EQ(states(), Lines({"a: Done", "b: Skipped: Stopped", "c: Skipped: Stopped"}));
+    EXPECT_EQ(w.progress().message(), "") << "what was done tells no speed";
+    EXPECT_EQ(states(), Lines({"a: Done", "b: Skipped: Stopped. Output file has been deleted.",
+                               "c: Skipped: Stopped"}));
     EXPECT_FALSE(fs::exists(folder() / "b.enc"));
+
+    // Another command is about all of them. Stopped before anything has begun, it ends at once.
+    w.answerPassword(Password);
+    QTest::keyClick(w.window.get(), Qt::Key_F6);
+    QTest::keyClick(w.window.get(), Qt::Key_F8);
+    EXPECT_FALSE(w.isRunning());
+    EXPECT_EQ(w.result(), "Stopped: 0 of 3 files decrypted, 3 skipped");
     w.button("buttonClearList").click();
     EXPECT_FALSE(w.form().isQueueShown());
 }
 
 TEST_F(QueueTest, DeletesInputsAfterOneQuestion)
 {
+    const std::vector<const char*> names = {"a", "b", "<b>", "c", "d", "e", "f", "g"};
     for (const bool agreed : {false, true}) {
         set({{"DeleteSourceFileAfterEncryption", true}});
-        for (const char* name : {"a", "b", "c", "d"})
+        for (const char* name : names)
             w.writeInput(name, 10);
         fs::remove(folder() / "link");
         fs::create_hard_link(folder() / "c", folder() / "link");
         folder().write("d.enc", "former");
-        give({"a", "b", "c", "d"});
+        give(names);
         w.answerPassword("secret");
         QTest::keyClick(w.window.get(), Qt::Key_F5);
         w.onDialog<QMessageBox>([&](QMessageBox& box) {
-            EXPECT_EQ(box.text(), "Are you sure you want to delete the input files after encryption?\n\n" +
-                                      w.path("a") + "\n" + w.path("b"));
+            QStringList lines{"Are you sure you want to delete the input files after encryption?", ""};
+            for (const char* name : {"a", "b", "<b>", "e", "f"})
+                lines += w.path(name);
+            EXPECT_EQ(box.text(), lines.join('\n') + "\nand 1 more");
+            EXPECT_EQ(box.textFormat(), Qt::PlainText) << "a name is no markup";
             EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
             box.button(agreed ? QMessageBox::Yes : QMessageBox::No)->click();
         });
         ASSERT_TRUE(w.waitForEnd());
-        EXPECT_EQ(fs::exists(folder() / "a"), !agreed);
-        EXPECT_EQ(fs::exists(folder() / "b"), !agreed);
+        for (const char* name : {"a", "b", "<b>", "e", "f", "g"})
+            EXPECT_EQ(fs::exists(folder() / name), !agreed);
         EXPECT_TRUE(fs::exists(folder() / "c") && fs::exists(folder() / "d"));
-        EXPECT_EQ(states()[2], "c: Done: The input file has been kept: it has another name (hard link).");
-        for (const char* name : {"a.enc", "b.enc", "c.enc"})
-            EXPECT_TRUE(fs::remove(folder() / name));
+        EXPECT_EQ(states()[3], "c: Done: The input file has been kept: it has another name (hard link).");
+        EXPECT_EQ(list().index(2, 0).data(Qt::ToolTipRole).toString(), "<p>" + w.path("&lt;b&gt;") + "</p>");
+        EXPECT_EQ(w.text("queueMessage"),
+                  "Input files deleted after their encryption, according to your options: " +
+                      std::string(agreed ? "6" : "0") + ". Kept: 1, see the list.");
+        for (const char* name : {"a", "b", "<b>", "c", "e", "f", "g"})
+            EXPECT_TRUE(fs::remove(folder() / (name + std::string(".enc"))));
     }
 }
 
@@ -254,6 +298,13 @@ TEST_F(QueueTest, GathersFilesUntilItHasRun)
     view.setCurrentIndex(list().index(2, 0));
     QTest::keyClick(&view, Qt::Key_Delete);
     EXPECT_EQ(states().size(), 2U);
+    drop({"c"});
+    view.selectAll();
+    view.selectionModel()->select(list().index(1, 0),
+                                  QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(w.input().text(), w.path("b")) << "one that is left is as ever";
+    drop({"a", "b"});
     run(Qt::Key_F5);
     EXPECT_EQ(w.result(), "2 of 2 files encrypted");
     drop({"c"});

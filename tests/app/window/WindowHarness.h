@@ -7,6 +7,7 @@
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/window/CJobFrame.h"
 #include "app/window/CMainWindow.h"
+#include "common/settings/CAppSettings.h"
 #include "crypto/cryptopp/CCipherFactory.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/logger/FileLogging.h"
@@ -20,13 +21,17 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QtTest>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace test {
@@ -50,19 +55,23 @@ public slots:
 class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisapp::desktop::INotifier
 {
 public:
-    static constexpr int JobTimeoutMs = 60'000;
+    static constexpr int JobTimeoutMs = 240'000; ///< on a machine with much else to do
 
     /// The least that Argon2 takes.
     static constexpr tessaly::crypto::Argon2Cost Cheap{1, 32, 4};
 
     explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput,
-                           tessaly::crypto::Argon2Cost cost = Cheap)
+                           tessaly::crypto::Argon2Cost cost = Cheap,
+                           std::chrono::milliseconds offerLifetime = CAlgorithmOffer::Lifetime)
         : translations(folder.wide("translations"), "Quillet"),
           translators(translations),
           logging(folder / "quillet.log"),
-          options({algorithms, translations, translators, logging, [](bool, bool) {}}),
-          window(std::make_unique<CMainWindow>(thisapp::WindowServices{
-              encryptors, decryptors, algorithms, options, *this, *this, std::move(look), cost}))
+          options(
+              {algorithms, translations, translators, logging,
+               [this](bool contextMenu, bool sendTo) { shellUpdates.emplace_back(contextMenu, sendTo); }}),
+          window(std::make_unique<CMainWindow>(thisapp::WindowServices{encryptors, decryptors, algorithms,
+                                                                       options, *this, *this, std::move(look),
+                                                                       cost, offerLifetime}))
     {
         window->show();
     }
@@ -70,6 +79,13 @@ public:
     QLineEdit& input() { return *window->findChild<QLineEdit*>("lineEditInput"); }
     QLineEdit& output() { return *window->findChild<QLineEdit*>("lineEditOutput"); }
     QPushButton& button(const char* name) { return *window->findChild<QPushButton*>(name); }
+    QToolButton& toolButton(const char* toolTip)
+    {
+        for (auto* button : form().findChildren<QToolButton*>())
+            if (button->toolTip() == toolTip)
+                return *button;
+        qFatal("no button to %s", toolTip);
+    }
     std::string text(const char* line)
     {
         return window->findChild<CMessageLine*>(line)->text().toStdString();
@@ -79,6 +95,7 @@ public:
         return window->findChild<CMessageLine*>(line)->detail().toStdString();
     }
     std::string result() { return text("resultMessage"); }
+    thisapp::MessageKind kind(const char* line) { return window->findChild<CMessageLine*>(line)->kind(); }
     CProgressBarFrame& progress() { return *window->findChild<CProgressBarFrame*>(); }
     CJobFrame& form() { return *window->findChild<CJobFrame*>(); }
     QString path(const char* name) const { return QString::fromStdString(folder / name); }
@@ -124,8 +141,10 @@ public:
         folder.write(name, content);
     }
 
+    std::vector<std::pair<bool, bool>> shellUpdates; ///< context menu, "send to"
     std::vector<int> taskbarValues;
-    QStringList notifications;
+    bool isTaskbarShown = false;
+    QStringList notifications; ///< "summary|body", and " >" where one opens a folder
     test::TempFolder folder;
     thisapp::CCryptoAlgProvider algorithms;
     tessaly::i18n::TranslationManager translations;
@@ -137,13 +156,47 @@ public:
     std::unique_ptr<CMainWindow> window;
 
 private:
-    void show() override {}
-    void hide() override {}
+    void show() override { isTaskbarShown = true; }
+    void hide() override { isTaskbarShown = false; }
     void setValue(int percent) override { taskbarValues.push_back(percent); }
-    void notify(const QString& summary, const QString&, const thisapp::desktop::NotifierAction&) override
+    void notify(const QString& summary, const QString& body,
+                const thisapp::desktop::NotifierAction& action) override
     {
-        notifications += summary;
+        notifications += summary + '|' + body + (action.run ? " >" : "");
     }
+};
+
+/// A window in a profile of its own, and what a user does with it.
+class WindowTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { set({}); }
+
+    /// The settings that differ from their defaults.
+    static void set(const std::map<QString, QVariant>& values)
+    {
+        CAppSettings settings;
+        settings.clear();
+        settings.setValue("UseConfirmPassword", false);
+        for (const auto& [key, value] : values)
+            settings.setValue(key, value);
+    }
+
+    void press(Qt::Key key, const QString& input, const QString& output)
+    {
+        w.input().setText(input);
+        w.output().setText(output);
+        QTest::keyClick(w.window.get(), key);
+    }
+    void run(Qt::Key key, const QString& input, const QString& output, const QString& password = "secret")
+    {
+        w.answerPassword(password);
+        press(key, input, output);
+    }
+    void encrypt() { run(Qt::Key_F5, w.path("in"), w.path("out")); }
+    const test::TempFolder& folder() const { return w.folder; }
+
+    WindowHarness w;
 };
 
 } // namespace test

@@ -31,6 +31,7 @@ TEST(OutputNaming, Extensions)
                            {".bashrc", ".bashrc.enc"},
                            {".enc", ".dec"},
                            {"report.", "report.enc"},
+                           {":report", ":report.enc"},
                            {"#1 50% ü 日本.txt", "#1 50% ü 日本.txt.enc"}});
     settings.encryption.addExt = settings.decryption.addExt = false;
     expectNames(settings, {{"report.txt", "report.txt"},
@@ -53,6 +54,11 @@ TEST(OutputNaming, PrefixSuffixAndDate)
         parts->prefix = "x-";
         parts->suffix = "-y";
     }
+    settings.decryption.addPrefix = settings.encryption.addPrefix = false;
+    settings.encryption.addSuffix = false;
+    expectNames(settings, {{"a", "a_2024_03_05.enc"}, {"a.enc", "a_2024_03_05-y.dec"}});
+    settings.decryption.addPrefix = settings.encryption.addPrefix = true;
+    settings.encryption.addSuffix = true;
     const QString longest(124, 'n');
     expectNames(settings, {{"report.txt", "x-report_2024_03_05-y.txt.enc"},
                            {"report.txt.enc", "x-report.txt_2024_03_05-y.dec"},
@@ -62,6 +68,11 @@ TEST(OutputNaming, PrefixSuffixAndDate)
                            {longest + "n.txt", longest + "n.txt.enc"}});
     expectNames(settings, {{"a", "x-a-y.enc"}}, QDate());
     expectNames(settings, {{"a", "x-a_0987_12_31-y.enc"}}, QDate(987, 12, 31));
+    for (thisapp::NameParts* parts : {&settings.encryption, &settings.decryption})
+        parts->addPrefix = parts->addSuffix = parts->addDate = false;
+    expectNames(settings, {{"a", "a.enc"}, {"a.enc", "a.dec"}});
+    EXPECT_EQ(thisapp::outputFileName("a.enc", thisapp::NamingDirection::Encryption, settings, QDate()),
+              "a.enc");
     settings.decryption.ext = "longer";
     expectNames(settings, {{longest + ".enc", longest + ".longer"}});
 }

@@ -28,6 +28,7 @@ TEST(KeyFile, ToleratesWhatEditorsAndMailDo)
         {"Initialization vector (IV): 22\nKey: 0011\n\n-- \nNora\n", "0011/22"},
         {"My Key: x\nKey: 0011\nInitialization vector (IV): 22", "0011/22"},
         {"Key: 0011\n", ""},
+        {"Key: \nInitialization vector (IV): 22\n", ""},
         {"Key: 0011\nInitialization vector (IV): \n", ""},
         {"Key: 0011\nInitialization vector (IV): 2\n", ""},
         {"0011", ""},

@@ -10,6 +10,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 using thisapp::AlgSelection;
@@ -29,6 +32,15 @@ protected:
     SAppOptions read() const { return thisapp::readOptions(CAppSettings(), KnownAlgorithm); }
     static void set(const char* key, const QVariant& value) { CAppSettings().setValue(key, value); }
 
+    /// The key, the stored value and the one in use of each that is told.
+    static QString unused(const SAppOptions& used)
+    {
+        QString told;
+        for (const thisapp::UnusedValue& value : thisapp::unusedValues(CAppSettings(), used))
+            told += value.name + ' ' + value.stored + '>' + value.used + ' ';
+        return told;
+    }
+
     QTemporaryDir profile;
 };
 
@@ -38,6 +50,9 @@ TEST_F(Settings, StoredAtTheUsersPlace)
     EXPECT_EQ(settings.fileName(), file());
     EXPECT_EQ(settings.productId(), tessaly::QuilletProductId);
     EXPECT_NE(tessaly::AppSettings(77).fileName(), file());
+    CAppSettings::setApplicationProductId(77);
+    EXPECT_EQ(CAppSettings().fileName(), tessaly::AppSettings(77).fileName());
+    CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
 
     qputenv("XDG_CONFIG_HOME", "relative");
     EXPECT_EQ(CAppSettings().fileName(), QDir::home().filePath(".config/Tessaly/Quillet.conf"));
@@ -45,29 +60,38 @@ TEST_F(Settings, StoredAtTheUsersPlace)
 
 TEST_F(Settings, EveryValueSurvivesWritingAndReading)
 {
-    const SAppOptions options = test::changedOptions();
-    {
-        CAppSettings settings;
-        EXPECT_TRUE(thisapp::writeOptions(settings, options));
-        thisapp::writeDefaultAlgorithm(settings, options.defaultAlgorithm());
-        thisapp::writeLocaleId(settings, options.localeId);
-    }
-    EXPECT_EQ(read(), options);
+    for (const SAppOptions& options : test::eachChanged()) {
+        {
+            CAppSettings settings;
+            const bool integration =
+                read().integrateToShellContextMenu != options.integrateToShellContextMenu ||
+                read().addToSendMenu != options.addToSendMenu;
+            EXPECT_EQ(thisapp::writeOptions(settings, options), integration);
+            thisapp::writeDefaultAlgorithm(settings, options.defaultAlgorithm());
+            thisapp::writeLocaleId(settings, options.localeId);
+        }
+        EXPECT_EQ(read(), options);
 
-    const thisapp::NamingSettings naming = thisapp::readNamingSettings(CAppSettings());
-    EXPECT_EQ(naming.encryption.suffix, options.encFileNameSuffix);
-    SAppOptions other = options;
-    thisapp::NamingSettings().store(other);
-    EXPECT_NE(other, options);
-    naming.store(other);
-    EXPECT_EQ(other, options);
+        const thisapp::NamingSettings naming = thisapp::readNamingSettings(CAppSettings());
+        EXPECT_EQ(naming.encryption.suffix, options.encFileNameSuffix);
+        SAppOptions other = options;
+        thisapp::NamingSettings().store(other);
+        naming.store(other);
+        EXPECT_EQ(other, options);
+    }
+    CAppSettings settings;
+    EXPECT_EQ(settings.value("LocaleId"), 1031);
+    EXPECT_EQ(settings.value("DefaultCryptoLibrary"), 1);
+    EXPECT_EQ(settings.value("DefaultCryptoAlgorithm"), 3);
 }
 
 TEST_F(Settings, DefaultsInTheOrderOfWriting)
 {
     std::string values;
-    for (const auto& [name, value] : thisapp::writtenValues(read()))
+    for (const auto& [name, value] : thisapp::writtenValues(read())) {
         values += std::string(name.data()) + '=' + value.toString().toStdString() + ' ';
+        EXPECT_NE(value.type(), QVariant::UInt) << "the registry tells them apart";
+    }
     EXPECT_EQ(values,
               "IntegrateToShellContextMenu=true AddToSendMenu=true UseDefaultAlgorithmAtStarting=true "
               "LogLevel=0 UseLogFile=false UseSalt=false RewriteOutputFile=false "
@@ -89,13 +113,6 @@ TEST_F(Settings, WritingWithoutChangesStoresAllButLocaleAndAlgorithm)
     EXPECT_EQ(settings.allKeys().size(), 31);
     for (const char* key : {"LocaleId", "DefaultCryptoLibrary", "DefaultCryptoAlgorithm"})
         EXPECT_FALSE(settings.contains(key)) << key;
-
-    SAppOptions options;
-    options.addToSendMenu = false;
-    EXPECT_TRUE(thisapp::writeOptions(settings, options));
-    EXPECT_FALSE(thisapp::writeOptions(settings, options));
-    options.integrateToShellContextMenu = false;
-    EXPECT_TRUE(thisapp::writeOptions(settings, options));
 }
 
 /// Stores each value under every key of one type.
@@ -120,6 +137,17 @@ TEST_F(Settings, WrongTypesReadAsTheDefaults)
     expectDefaultsFor<QString>({list, QVariant(), QVariantMap{{"a", 1}}});
 }
 
+TEST_F(Settings, TruthValuesAreWordsOrNumbers)
+{
+    for (const auto& [stored, meaning] :
+         {std::pair(QVariant("TRUE"), true), {"False", false}, {1, true}, {0, false}}) {
+        set("UseSalt", stored);
+        set("ShowConfirmDialog", stored);
+        EXPECT_EQ(read().useSalt, meaning) << stored.toString().toStdString();
+        EXPECT_EQ(read().showConfirmDialog, meaning) << stored.toString().toStdString();
+    }
+}
+
 /// Such a value, read, asks for more memory than there is.
 TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
 {
@@ -129,8 +157,12 @@ TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
         {"UseSalt=x, \"@" + list + "\"", 1},
         {"UseSalt=\\x10040" + list, 1},
         {"UseSalt=\\100Var\\\r\n" + list.mid(3), 1},
+        {"UseSalt=@\\qVariant" + list.mid(7), 1},
+        {"UseSalt=@\\xVariant" + list.mid(7), 1},
+        {"UseSalt=@\\\n\r" + list, 1},
         {"EncFileNameSuffix=@DateTime(\\0\\0\\0\\x10)\nUseSalt=@" + list, 2},
         {"EncFileNameSuffix=@@x)", 0},
+        {"EncFileNameSuffix=@@Variant(x)", 0},
     };
     for (const auto& [lines, count] : rows) {
         ASSERT_TRUE(QDir().mkpath(QFileInfo(file()).path()));
@@ -142,9 +174,20 @@ TEST_F(Settings, SerialisedValuesAreTakenOutOfTheFile)
         SAppOptions expected;
         expected.logLevel = 5;
         expected.rewriteOutputFile = true;
-        expected.encFileNameSuffix = count == 0 ? "@x)" : "";
+        expected.encFileNameSuffix = count > 0 ? "" : lines.endsWith("@@x)") ? "@x)" : "@Variant(x)";
         EXPECT_EQ(read(), expected) << lines.toStdString();
     }
+
+    set("UseSalt", QVariant(QVariantList{1}));
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit none{0, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN); // writing fails
+    ::setrlimit(RLIMIT_FSIZE, &none);
+    EXPECT_EQ(CAppSettings().removedLines(), -1);
+    EXPECT_EQ(CAppSettings().allKeys(), QStringList()) << "nothing of it is read";
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(Settings, TextsThatCannotBeUsedReadAsTheDefaults)
@@ -156,13 +199,24 @@ TEST_F(Settings, TextsThatCannotBeUsedReadAsTheDefaults)
         QString stored;
         QString used;
     } rows[] = {
-        {"EncFileNamePrefix", "a/b", ""},           {"EncFileNameExt", "\\", "enc"},
-        {"DecFileNameSuffix", "a\nb", ""},          {"DecFileNamePrefix", "\u00E9 ~", "\u00E9 ~"},
-        {"OutputDirPath", "relative", ""},          {"OutputDirPath", "~", home},
-        {"OutputDirPath", "~/x y", home + "/x y"},  {"OutputDirPath", "~other/x", ""},
-        {"OutputDirPath", "file:///a%20b", "/a b"}, {"OutputDirPath", "file://localhost/a", "/a"},
-        {"OutputDirPath", "file://else/a", ""},     {"OutputDirPath", "sftp://h/a", ""},
-        {"OutputDirPath", ":/icons", ""},           {"OutputDirPath", "/a", "/a"},
+        {"EncFileNamePrefix", "a/b", ""},
+        {"EncFileNameExt", "\\", "enc"},
+        {"EncFileNameSuffix", "/", ""},
+        {"DecFileNameExt", "a\x1F", "dec"},
+        {"DecFileNameSuffix", "a\nb", ""},
+        {"DecFileNamePrefix", "a\\", ""},
+        {"DecFileNamePrefix", "\u00E9 ~", "\u00E9 ~"},
+        {"OutputDirPath", "FILE:///a", "/a"},
+        {"OutputDirPath", "relative", ""},
+        {"OutputDirPath", "~", home},
+        {"OutputDirPath", "~/x y", home + "/x y"},
+        {"OutputDirPath", "~other/x", ""},
+        {"OutputDirPath", "file:///a%20b", "/a b"},
+        {"OutputDirPath", "file://localhost/a", "/a"},
+        {"OutputDirPath", "file://else/a", ""},
+        {"OutputDirPath", "sftp://h/a", ""},
+        {"OutputDirPath", ":/icons", ""},
+        {"OutputDirPath", "/a", "/a"},
     };
     for (const auto& row : rows) {
         CAppSettings settings;
@@ -173,8 +227,32 @@ TEST_F(Settings, TextsThatCannotBeUsedReadAsTheDefaults)
             if (name == QLatin1String(row.key))
                 used = value.toString();
         EXPECT_EQ(used, row.used) << row.stored.toStdString();
-        EXPECT_EQ(thisapp::unusedValues(settings, read()).size(), row.used == row.stored ? 0U : 1U);
+        EXPECT_EQ(unused(read()),
+                  row.used == row.stored ? "" : row.key + (" " + row.stored) + '>' + row.used + ' ');
     }
+}
+
+TEST_F(Settings, TellsOfStoredValuesThatAreNotInUse)
+{
+    SAppOptions used = read();
+    used.localeId = 1031;
+    EXPECT_EQ(unused(used), "") << "nothing is stored";
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"LocaleId", "1034", "LocaleId 1034>1033 "},
+        {"LogLevel", "9", "LogLevel 9>0 "},
+        {"UseSalt", "maybe", "UseSalt maybe>false "},
+        {"DefaultCryptoLibrary", "2", "DefaultCryptoLibrary 2>1 "},
+        {"DefaultCryptoAlgorithm", "8", "DefaultCryptoAlgorithm 8>252 "},
+        {"UseSalt", "true", ""},
+    };
+    for (const auto& [key, stored, told] : rows) {
+        CAppSettings().clear();
+        set(key, stored);
+        EXPECT_EQ(unused(read()), told);
+    }
+    set("DefaultCryptoLibrary", 2);
+    set("UseDefaultAlgorithmAtStarting", false);
+    EXPECT_EQ(unused(read()), "") << "nobody asks for it";
 }
 
 TEST_F(Settings, SaveTellsOfFailure)

@@ -79,6 +79,11 @@ TEST(Utf8FileReader, RefusesWhatIsNotAReadableTextFile)
         EXPECT_EQ(Utf8FileReader({8}).read(path, text), result) << platform::nativePath(path);
         EXPECT_EQ(text, result.ok() ? "12345678" : "");
     }
+    // In several reads, which together are too much.
+    std::string text;
+    const std::size_t size = test::readFile("/proc/version").size();
+    EXPECT_EQ(Utf8FileReader({size - 2}).read(L"/proc/version", text), err::library(err::FileTooLarge));
+    EXPECT_TRUE(Utf8FileReader({size}).read(L"/proc/version", text).ok());
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "lib/err/ErrorCodes.h"
+#include "lib/i18n/PluralForms.h"
 #include "lib/i18n/StrBundleTrMgr.h"
 #include "lib/i18n/list/TranslationListLoaderXml.h"
+#include "lib/i18n/list/WordTest.h"
 #include "lib/i18n/resource/LocaleResLoaderTrFile.h"
 #include "support/TempFolder.h"
 
@@ -53,6 +55,36 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
               err::library(err::FileTooLarge));
     EXPECT_EQ(loader.load(folder.wide("missing")).code, err::system(ENOENT));
     EXPECT_EQ(loader.translations(), expected);
+}
+
+TEST(TranslationListLoaderXml, KnowsTheWordsOfOldFiles)
+{
+    for (const char* word : {"1", "ok", "yes", "ofcouse", "true", "OK", "YES", "TRUE"})
+        EXPECT_EQ(readYesNo(word), true) << word;
+    for (const char* word : {"0", "not", "never", "false", "NeVer"})
+        EXPECT_EQ(readYesNo(word), false) << word;
+    for (const char* word : {"", "no", "x", "ofcourse", "2", " 1"})
+        EXPECT_EQ(readYesNo(word), std::nullopt) << word;
+    EXPECT_EQ(asciiLower("@AZ[`az{\xC3\x84"), "@az[`az{\xC3\x84");
+}
+
+TEST(LocaleResLoaders, KeepMessagesApartAndKnowBytes)
+{
+    const test::TempFolder folder;
+    StrBundleTrMgr bundle;
+    ASSERT_TRUE(
+        bundle
+            .load(LocaleResLoaderTrFile(),
+                  folder.write("t", "<TS><context><name>C</name><message numerus='yes'><source>many</source>"
+                                    "<translation><numerusform>0</numerusform><numerusform>1</numerusform>"
+                                    "</translation></message><message><source>one</source><translation>"
+                                    "<byte value='x1b'/>-<byte value='27'/></translation></message>"
+                                    "</context></TS>"))
+            .ok());
+    EXPECT_EQ(bundle.lookup("C", formKey("many", 0)).text, "0");
+    EXPECT_EQ(bundle.lookup("C", formKey("many", 1)).text, "1");
+    EXPECT_EQ(bundle.lookup("C", "one").text, "\x1b-\x1b");
+    EXPECT_EQ(bundle.lookup("C", formKey("one", 0)).text, "");
 }
 
 TEST(LocaleResLoaders, SurviveBrokenFiles)

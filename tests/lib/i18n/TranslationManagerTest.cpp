@@ -97,6 +97,9 @@ TEST(TranslationManager, TheFirstFolderCountsAndTheOthersAddToIt)
     EXPECT_EQ(result.code, err::library(err::MalformedText));
     EXPECT_EQ(result.file, mine.wide() + L"/example.langs.xml");
     EXPECT_EQ(without.languages()[1].displayName, "Deutsch");
+    others.write("example.langs.xml", "<wrong, too");
+    EXPECT_EQ(TranslationManager(std::vector{mine.wide(), others.wide()}, "example").load().file,
+              result.file);
 }
 
 TEST(TranslationManager, TakesEnglishAndSharedTagsFromTheList)

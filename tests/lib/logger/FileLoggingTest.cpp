@@ -55,6 +55,18 @@ TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
     EXPECT_EQ(internal::LogSender<char>::instance()->level(), 0U);
 }
 
+class Messages final : public internal::LogAppender<char>
+{
+public:
+    void append(std::int64_t, std::uint32_t, std::uint32_t, std::uint32_t, std::string_view,
+                std::string_view message, std::uint32_t) override
+    {
+        lines.emplace_back(message);
+    }
+
+    Lines lines;
+};
+
 TEST(FileLogging, TellsWhyThereIsNoLogFile)
 {
     const test::TempFolder folder;
@@ -65,13 +77,26 @@ TEST(FileLogging, TellsWhyThereIsNoLogFile)
     nowhere.setLogFileUsed(false);
     EXPECT_EQ(nowhere.problem(), "");
 
-    FileLogging logging(folder / "log");
+    auto& sender = *internal::LogSender<char>::instance();
+    sender.setLevel(Trace);
+    FileLogging logging(folder / "log",
+                        [](tessaly::ResultCode result) { return "number " + std::to_string(result.code); });
+    EXPECT_EQ(sender.level(), 0U) << "nothing is logged until somebody wants it";
+    logging.setLevel(Error);
+    const auto elsewhere = std::make_shared<Messages>();
+    EXPECT_TRUE(sender.appenders().add(7, elsewhere).ok());
     {
         const test::NewThreads none([] { return false; });
         logging.setLogFileUsed(true);
     }
     EXPECT_FALSE(logging.isLogFileUsed());
-    EXPECT_EQ(logging.problem(), "Failed to start file logger. Error: 5/303");
+    EXPECT_EQ(logging.problem(), "Failed to start file logger. Error: number 303");
+    EXPECT_EQ(elsewhere->lines, Lines{logging.problem()});
+    EXPECT_TRUE(sender.appenders().add(1, elsewhere).ok());
+    logging.setLogFileUsed(true);
+    EXPECT_EQ(logging.problem(), "Failed to add file logger. Error: number 8");
+    sender.appenders().remove(1);
+    sender.appenders().remove(7);
     logging.setLogFileUsed(true);
     EXPECT_TRUE(logging.isLogFileUsed());
     EXPECT_EQ(logging.problem(), "");

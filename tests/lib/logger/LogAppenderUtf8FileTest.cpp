@@ -1,5 +1,6 @@
 #include "lib/logger/LogAppenderUtf8File.h"
 #include "support/Eventually.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -112,7 +113,11 @@ TEST_F(LogAppenderUtf8FileTest, BeginsALineOfItsOwnAfterATornOne)
     const std::string log = folder / "log";
     folder.write("log", "of a run that ended here");
     const auto file = LogFile::open(log, LogFile::Mode::Append);
-    ASSERT_TRUE(file->write("first\n"));
+    {
+        const test::SystemCall interrupted("write", EINTR);
+        const test::SystemCall shortWrite("write", test::SystemCall::Short, 2);
+        ASSERT_TRUE(file->write("first\n"));
+    }
 
     ::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};

@@ -53,6 +53,7 @@ protected:
     ~LogRecTest() override
     {
         setClock(nullptr);
+        EXPECT_NE(now(), 42);
         EXPECT_EQ(sender.release(), 0U) << "a record kept its reference";
     }
 
@@ -85,6 +86,18 @@ TEST_F(LogRecTest, StreamsNumbersTextsAndPairs)
     log(Debug, "test") << std::array{1, 2, 3, 4} << ' ' << std::array{5U, 4003U, 0U, 0U, 1U, 2U};
     EXPECT_EQ(notes, (Messages{"b:5:a1234567b-2.5c18446744073709551615", "b:5:\u20AC\u65E5",
                                "b:5:1/2,3/4 5/4003,0/0,1/2"}));
+}
+
+TEST_F(LogRecTest, SendsAgainOnlyWhatIsNew)
+{
+    sender.setLevel(Trace);
+    {
+        LogRec<char> record(&sender, Error, "test");
+        record << "one";
+        record.flush();
+        record << "two";
+    }
+    EXPECT_EQ(notes, (Messages{"b:2:one", "b:2:two"}));
 }
 
 TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)

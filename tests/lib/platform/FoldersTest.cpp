@@ -1,6 +1,7 @@
 #include "lib/platform/Folders.h"
 #include "lib/err/ErrorCodes.h"
 #include "support/Environment.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -15,23 +16,11 @@ namespace {
 
 using namespace tessaly::platform;
 
-std::vector<std::string> flushed; ///< the paths given to fsync
-
-} // namespace
-
-/// Stands before the library's in the whole test program.
-extern "C" int fsync(int handle)
-{
-    flushed.push_back(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(handle)));
-    return 0;
-}
-
-namespace {
-
 TEST(Folders, MadeOnesAreFlushedInTheirParents)
 {
     const test::TempFolder folder;
     const std::string top = folder / "a";
+    auto& flushed = test::SystemCall::flushed;
     flushed.clear();
     const mode_t before = ::umask(0027);
     EXPECT_TRUE(createFolders(top + "/b/c/").ok());
@@ -42,6 +31,9 @@ TEST(Folders, MadeOnesAreFlushedInTheirParents)
     EXPECT_EQ(flushed.size(), 3U) << "nothing new";
     folder.write("file", "");
     EXPECT_EQ(createFolders(folder / "file/x"), tessaly::err::system(EEXIST));
+    EXPECT_TRUE(createPrivateFolders(folder / "p/q").ok());
+    for (const char* name : {"p", "p/q"})
+        EXPECT_EQ(std::filesystem::status(folder / name).permissions(), std::filesystem::perms(0700));
 }
 
 TEST(Folders, FollowTheEnvironment)

@@ -13,6 +13,10 @@ TEST(Hex, DecodesPairsBetweenAnyWhiteSpace)
     EXPECT_EQ(decodeHex(" \n"), SecretBytes());
     for (const char* text : {"0", "123", "0g", "0x00", "00,11", "\xC2\xA0", "-1"})
         EXPECT_EQ(decodeHex(text), std::nullopt) << text;
+    for (const char* text : {"", "0F", "01234567", "01234567 89", "01234567 89ABCDEF 00"}) {
+        const SecretBytes bytes = decodeHex(text).value();
+        EXPECT_EQ(tessaly::encodeHex({bytes.data(), bytes.size()}).view(), text) << "groups of four bytes";
+    }
 }
 
 TEST(SecretText, EndsWithAZeroThatIsNotCounted)

@@ -1,13 +1,17 @@
 #include "crypto/catalogue/AlgInfo.h"
+#include "ui/FakeAlgProvider.h"
 #include "ui/Widgets.h"
 #include "ui/algorithms/AlgInfoReport.h"
 #include "ui/algorithms/CAlgInfoDialog.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 
 namespace {
+
+using thisapp::AlgSelection;
 
 TEST(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
 {
@@ -49,12 +53,17 @@ TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
                           list.visualItemRect(list.item(row)).center());
     };
     EXPECT_EQ(pane.toPlainText(), QString());
+    dialog.hide();
+    dialog.setSelection({1, 252});
+    open(dialog);
+    EXPECT_TRUE(pane.toPlainText().contains("Algorithm name: AES-256"));
+    pane.clear();
     click(4, Qt::NoModifier);
     click(0, Qt::ControlModifier);
     click(2, Qt::ControlModifier);
     EXPECT_EQ(pane.toPlainText(), QString()) << "printed before the delay";
 
-    ASSERT_TRUE(QTest::qWaitFor([&pane] { return !pane.toPlainText().isEmpty(); }));
+    ASSERT_TRUE(comesTrue([&pane] { return !pane.toPlainText().isEmpty(); }));
     QStringList names;
     for (const QString& line : pane.toPlainText().split('\n'))
         if (line.startsWith("Algorithm name: ") || line.startsWith("//"))
@@ -64,8 +73,27 @@ TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
               (QStringList{separator, "Algorithm name: Panama", separator, "Algorithm name: Sosemanuk-192",
                            separator, "Algorithm name: Salsa20-128"}));
 
-    list.clearSelection();
-    EXPECT_TRUE(QTest::qWaitFor([&pane] { return pane.toPlainText().isEmpty(); }));
+    child<QLineEdit>(dialog, "lineEditFilter").setText("sealed by nobody");
+    EXPECT_TRUE(comesTrue([&pane] { return pane.toPlainText().isEmpty(); }))
+        << "what is hidden is not selected";
+}
+
+TEST(AlgInfoDialog, KnowsNothingOfOtherLibraries)
+{
+    struct : FakeAlgProvider
+    {
+        bool entry(int, AlgSelection& selection, bool& enabled) const override
+        {
+            selection = {2, 252};
+            return enabled = true;
+        }
+    } other;
+    CAlgInfoDialog dialog;
+    dialog.setProvider(other);
+    dialog.setSelection({2, 252});
+    open(dialog);
+    EXPECT_TRUE(child<QPlainTextEdit>(dialog, "plainTextEditInfo").toPlainText().contains("not defined"));
+    EXPECT_EQ(child<QListWidget>(dialog, "listWidgetAlg").item(0)->toolTip(), "");
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextEdit>
 
@@ -44,6 +45,8 @@ TEST(AboutDialog, ShowsTheVersionsAndClosesOnEnter)
     CAboutDialog dialog;
     dialog.show();
     EXPECT_EQ(dialog.windowTitle(), "About Quillet");
+    EXPECT_EQ(child<QLabel>(dialog, "labelName").text(), "Quillet");
+    EXPECT_FALSE(child(dialog, "labelIcon").isVisible()) << "there is none";
     EXPECT_EQ(child<QLabel>(dialog, "labelVersion").text(), "Version " QUILLET_VERSION);
     EXPECT_EQ(child<QLabel>(dialog, "labelQt").text(), qVersion());
     EXPECT_TRUE(child<QLabel>(dialog, "labelCryptoPP").text().startsWith("8."));
@@ -55,6 +58,7 @@ TEST(TextViewDialog, RefreshesAndShowsTheEnd)
 {
     int reads = 0;
     CTextViewDialog dialog;
+    EXPECT_TRUE(child(dialog, "buttonRefresh").isHidden()) << "without a source";
     dialog.setSource([&reads] { return QString("line\n").repeated(500) + QString::number(++reads); });
     open(dialog);
     const auto& text = child<QPlainTextEdit>(dialog, "text");
@@ -63,6 +67,7 @@ TEST(TextViewDialog, RefreshesAndShowsTheEnd)
     press(Qt::Key_F5);
     EXPECT_TRUE(text.toPlainText().endsWith("\n2"));
     EXPECT_TRUE(text.textCursor().atEnd());
+    EXPECT_EQ(text.verticalScrollBar()->value(), text.verticalScrollBar()->maximum());
     press(Qt::Key_R, Qt::AltModifier);
     EXPECT_TRUE(text.toPlainText().endsWith("\n3"));
     press(Qt::Key_Escape);

@@ -1,9 +1,12 @@
 #include "ui/options/COptionsDialog.h"
 
+#include "common/naming/NamingSettings.h"
 #include "common/settings/IAppOptionsChanged.h"
 #include "support/ChangedOptions.h"
 #include "ui/FakeAlgProvider.h"
+#include "ui/ShownKind.h"
 #include "ui/Widgets.h"
+#include "ui/options/NamingWarning.h"
 
 #include <gtest/gtest.h>
 
@@ -26,6 +29,7 @@
 
 namespace {
 
+using thisapp::MessageKind;
 using thisapp::SAppOptions;
 
 class OptionsDialog : public testing::Test, thisapp::IAppOptionsChanged
@@ -59,6 +63,7 @@ protected:
         QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(&edit, text);
     }
+    MessageKind messageKind() { return shownKind(child<QLineEdit>(dialog, "lineEditMsg")); }
     QString text(const char* name) { return child<QLineEdit>(dialog, name).text(); }
     QString encSample() { return child<QLineEdit>(child(dialog, "frameEncryption"), "editSample").text(); }
     QString decSample() { return child<QLineEdit>(child(dialog, "frameDecryption"), "editSample").text(); }
@@ -86,7 +91,7 @@ bool tabTo(const QWidget& target)
 
 TEST_F(OptionsDialog, ShowsAndReturnsEveryValue)
 {
-    for (const SAppOptions& options : {SAppOptions(), test::changedOptions()}) {
+    for (const SAppOptions& options : test::eachChanged()) {
         show(options);
         press(Qt::Key_Return);
         EXPECT_EQ(dialog.result(), QDialog::Accepted);
@@ -144,6 +149,7 @@ TEST_F(OptionsDialog, EveryCheckBoxStandsForItsOption)
         EXPECT_EQ(unchosen(applied.back()), unchosen(expected)) << label;
         EXPECT_FALSE(child(dialog, "buttonApply").isEnabled()) << label;
         (*found)->toggle();
+        dialog.onUiApply();
     }
 }
 
@@ -152,11 +158,15 @@ TEST_F(OptionsDialog, ApplyHandsOverAndCancelKeepsThat)
     QWidget& salt = child(dialog, "checkSalt");
     show();
     toggle(salt);
-    toggle(child(dialog, "buttonApply"));
+    child(dialog, "buttonApply").setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(QApplication::focusWidget(), &child(dialog, "buttonOk"));
+    EXPECT_FALSE(child(dialog, "buttonApply").isEnabled());
     ASSERT_EQ(applied.size(), 1U);
     EXPECT_TRUE(applied[0].useSalt);
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(text("lineEditMsg"), "The options were applied.");
+    EXPECT_EQ(messageKind(), MessageKind::Success);
     toggle(child(dialog, "checkShowPassword"));
     EXPECT_EQ(text("lineEditMsg"), "") << "the message speaks of what is shown";
     press(Qt::Key_Escape);
@@ -190,6 +200,7 @@ TEST_F(OptionsDialog, DependentControlsFollowTheirCheckBoxes)
           {"frameGeneral", "checkUseDefaultAlgorithm", "comboAlgorithm"},
           {"frameGeneral", "checkUseOutputDir", "editOutputDir"},
           {"frameGeneral", "checkUseOutputDir", "buttonBrowse"},
+          {"frameGeneral", "checkUseOutputDir", "labelOutputDir"},
           {"frameEncryption", "checkExt", "editExt"},
           {"frameEncryption", "checkSuffix", "editSuffix"},
           {"frameDecryption", "checkPrefix", "editPrefix"}}) {
@@ -205,26 +216,83 @@ TEST_F(OptionsDialog, DependentControlsFollowTheirCheckBoxes)
 TEST_F(OptionsDialog, SamplesFollowEveryChange)
 {
     const QString date = QDate::currentDate().toString("_yyyy_MM_dd");
+    SAppOptions options;
+    options.encFileNameSuffix = options.decFileNameSuffix = "-s";
+    options.encFileNamePrefix = options.decFileNamePrefix = "p-";
+    const struct
+    {
+        const char *box, *edit;
+        QString toggled, typed;
+    } rows[] = {{"checkExt", "editExt", "MyFile.txt", "MyFile.txt.x"},
+                {"checkSuffix", "editSuffix", "MyFile-s.txt.%1", "MyFilex.txt.%1"},
+                {"checkPrefix", "editPrefix", "p-MyFile.txt.%1", "xMyFile.txt.%1"},
+                {"checkDate", nullptr, "MyFile" + date + ".txt.%1", {}}};
+    for (const auto& [frame, ext] : {std::pair("frameEncryption", "enc"), {"frameDecryption", "dec"}})
+        for (const auto& row : rows) {
+            dialog.reject();
+            show(options);
+            const auto& sample = dynamic_cast<QLineEdit&>(inFrame(frame, "editSample"));
+            EXPECT_EQ(sample.text(), QString("MyFile.txt.") + ext);
+            toggle(inFrame(frame, row.box));
+            EXPECT_EQ(sample.text(), QString(row.toggled).replace("%1", ext)) << row.box;
+            if (row.edit == nullptr)
+                continue;
+            if (!inFrame(frame, row.edit).isEnabled())
+                toggle(inFrame(frame, row.box));
+            write(inFrame(frame, row.edit), "x");
+            EXPECT_EQ(sample.text(), QString(row.typed).replace("%1", ext)) << row.edit;
+            EXPECT_TRUE(sample.isReadOnly());
+        }
+    dialog.reject();
     show();
-    EXPECT_EQ(encSample(), "MyFile.txt.enc");
-    EXPECT_EQ(decSample(), "MyFile.txt.dec");
-    write(inFrame("frameEncryption", "editExt"), "q");
-    EXPECT_EQ(encSample(), "MyFile.txt.q");
-    toggle(inFrame("frameEncryption", "checkExt"));
-    EXPECT_EQ(encSample(), "MyFile.txt");
-    EXPECT_EQ(text("lineEditMsg"), "Encrypted files would get the names of their input files.");
-    toggle(inFrame("frameEncryption", "checkDate"));
-    EXPECT_EQ(encSample(), "MyFile" + date + ".txt");
-    EXPECT_EQ(text("lineEditMsg"), "");
     toggle(inFrame("frameEncryption", "checkPrefix"));
     write(inFrame("frameEncryption", "editPrefix"), "<b>/\\x");
-    EXPECT_EQ(encSample(), "<b>xMyFile" + date + ".txt") << "separators are not accepted";
-    toggle(inFrame("frameDecryption", "checkSuffix"));
-    write(inFrame("frameDecryption", "editSuffix"), "-y");
+    EXPECT_EQ(encSample(), "<b>xMyFile.txt.enc") << "separators are not accepted";
     write(inFrame("frameDecryption", "editExt"), "..plain ");
-    EXPECT_EQ(decSample(), "MyFile-y.txt.plain");
+    EXPECT_EQ(decSample(), "MyFile.txt.plain");
     dialog.onUiOk();
     EXPECT_EQ(dialog.options().decFileNameExt, "plain");
+}
+
+TEST(NamingWarning, TellsOfNamesThatCannotWork)
+{
+    const QString sameEncrypted = "Encrypted files would get the names of their input files.";
+    const QString sameDecrypted = "Decrypted files would get the names of their input files.";
+    const QString tooLong = "File names would become longer than a file system takes.";
+    const QString dotted = "Files are not recognised by an extension with a dot inside.";
+    const QString forbidden = "Windows and most memory sticks take no names with one of <>:\"|?*";
+    using Change = std::function<void(thisapp::NamingSettings&)>;
+    const auto ext = [](const QString& text) {
+        return [text](auto& naming) { naming.encryption.ext = text; };
+    };
+    std::vector<std::pair<Change, QString>> rows = {
+        {[](auto&) {}, ""},
+        {[](auto& naming) { naming.encryption.addExt = false; }, sameEncrypted},
+        {[](auto& naming) { naming.decryption.ext = "ENC"; }, sameDecrypted},
+        {[](auto& naming) { naming.decryption.ext = "ENC", naming.autogenerate = false; }, ""},
+        {[](auto& naming) { naming.useDefaultOutputDir = true; },
+         "No default output folder is given: files go beside their input."},
+        {[](auto& naming) { naming.useDefaultOutputDir = true, naming.outputDirPath = "x"; },
+         "The default output folder must be an absolute path."},
+        {[](auto& naming) {
+             naming.decryption.ext = "ENC", naming.useDefaultOutputDir = true, naming.outputDirPath = "/x";
+         },
+         ""},
+        {ext(QString(244, 'x')), ""}, // after MyFile.txt.
+        {ext(QString(245, 'x')), tooLong},
+        {ext(QString(123, QChar(0xfc))), tooLong},
+        {ext("a.enc"), dotted},
+        {[](auto& naming) { naming.encryption.ext = "a.enc", naming.encryption.addExt = false; },
+         sameEncrypted},
+        {[](auto& naming) { naming.decryption.ext = "a.dec"; }, dotted},
+    };
+    for (const QChar c : QString("<>:\"|?*"))
+        rows.emplace_back(ext(c), forbidden);
+    for (const auto& [change, warning] : rows) {
+        thisapp::NamingSettings naming;
+        change(naming);
+        EXPECT_EQ(thisapp::namingWarning(naming).toStdString(), warning.toStdString());
+    }
 }
 
 TEST_F(OptionsDialog, WarnsOfNamesThatCannotWork)
@@ -233,22 +301,15 @@ TEST_F(OptionsDialog, WarnsOfNamesThatCannotWork)
     options.decFileNameExt = "ENC";
     show(options);
     EXPECT_EQ(text("lineEditMsg"), "Decrypted files would get the names of their input files.");
+    EXPECT_EQ(messageKind(), MessageKind::Warning);
     toggle(child(dialog, "checkUseOutputDir"));
     EXPECT_EQ(text("lineEditMsg"), "No default output folder is given: files go beside their input.");
     write(child(dialog, "editOutputDir"), " /tmp ");
     EXPECT_EQ(text("lineEditMsg"), "");
-    QWidget& ext = inFrame("frameEncryption", "editExt");
-    for (const auto& [typed, warning] :
-         {std::pair("a.enc", "Files are not recognised by an extension with a dot inside."),
-          {"e?c", "Windows and most memory sticks take no names with one of <>:\"|?*"},
-          {"e", ""}}) {
-        write(ext, typed);
-        EXPECT_EQ(text("lineEditMsg"), warning);
-    }
-    write(ext, QByteArray(255, 'x').constData());
-    EXPECT_EQ(text("lineEditMsg"), "File names would become longer than a file system takes.");
     dialog.onUiOk();
     EXPECT_EQ(dialog.options().outputDirPath, "/tmp");
+    show(dialog.options());
+    EXPECT_EQ(text("editOutputDir"), "/tmp");
 }
 
 TEST_F(OptionsDialog, TellsWhatIsNotInEffect)
@@ -256,18 +317,28 @@ TEST_F(OptionsDialog, TellsWhatIsNotInEffect)
     dialog.setProblem("There is no log file.");
     show();
     EXPECT_EQ(text("lineEditMsg"), "There is no log file.");
+    EXPECT_EQ(messageKind(), MessageKind::Warning);
+    dialog.setLanguages({{1031, "Deutsch"}, {1033, "English"}});
+    EXPECT_EQ(child<QComboBox>(dialog, "comboLanguage").count(), 2);
+    dialog.reject();
+    show();
     auto& language = child<QComboBox>(dialog, "comboLanguage");
     QTest::keyClick(&language, Qt::Key_Up);
     EXPECT_EQ(language.currentText(), "Deutsch");
+    EXPECT_EQ(text("lineEditMsg"), "The language changes with OK or Apply.");
     problem = "The translation can't be loaded.";
     inUse = 1033;
     dialog.onUiApply();
     EXPECT_EQ(applied.back().localeId, 1031U);
     EXPECT_EQ(text("lineEditMsg"), problem);
     EXPECT_EQ(language.currentText(), "English") << "the one in use";
+    EXPECT_EQ(messageKind(), MessageKind::Warning);
     problem.clear();
     dialog.onUiApply();
     EXPECT_EQ(text("lineEditMsg"), "The options were applied.");
+    dialog.reject();
+    show(dialog.options());
+    EXPECT_EQ(text("lineEditMsg"), "") << "it is over";
 }
 
 TEST_F(OptionsDialog, TakesNoOutputFolderThatMeansNone)
@@ -280,6 +351,9 @@ TEST_F(OptionsDialog, TakesNoOutputFolderThatMeansNone)
         dialog.onUiOk();
         dialog.onUiApply();
         EXPECT_TRUE(dialog.isVisible() && applied.empty()) << none;
+        EXPECT_EQ(messageKind(), MessageKind::Error);
+        EXPECT_EQ(QApplication::focusWidget(), &folder);
+        child<QTabWidget>(dialog, "tabs").setCurrentIndex(1);
         EXPECT_EQ(text("lineEditMsg"), "The default output folder must be an absolute path.");
     }
     write(folder, " ~/x");
@@ -305,6 +379,10 @@ TEST_F(OptionsDialog, LanguagesAndAlgorithmsThatAreNotOffered)
     auto& algorithm = child<QComboBox>(dialog, "comboAlgorithm");
     QTest::keyClick(&algorithm, Qt::Key_Down);
     EXPECT_EQ(algorithm.currentText(), "Alg-3") << "the disabled one is passed over";
+    EXPECT_TRUE(child(dialog, "buttonApply").isEnabled());
+    dialog.onUiApply();
+    QTest::keyClick(&child(dialog, "comboLevel"), Qt::Key_Down);
+    EXPECT_TRUE(child(dialog, "buttonApply").isEnabled()) << "after each change";
 }
 
 TEST_F(OptionsDialog, ChoosesTheOutputFolder)
@@ -312,17 +390,18 @@ TEST_F(OptionsDialog, ChoosesTheOutputFolder)
     const QTemporaryDir folder;
     SAppOptions options;
     options.useDefaultOutputDir = true;
-    options.outputDirPath = "/before";
+    options.outputDirPath = "/usr";
     show(options);
     const auto browse = [this](auto answer) {
         whenModal([answer](QWidget& chooser) {
             EXPECT_EQ(chooser.windowTitle(), "Default output directory");
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(chooser).directory().path(), "/usr");
             answer(chooser);
         });
         QTest::mouseClick(&child(dialog, "buttonBrowse"), Qt::LeftButton);
         return text("editOutputDir");
     };
-    EXPECT_EQ(browse([](QWidget& chooser) { QTest::keyClick(&chooser, Qt::Key_Escape); }), "/before");
+    EXPECT_EQ(browse([](QWidget& chooser) { QTest::keyClick(&chooser, Qt::Key_Escape); }), "/usr");
     EXPECT_EQ(browse([&folder](QWidget& chooser) {
                   auto& name = child<QLineEdit>(chooser, "fileNameEdit");
                   name.setText(folder.path());
@@ -338,6 +417,7 @@ TEST_F(OptionsDialog, ViewsTheLogFile)
     show();
     press(Qt::Key_V, Qt::AltModifier);
     dialog.setLogFilePath(log.fileName());
+    EXPECT_EQ(text("editLogFile"), log.fileName());
     ASSERT_TRUE(tabTo(child(dialog, "labelViewLog")));
     press(Qt::Key_Return);
     EXPECT_TRUE(text("lineEditMsg").startsWith("The log file can't be read: ")) << text("lineEditMsg");
@@ -379,6 +459,26 @@ TEST_F(OptionsDialog, EveryControlHasAMnemonicOfItsOwnOnItsTab)
     }
 }
 
+TEST_F(OptionsDialog, PlacesItsColumnsByTheRoomAndTheLanguage)
+{
+    show();
+    QWidget& general = child(dialog, "frameGeneral");
+    const auto left = [&](const char* name) { return child(dialog, name).mapTo(&general, QPoint()).x(); };
+    const auto right = [&](const char* name) { return left(name) + child(dialog, name).width(); };
+    for (const bool room : {true, false}) {
+        dialog.resize(room ? 5000 : 10, 500);
+        EXPECT_TRUE(comesTrue([&] { return (left("checkShowConfirm") > right("checkSeal")) == room; }));
+    }
+    for (const auto direction : {Qt::RightToLeft, Qt::LeftToRight}) {
+        QApplication::setLayoutDirection(direction);
+        EXPECT_TRUE(comesTrue([&] {
+            return direction == Qt::LeftToRight ? left("labelOutputDir") > left("checkUseOutputDir")
+                                                : left("labelOutputDir") > left("editOutputDir") &&
+                                                      right("labelOutputDir") < right("checkUseOutputDir");
+        }));
+    }
+}
+
 TEST_F(OptionsDialog, FollowsAChangeOfTheLanguage)
 {
     show();
@@ -387,7 +487,10 @@ TEST_F(OptionsDialog, FollowsAChangeOfTheLanguage)
     QApplication::processEvents();
     EXPECT_EQ(child<QGroupBox>(child(dialog, "frameDecryption"), "group").title(), "NAME OF DECRYPTED FILE");
     EXPECT_EQ(child<QCheckBox>(child(dialog, "frameEncryption"), "checkExt").text(), "ADD F&ILE EXTENSION:");
-    EXPECT_EQ(child<QTableWidget>(dialog, "tableShortcuts").item(0, 1)->text(), "START ENCRYPTION");
+    const auto& table = child<QTableWidget>(dialog, "tableShortcuts");
+    EXPECT_EQ(table.item(0, 1)->text(), "START ENCRYPTION");
+    EXPECT_EQ(table.horizontalHeaderItem(0)->text(), "SHORTCUT KEY");
+    EXPECT_EQ(table.item(1, 0)->text(), "'Ctrl+F8' (Cmd+F8)");
     EXPECT_TRUE(child<QLabel>(dialog, "labelViewLog").text().contains("VIEW LOG FILE"));
     QApplication::removeTranslator(&translator);
 }

@@ -1,11 +1,15 @@
 #include "ui/Widgets.h"
 #include "ui/password/CSetPasswordDialog.h"
+#include "ui/style/CLinkLabel.h"
+#include "ui/style/EyeIcon.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextEdit>
-#include <optional>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -42,9 +46,11 @@ TEST_F(PasswordDialog, ShowsAMismatchWhileTypingAndStaysOpen)
         press(Qt::Key_Tab);
         type(test.confirmation);
         EXPECT_EQ(message(), test.message);
+        password.setFocus();
         press(Qt::Key_Return);
         const bool closes = *test.message == '\0';
         EXPECT_EQ(dialog.isVisible(), !closes) << test.confirmation;
+        EXPECT_EQ(confirmation.hasFocus(), !closes);
         EXPECT_EQ(dialog.password().view(), closes ? test.password : "");
         dialog.reject();
     }
@@ -80,14 +86,16 @@ TEST_F(PasswordDialog, PassesByKeyboardAloneInTheOrderOfTheForm)
     dialog.setSeal(true);
     dialog.setUseSalt(true);
     open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), "Password to encrypt");
+    EXPECT_EQ(child<QTextEdit>(dialog, "textEditInfo").toPlainText(),
+              "Remember the name of the encryption algorithm and password. \n"
+              "These data will be needed to decrypt the file. \nSelected cryptographic algorithm: AES-256.");
     type("p\xc3\xa4ss");
     press(Qt::Key_Tab);
     type("p\xc3\xa4ss");
     press(Qt::Key_Tab);
-    EXPECT_EQ(password.echoMode(), QLineEdit::Password);
     press(Qt::Key_Space); // show password
-    EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
-    press(Qt::Key_Tab); // generate
+    press(Qt::Key_Tab);   // generate
     press(Qt::Key_Tab);
     EXPECT_FALSE(child(dialog, "checkBoxUseSalt").isEnabled()) << "a seal has one";
     press(Qt::Key_Space); // no seal
@@ -115,8 +123,9 @@ TEST_F(PasswordDialog, DecryptingAsksOnce)
     EXPECT_EQ(dialog.windowTitle(), "Password to decrypt");
     EXPECT_EQ(child<QTextEdit>(dialog, "textEditInfo").toPlainText(),
               "Enter the password to decrypt the file. \nSelected cryptographic algorithm: AES-256.");
-    for (const char* hidden :
-         {"labelConfirmPassword", "lineEditConfirmPassword", "checkBoxSeal", "checkBoxUseSalt"})
+    EXPECT_EQ(dialog.accessibleDescription(), child<QTextEdit>(dialog, "textEditInfo").toPlainText());
+    for (const char* hidden : {"labelConfirmPassword", "lineEditConfirmPassword", "checkBoxSeal",
+                               "checkBoxUseSalt", "buttonGenerate", "strengthBar", "labelStrength"})
         EXPECT_FALSE(child(dialog, hidden).isVisible()) << hidden;
     EXPECT_TRUE(child(dialog, "checkBoxRewrite").isVisible());
     type("abc");
@@ -132,13 +141,69 @@ TEST_F(PasswordDialog, FollowsTheSettings)
     dialog.setUseConfirmPassword(false);
     dialog.setShowPassword(true);
     dialog.setShowAdvancedOptions(false);
+    dialog.setSeal(true);
+    dialog.setRewriteOutputFile(true);
+    dialog.setSubject("file", 2);
     open(dialog);
     EXPECT_FALSE(confirmation.isVisible());
     EXPECT_FALSE(child(dialog, "labelAdvancedMode").isVisible());
-    EXPECT_EQ(password.echoMode(), QLineEdit::Normal);
+    EXPECT_EQ(child<QLabel>(dialog, "labelSubject").text(), "file and 2 more");
     type("abc");
     press(Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_TRUE(dialog.seal() && dialog.rewriteOutputFile());
+}
+
+TEST_F(PasswordDialog, ShowsBothPasswordsWithTheBoxAndTheEye)
+{
+    auto& box = child<QAbstractButton>(dialog, "checkBoxShowPassword");
+    QAction& eye = *password.actions().constFirst();
+    const auto picture = [&eye] { return eye.icon().pixmap(24).toImage(); };
+    const auto looks = [&](bool shown, const QImage& icon) {
+        for (const QLineEdit* field : {&password, &confirmation}) {
+            EXPECT_EQ(field->echoMode(), shown ? QLineEdit::Normal : QLineEdit::Password);
+            EXPECT_TRUE(field->inputMethodHints().testFlag(Qt::ImhSensitiveData));
+            EXPECT_TRUE(field->inputMethodHints().testFlag(Qt::ImhNoPredictiveText));
+        }
+        EXPECT_EQ(box.isChecked(), shown);
+        EXPECT_EQ(eye.isChecked(), shown);
+        EXPECT_EQ(eye.text(), shown ? "Hide password" : "Show password");
+        EXPECT_EQ(picture(), icon);
+    };
+    open(dialog);
+    const QImage hidden = thisapp::eyeIcon(false).pixmap(24).toImage();
+    const QImage shown = thisapp::eyeIcon(true).pixmap(24).toImage();
+    looks(false, hidden);
+    eye.trigger();
+    looks(true, shown);
+    box.click();
+    looks(false, hidden);
+    box.click();
+    dialog.reject();
+    open(dialog);
+    looks(false, hidden);
+    // Along the line that crosses it there is more to see.
+    EXPECT_GT(shown.pixelColor(7, 17).alpha(), hidden.pixelColor(7, 17).alpha());
+}
+
+TEST_F(PasswordDialog, KeepsNothingForTheNextTime)
+{
+    for (const bool another : {false, true}) {
+        open(dialog);
+        type("abc");
+        press(Qt::Key_Tab);
+        type("abc");
+        if (another)
+            child<CLinkLabel>(dialog, "labelAdvancedMode").follow();
+        else
+            press(Qt::Key_Return);
+        EXPECT_EQ(dialog.switchToAdvanced(), another);
+        EXPECT_EQ(dialog.password().empty(), another);
+        open(dialog);
+        press(Qt::Key_Escape);
+        EXPECT_TRUE(dialog.password().empty());
+        EXPECT_FALSE(dialog.switchToAdvanced());
+    }
 }
 
 TEST_F(PasswordDialog, HandsOverToTheKeyDialogWithTheOptionsButNoPassword)
@@ -163,6 +228,8 @@ TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
     open(dialog);
     press(Qt::Key_O, Qt::AltModifier);
     EXPECT_TRUE(confirmation.hasFocus());
+    type("other");
+    const QString confirmed = confirmation.text();
     press(Qt::Key_P, Qt::AltModifier);
     type("secret");
     const QString storage = password.text();      // shares the field's characters
@@ -172,20 +239,34 @@ TEST_F(PasswordDialog, OverwritesWhatWasTypedWhenItIsCancelled)
     EXPECT_TRUE(dialog.password().empty());
     EXPECT_EQ(storage, QString(6, QChar(0)));
     EXPECT_EQ(shown, QString(6, QChar(0)));
+    EXPECT_EQ(confirmed, QString(5, QChar(0)));
     EXPECT_EQ(password.text(), QString());
     EXPECT_FALSE(password.isUndoAvailable());
+
+    auto ended = std::make_unique<CSetPasswordDialog>();
+    open(*ended);
+    type("secret");
+    const QString left = child<QLineEdit>(*ended, "lineEditPassword").text();
+    ended.reset();
+    EXPECT_EQ(left, QString(6, QChar(0)));
+}
+
+TEST_F(PasswordDialog, HasRoomForWhatIsTyped)
+{
+    open(dialog);
+    for (QLineEdit* field : {&password, &confirmation}) {
+        const QChar* storage = field->text().constData();
+        QTest::keyClicks(field, QString(100, 'x'));
+        EXPECT_EQ(field->text().constData(), storage) << "typing has left a copy behind";
+    }
 }
 
 TEST_F(PasswordDialog, KeepsWhatWasTypedWhileMinimised)
 {
     open(dialog);
     type("secret");
-    QHideEvent minimised;
-    QSpontaneKeyEvent::setSpontaneous(&minimised);
-    qApp->notify(&dialog, &minimised);
-    QShowEvent restored;
-    QSpontaneKeyEvent::setSpontaneous(&restored);
-    qApp->notify(&dialog, &restored);
+    sendFromOutside<QHideEvent>(dialog);
+    sendFromOutside<QShowEvent>(dialog);
     EXPECT_EQ(password.text(), "secret");
 }
 
@@ -197,9 +278,12 @@ TEST_F(PasswordDialog, NamesTheStrengthAndWarnsOfCapsLock)
     type("password");
     EXPECT_EQ(strength.text(), "Password strength: very weak, guessed at once.");
     EXPECT_EQ(capsLock.text(), QString());
-    QKeyEvent upperWithoutShift(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "X");
-    QApplication::sendEvent(&password, &upperWithoutShift);
-    EXPECT_EQ(capsLock.text(), "Caps Lock is on.");
+    for (QLineEdit* field : {&confirmation, &password})
+        for (const char* key : {"X", "x"}) {
+            QKeyEvent withoutShift(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, key);
+            QApplication::sendEvent(field, &withoutShift);
+            EXPECT_EQ(capsLock.text(), *key == 'X' ? "Caps Lock is on." : "");
+        }
     password.selectAll();
     press(Qt::Key_Delete);
     EXPECT_EQ(strength.text(), QString());
@@ -208,30 +292,35 @@ TEST_F(PasswordDialog, NamesTheStrengthAndWarnsOfCapsLock)
 TEST_F(PasswordDialog, TakesAGeneratedPasswordAndAsksBeforeItReplacesATypedOne)
 {
     open(dialog);
-    const auto generate = [this](std::optional<Qt::Key> answer) {
+    const auto generate = [this](Qt::Key answer) {
         QString made;
+        std::shared_ptr<bool> waiting;
         whenModal([&](QWidget& generator) {
             press(Qt::Key_G, Qt::AltModifier);
-            made = child<QLineEdit>(generator, "lineEditPassword").text();
-            made.detach(); // what the generator has is wiped
-            if (answer)
-                whenModal([answer](QWidget&) {
-                    press(*answer, *answer == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier);
-                });
+            const QString shown = child<QLineEdit>(generator, "lineEditPassword").text();
+            made = QString(shown.constData(), shown.size()); // the generator wipes what it has
+            waiting = whenModal([answer](QWidget&) {
+                press(answer, answer == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier);
+            });
             press(Qt::Key_Return);
         });
         press(Qt::Key_G, Qt::AltModifier);
         QApplication::setActiveWindow(&dialog);
-        return made;
+        return std::pair(made, !std::exchange(*waiting, false));
     };
-    const QString first = generate(std::nullopt);
+    const auto [first, askedFirst] = generate(Qt::Key_Y);
+    EXPECT_FALSE(askedFirst) << "nothing was typed";
     EXPECT_EQ(first.count(' '), 5);
     EXPECT_EQ(password.text(), first);
     EXPECT_EQ(confirmation.text(), first);
-    EXPECT_NE(generate(Qt::Key_Return), first) << "No is the default";
-    EXPECT_EQ(password.text(), first);
-    const QString second = generate(Qt::Key_Y);
+    EXPECT_TRUE(generate(Qt::Key_Return).second);
+    EXPECT_EQ(password.text(), first) << "No is the default";
+    password.clear(); // what was confirmed is typed, too
+    const auto [second, askedThen] = generate(Qt::Key_Y);
+    EXPECT_TRUE(askedThen);
     EXPECT_EQ(password.text(), second);
+    EXPECT_EQ(confirmation.text(), second);
+    EXPECT_EQ(QApplication::focusWidget(), &child(dialog, "buttonOk"));
     press(Qt::Key_Return);
     EXPECT_EQ(dialog.password().view(), second.toStdString());
 }

@@ -15,6 +15,13 @@ namespace {
 // Where the elements stand: <TS><context><name/><message><source/><translation/></message></context></TS>
 enum Depth { Root = 1, Context, ContextName, Message = ContextName, Text, Form };
 
+/// No language has more plural forms. Each is handed over with its source text: without a bound a small file
+/// could fill the memory.
+constexpr std::size_t MostForms = 6;
+
+/// Characters; contexts are names of classes, and handed over with each of their texts.
+constexpr int MostOfContext = 1000;
+
 /// Follows the tokens of the file and hands over each finished message at its end.
 class MessageReader
 {
@@ -23,7 +30,9 @@ public:
 
     void onToken(XmlFile& xml)
     {
-        if (xml.reader().isStartElement())
+        if (m_forms.size() > MostForms || m_context.size() > MostOfContext)
+            xml.reject();
+        else if (xml.reader().isStartElement())
             onStart(xml);
         else if (xml.reader().isCharacters() && m_target != nullptr)
             m_target->append(xml.reader().text());

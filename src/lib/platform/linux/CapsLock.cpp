@@ -1,19 +1,19 @@
 #include "lib/platform/CapsLock.h"
 
-#include <filesystem>
+#include "lib/platform/linux/CapsLight.h"
+
 #include <fstream>
 #include <string_view>
 
 namespace tessaly::platform {
 
-// The kernel shows each keyboard's light to everyone, under X11 and Wayland alike.
-std::optional<bool> capsLockOn()
+std::optional<bool> capsLightOn(const std::filesystem::path& lights)
 {
     constexpr std::string_view Suffix = "::capslock";
     std::optional<bool> on;
     std::error_code error;
     // Stepped by hand: a keyboard unplugged meanwhile must not throw.
-    std::filesystem::directory_iterator light("/sys/class/leds", error);
+    std::filesystem::directory_iterator light(lights, error);
     for (; light != std::filesystem::directory_iterator(); light.increment(error)) {
         if (!light->path().native().ends_with(Suffix))
             continue;
@@ -22,6 +22,12 @@ std::optional<bool> capsLockOn()
             on = on.value_or(false) || brightness > 0;
     }
     return on;
+}
+
+// The kernel shows each keyboard's light to everyone, under X11 and Wayland alike.
+std::optional<bool> capsLockOn()
+{
+    return capsLightOn("/sys/class/leds");
 }
 
 } // namespace tessaly::platform

@@ -78,7 +78,11 @@ ResultCode closeStandardOutput()
 
 std::FILE* openBytes(const std::string& path)
 {
-    return std::fopen(path.c_str(), "rb");
+    std::FILE* file = nullptr;
+    do
+        file = std::fopen(path.c_str(), "rb");
+    while (!file && errno == EINTR && !Interrupts::happened());
+    return file;
 }
 
 FileStatus standardInputStatus()

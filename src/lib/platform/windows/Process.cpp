@@ -3,6 +3,7 @@
 #include "lib/platform/Path.h"
 #include "lib/platform/windows/AccessList.h"
 #include "lib/platform/windows/SystemCall.h"
+#include "lib/platform/windows/SystemFunction.h"
 
 #include <aclapi.h>
 #include <sddl.h>
@@ -27,14 +28,12 @@ bool closeToOthers()
     return done != FALSE;
 }
 
-/// Of crashes, which may go to the maker of the system. The header with the call's declaration does not
-/// compile with every version of our compiler.
+/// Of crashes, which may go to the maker of the system.
 bool keepHeapOutOfReports()
 {
-    using SetFlags = HRESULT(WINAPI*)(DWORD);
+    using SetFlags = HRESULT WINAPI(DWORD);
     constexpr DWORD NoHeap = 1;
-    const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "WerSetFlags");
-    const auto setFlags = reinterpret_cast<SetFlags>(reinterpret_cast<void*>(found));
+    auto* const setFlags = systemFunction<SetFlags>(L"kernel32.dll", "WerSetFlags");
     return setFlags != nullptr && SUCCEEDED(setFlags(NoHeap));
 }
 

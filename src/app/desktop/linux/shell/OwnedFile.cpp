@@ -91,7 +91,7 @@ bool OwnedFile::write(const std::string& content, bool executable) const
         return true;
     QSaveFile file(path);
     return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(content.data(), static_cast<qint64>(content.size())) >= 0 &&
+           file.write(content.data(), static_cast<qint64>(content.size())) >= 0 && file.flush() &&
            file.setPermissions(executable ? PlainBits | ExecutableBits : PlainBits) && file.commit();
 }
 

@@ -21,8 +21,8 @@ namespace thisapp::desktop {
 namespace {
 
 constexpr qint64 MaxSize = 1 << 20; ///< bytes; the user may have many actions
-constexpr QLatin1String FileName("/Thunar/uca.xml");
-constexpr QLatin1String IdKey("unique-id");
+const QLatin1String FileName("/Thunar/uca.xml");
+const QLatin1String IdKey("unique-id");
 
 /// The children of an action that tell it from another version of itself.
 using Facts = std::map<QString, QString>;
@@ -202,7 +202,8 @@ bool ThunarActions::store(const QString& xml) const
     const QByteArray bytes = xml.toUtf8();
     QSaveFile file(m_path); // writes through a symbolic link, and keeps the permissions
     return QDir().mkpath(QFileInfo(m_path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes) == bytes.size() && file.commit();
+           file.write(bytes) == bytes.size() && file.flush() &&
+           file.commit(); // commit() overlooks a failed flush
 }
 
 bool ThunarActions::write(const std::string& program) const

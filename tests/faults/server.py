@@ -1,0 +1,128 @@
+"""CALLS: what may fail. Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one
+call failing in each run, and counts runs and complaints in a table of jobs and calls."""
+
+import collections
+import errno
+import os
+import subprocess
+import tempfile
+
+# What may happen at a call: an error, or one of these, which are those of failing_calls.cpp.
+NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON, DONE = 0, -1, -2, -3, -4, -5
+WAYS = {NOTHING: "nothing done", SHORT: "half done", KILL_BEFORE: "killed before", KILL_AFTER: "killed after",
+        FROM_THERE_ON: "no memory from there on", DONE: "done", **errno.errorcode}
+
+# In what ways each call may fail, and whether it may matter. A call that a signal interrupts is made again.
+CALLS = {
+    "open": {errno.EMFILE: True, errno.EACCES: True, errno.EIO: True, errno.EINTR: False},
+    "read": {errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
+    "write": {errno.ENOSPC: True, errno.EDQUOT: True, errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
+    "fsync": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
+    "close": {errno.EIO: True, errno.EINTR: False},
+    "rename": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
+    "link": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
+    "unlink": {errno.EIO: True, errno.EINTR: False},
+    "stat": {errno.EIO: True, errno.EACCES: True},
+    "lseek": {errno.EIO: True},
+    "mmap": {errno.ENOMEM: True},
+    "getrandom": {errno.EIO: True, errno.EINTR: False},
+    "pthread_create": {errno.EAGAIN: True},
+    "malloc": {errno.ENOMEM: True, FROM_THERE_ON: True},
+    "fallocate": {errno.ENOSPC: True, errno.EOPNOTSUPP: False, errno.EINTR: False},
+    "flock": {errno.ENOLCK: False, errno.EINTR: False},
+    "fchmod": {errno.EPERM: True},
+    "poll": {errno.ENOMEM: True, errno.EINTR: False},
+    "readdir": {NOTHING: False},
+    "any": {KILL_BEFORE: True, KILL_AFTER: True},
+}
+
+Run = collections.namedtuple("Run", "status calls told out")
+
+
+class Server:
+    """The program with these arguments, in a folder of its own below one for its standard streams."""
+
+    def __init__(self, library, command, folder, stdin=os.devnull, without="", environment=(), later=False):
+        self.folder = folder
+        streams = os.path.dirname(folder)
+        self.streams = {name: os.path.join(streams, name) for name in ("stdin", "stdout", "stderr")}
+        if os.path.lexists(self.streams["stdin"]):
+            os.remove(self.streams["stdin"])
+        os.symlink(stdin, self.streams["stdin"])
+        order, orders = os.pipe()
+        answers, answer = os.pipe()
+        variables = {**os.environ, **dict(environment), "LD_PRELOAD": library, "FAULTS_FROM": str(order),
+                     "FAULTS_TO": str(answer), "FAULTS_WITHOUT": without, **({"FAULTS_LATER": "1"} if later else {})}
+        self.process = subprocess.Popen(command, cwd=folder, env=variables, pass_fds=(order, answer),
+                                        stdin=subprocess.DEVNULL)
+        os.close(order)
+        os.close(answer)
+        self.orders = os.fdopen(orders, "w", buffering=1)
+        self.answers = os.fdopen(answers)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.orders.close()
+        self.answers.close()
+        self.process.wait()
+
+    def run(self, call="none", at=0, way=NOTHING, threads="all", first=""):
+        self.orders.write(f"{call} {at} {way} {threads} {first}\n")
+        status, calls = map(int, self.answers.readline().split())
+        return Run(status, calls, read(self.streams["stderr"]).decode(errors="replace"), read(self.streams["stdout"]))
+
+
+class Table:
+    """Runs and complaints, by job and call."""
+
+    def __init__(self):
+        self.runs = collections.Counter()
+        self.complaints = collections.Counter()
+
+    def add(self, job, call, way, at, run, problem):
+        self.runs[job, call] += 1
+        if problem:
+            self.complaints[job, call] += 1
+            print(f"{job}: {call} #{at}, {WAYS.get(way, way)}: {problem}: {run.told.strip()}", flush=True)
+
+    def show(self):
+        """True when nothing failed."""
+        calls = list(dict.fromkeys(call for _, call in self.runs))
+        jobs = list(dict.fromkeys(job for job, _ in self.runs))
+        width = max(map(len, jobs)) + 1
+        print("runs".ljust(width), *(call[:9].rjust(9) for call in calls), "    total failures")
+        for job in jobs:
+            of_job = [self.runs[job, call] for call in calls]
+            failures = sum(self.complaints[job, call] for call in calls)
+            print(job.ljust(width), *(str(runs).rjust(9) for runs in of_job), str(sum(of_job)).rjust(9),
+                  str(failures).rjust(8))
+        print(f"{sum(self.runs.values())} runs, {sum(self.complaints.values())} failures")
+        return not any(self.complaints.values())
+
+
+def sweep(run, job, call, way, judge, table, step=1, threads="all"):
+    """Lets the n-th call fail for every n, or every step-th, until there is none."""
+    at = 1
+    while True:
+        done = run(call, at, way, threads)
+        if done.calls < at:
+            return
+        table.add(job, call if threads == "all" else f"{call} of {threads}", way, at, done, judge(done))
+        at += step
+
+
+def scratch():
+    """A folder in memory, where there is one."""
+    return tempfile.TemporaryDirectory(dir="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
+
+
+def read(name):
+    with open(name, "rb") as file:
+        return file.read()
+
+
+def write(name, data):
+    with open(name, "wb") as file:
+        file.write(data)

@@ -1,0 +1,327 @@
+#!/usr/bin/python3
+"""canaries.py QUILLET QUILLET_CLI: gives passwords, keys and initialisation vectors to both programs in every
+place that takes them, and looks for them afterwards: in all the memory of the program, which it is held at its end
+for, in what it wrote (log at its highest level, settings, messages) and in its arguments. Runs on an X server and a
+bus of its own, with accessibility on. Libraries are bound at the start: where a function is called for the first
+time, the loader would save the registers on the stack, which nobody can wipe."""
+import os
+import pty
+import random
+import re
+import signal
+import subprocess
+import sys
+import tempfile
+import termios
+import time
+
+from screen import PATIENCE, Screen, eventually
+from traced import Traced
+
+if "QUILLET_CANARIES" not in os.environ:
+    sys.exit(subprocess.run(
+        ["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--", sys.executable,
+         "-B", *sys.argv], env=os.environ | {"QUILLET_CANARIES": "1", "LD_BIND_NOW": "1"}, timeout=580).returncode)
+
+QUILLET, CLI = sys.argv[1:]
+ENCODINGS = ("utf-8", "utf-16-le", "utf-32-le")
+UNDO = 16  # bytes of an entry of the toolkit's undo history, which begins with the letter
+
+
+# Every eight letters or bytes of a canary begin with these, by which a search is soon through.
+LETTERS, BYTES = "qzx", b"\xf1\x7e\xc3"
+
+
+class Canary:
+    """A secret that is nowhere else, as text or as bytes, and what a copy of any part of it would show."""
+
+    def __init__(self, text=None, size=0):
+        self.text, self.forms = text, []
+        pieces = [(text[at:at + 8]) for at in range(0, len(text) - 7, 8)] if text else [
+            BYTES + random.randbytes(5) for _ in range(size // 8)]
+        if text is None:
+            self.text = b"".join(pieces).hex()
+            self.forms = [("bytes", BYTES, piece) for piece in pieces]
+        digits = [(piece if text is None else piece.encode())[:4].hex() for piece in pieces]
+        for piece in (pieces if text else []) + digits + [digit.upper() for digit in digits]:
+            for encoding in ENCODINGS:
+                form = piece.encode(encoding)
+                self.forms.append((f"{piece} in {encoding}", form[:len(form) * 3 // 8], form))
+        letters = self.text[:8].encode("utf-16-le")
+        entry = b".{%d}" % (UNDO - 2)
+        self.spread = re.compile(entry.join(re.escape(letters[at:at + 2]) for at in range(0, 16, 2)), re.DOTALL)
+
+    def seen_in(self, content):
+        begun = {start: start in content for start in {start for _, start, _ in self.forms}}
+        seen = [name for name, start, form in self.forms if begun[start] and form in content]
+        return seen + (["spread over entries"] if self.spread.search(content) else [])
+
+
+def password():
+    return Canary("".join(LETTERS + "".join(random.choices("abcdefghijklmnopqrstuvwxyz0123456789", k=5)) for _ in range(3)))
+
+
+def copies(program, canaries):
+    """Where the program has them in its memory."""
+    return [f"{form} at {where}" for where, content in program.read() for canary in canaries
+            for form in canary.seen_in(content)]
+
+
+class Report:
+    def __init__(self):
+        self.faults = 0
+
+    def tell(self, place, found):
+        print(f"{place}: {'clean' if not found else ', '.join(found[:8])}", flush=True)
+        self.faults += bool(found)
+
+    def await_clean(self, place, program, *canaries):
+        """The last of them go when the event loop comes to it."""
+        end = time.monotonic() + 10
+        while (found := copies(program, canaries)) and time.monotonic() < end:
+            program.poll()
+        self.tell(place, found)
+
+    def written(self, place, folder, canaries):
+        found = []
+        for path in (os.path.join(parent, name) for parent, _, names in os.walk(folder) for name in names):
+            if os.path.isfile(path) and not path.endswith((".key", ".password")):
+                with open(path, "rb") as stream:
+                    content = stream.read()
+                found += [f"{form} in {path}" for canary in canaries for form in canary.seen_in(content)]
+        self.tell(place, found)
+
+
+# The console
+
+def write(path, text):
+    with open(path, "w") as stream:
+        stream.write(text)
+    return path
+
+
+def console_cases(home, right, wrong, key, iv):
+    """What is asked of the console, the canaries that it gets, what it is told on its way, and its exit code."""
+    files = {name: write(f"{home}/{name}.password", canary.text + "\n") for name, canary in
+             (("right", right), ("wrong", wrong))}
+    keys = ["--key-file", write(f"{home}/k.key", key.text), "--iv-file", write(f"{home}/iv.key", iv.text)]
+    letter = f"{home}/letter"
+    for seal in ([], ["--seal"]):
+        out = letter + "".join(seal)
+        kind = "sealed" if seal else "plain"
+        yield f"{kind} encryption", ["encrypt", *seal, "--password-file", files["right"], "-o", out + ".p", letter], [right], None, 0
+        yield f"{kind} decryption", ["decrypt", "--password-file", files["right"], "-o", out + ".d", out + ".p"], [right], None, 0
+        yield f"{kind}, wrong password", ["decrypt", "--password-file", files["wrong"], "-o", out + ".w", out + ".p"], [right, wrong], None, 3
+        yield f"{kind}, by key", ["encrypt", *seal, *keys, "-o", out + ".k", letter], [key, iv], None, 0
+    yield "typed", ["encrypt", "-o", f"{home}/typed", letter], [right], [right.text + "\n", right.text + "\n"], 0
+    yield "typed, other confirmation", ["encrypt", "-o", f"{home}/no", letter], [right, wrong], [right.text + "\n", wrong.text + "\n"], 1
+    yield "stopped while it is typed", ["encrypt", "-o", f"{home}/no", letter], [right], [right.text + "\n", right.text[:20] + "\x03"], 130
+    yield "stopped at work", ["encrypt", "--password-file", files["right"], "-o", f"{home}/no", "-"], [right], signal.SIGINT, 130
+
+
+def answer_prompts(master, answers):
+    shown = b""
+    for answer in answers:
+        while not re.search(rb"assword: $", shown):
+            shown += os.read(master, 1000)
+        shown = b""
+        os.write(master, answer.encode())
+
+
+def run_console(report, home):
+    right, wrong, key, iv = password(), password(), Canary(size=32), Canary(size=16)
+    with open(f"{home}/letter", "wb") as stream:
+        stream.write(random.randbytes(300000))
+    for place, arguments, canaries, told, expected in console_cases(home, right, wrong, key, iv):
+        master, terminal = pty.openpty()
+        settings = termios.tcgetattr(terminal)
+        settings[1] &= ~termios.OPOST
+        termios.tcsetattr(terminal, termios.TCSANOW, settings)
+        at_work = isinstance(told, signal.Signals)
+        with open(f"{home}/messages", "ab") as messages:
+            program = Traced([CLI, *arguments], terminal=terminal, stdin=subprocess.PIPE if at_work else terminal,
+                             stdout=messages, stderr=messages)
+        if at_work:
+            program.process.stdin.write(bytes(1 << 20))  # more than a pipe holds: it has been read
+            program.send(told)
+        elif told:
+            answer_prompts(master, told)
+        program.hold_at_end()
+        report.await_clean("console, " + place, program, *canaries)
+        if (code := program.end()) != expected:
+            report.tell(f"console, {place}", [f"ended with {code}"])
+        os.close(master)
+        os.close(terminal)
+    report.written("console, files and messages", home, [right, wrong, key, iv])
+
+
+# The window
+
+class Window:
+    def __init__(self, report, home, screen):
+        self.report, self.home, self.screen = report, home, screen
+        self.right, self.seen = password(), []
+        write(f"{home}/right.password", self.right.text)
+        letter = write(f"{home}/plain", "x" * 5000)
+        for name, seal in (("letter", []), ("sealed", ["--seal"])):
+            subprocess.run([CLI, "encrypt", "-q", *seal, "--password-file", f"{home}/right.password", "-o",
+                            f"{home}/{name}", letter], check=True, timeout=PATIENCE)
+
+    def start(self, name):
+        os.makedirs(f"{self.home}/Tessaly", exist_ok=True)
+        write(f"{self.home}/Tessaly/Quillet.conf", "[General]\nUseLogFile=true\nLogLevel=6\n")
+        with open(f"{self.home}/messages", "ab") as messages:
+            self.program = Traced([QUILLET, f"{self.home}/{name}"], stdout=messages, stderr=messages, env=os.environ | {
+                "HOME": self.home, "TMPDIR": self.home, "XDG_CONFIG_HOME": self.home, "XDG_DATA_HOME": self.home,
+                "XDG_STATE_HOME": self.home, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "LC_ALL": "C.UTF-8"})
+        self.name = name
+        self.main = self.screen.await_window(f"{name} - Quillet")
+
+    def check(self, place, *canaries):
+        self.seen += canaries
+        self.report.await_clean("window, " + place, self.program, *canaries)
+
+    def open(self, key, title):
+        self.screen.focus(self.main)
+        self.screen.key(key)
+        return self.screen.await_window(title)
+
+    def await_typed(self, *canaries):
+        """Else nothing would be found whatever it leaves behind."""
+        eventually(lambda: all(copies(self.program, [canary]) for canary in canaries), "nothing of what was typed")
+
+    def away(self, way, dialog, title):
+        if way == "close":
+            self.screen.close(dialog)
+        elif way == "Cancel":
+            self.screen.click_last_button(dialog)
+        else:
+            self.screen.key(way)
+        self.screen.await_gone(title)
+
+    def await_end(self):
+        """The title has a percentage while a job runs."""
+        eventually(lambda: not self.screen.find("% - "), "the job does not end")
+
+    def remove_output(self):
+        output = f"{self.home}/{self.name}.enc"
+        eventually(lambda: os.path.exists(output), f"no output {output}")
+        self.await_end()
+        os.remove(output)
+
+    # What is filled in where
+
+    def encryption(self, shown=False):
+        dialog, secret = self.open("F5", "Password to encrypt"), password()
+        if shown:
+            self.screen.key("s", "Alt_L")
+            self.screen.key("p", "Alt_L")
+        self.screen.type(secret.text)
+        self.screen.key("Tab")
+        self.screen.type(secret.text)
+        self.await_typed(secret)
+        return dialog, "Password to", [secret]
+
+    def shown_encryption(self):
+        return self.encryption(True)
+
+    def decryption(self, secret=None):
+        dialog, secret = self.open("F6", "Password to decrypt"), secret or password()
+        self.screen.type(secret.text)
+        self.await_typed(secret)
+        return dialog, "Password to", [secret]
+
+    def key_and_iv(self):
+        """By way of a password that is typed and left."""
+        _, _, secrets = self.encryption()
+        self.screen.key("p", "Alt_L")
+        for _ in range(3):
+            self.screen.key("Tab", "Shift_L")
+        self.screen.key("space")
+        dialog, key, iv = self.screen.await_window("Key and IV"), Canary(size=32), Canary(size=16)
+        self.screen.type(iv.text)
+        self.screen.key("Tab")
+        self.screen.type(key.text)
+        self.await_typed(key, iv)
+        return dialog, "Key and IV", [*secrets, key, iv]
+
+    def generator(self):
+        outer = self.open("F5", "Password to encrypt")
+        self.screen.key("g", "Alt_L")
+        dialog = self.screen.await_window("Generate a password")
+        self.screen.key("m", "Alt_L")
+        self.screen.key("Down")  # no words, which are in a list
+        self.screen.key("c", "Alt_L")
+        secret = Canary(eventually(self.screen.clipboard, "nothing on the clipboard"))
+        self.await_typed(secret)
+        self.screen.take_clipboard()
+        return dialog, "Generate a password", [secret], outer
+
+    # The places
+
+    def leave(self):
+        for fill in (self.encryption, self.shown_encryption, self.decryption, self.key_and_iv):
+            for way in ("Escape", "Cancel", "close"):
+                dialog, title, secrets = fill()
+                self.away(way, dialog, title)
+                self.check(f"{fill.__name__.replace('_', ' ')} left by {way}", *secrets)
+
+    def generate(self):
+        for way in ("Return", "Escape", "close"):
+            dialog, title, secrets, outer = self.generator()
+            self.away(way, dialog, title)
+            self.screen.focus(outer)
+            self.away("Escape", outer, "Password to")
+            self.check(f"generator left by {way}", *secrets)
+
+    def accept(self):
+        """The output's name is proposed when the window opens, and stays."""
+        for place, fill in (("encryption", self.encryption), ("key and IV", self.key_and_iv),
+                            ("decryption", lambda: self.decryption(self.right))):
+            _, title, secrets = fill()
+            self.away("Return", None, title)
+            self.remove_output()
+            self.check(f"{place} of {self.name} done", *secrets)
+        _, title, secrets = self.decryption()
+        self.away("Return", None, title)
+        self.await_end()
+        self.check(f"decryption of {self.name}, wrong password", *secrets)
+
+    def stop(self):
+        _, title, secrets = self.decryption()
+        self.away("Return", None, title)
+        main = eventually(lambda: self.screen.find("% - "), "no job")
+        self.screen.focus(main)
+        self.screen.key("F8")
+        self.await_end()
+        self.check("stopped at work", *secrets)
+
+    def end(self, place, *canaries):
+        self.seen += canaries
+        self.program.send(signal.SIGTERM)
+        self.program.hold_at_end()
+        self.check(place, *canaries)
+        self.program.end()
+
+
+def run_window(report, home):
+    window = Window(report, home, Screen())
+    window.start("letter")
+    window.leave()
+    window.generate()
+    window.accept()
+    _, _, secrets = window.key_and_iv()
+    window.end("ended while a dialog is open", *secrets)
+    window.start("sealed")
+    window.accept()
+    window.stop()
+    window.end("ended")
+    report.written("window, files and messages", home, window.seen)
+
+
+with tempfile.TemporaryDirectory() as console, tempfile.TemporaryDirectory() as windowed:
+    report = Report()
+    run_console(report, console)
+    run_window(report, windowed)
+    print(f"faults: {report.faults}")
+    sys.exit(report.faults > 0)

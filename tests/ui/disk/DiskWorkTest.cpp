@@ -1,0 +1,55 @@
+#include "support/NewThreads.h"
+#include "ui/Widgets.h"
+#include "ui/disk/CDiskWork.h"
+
+#include <new>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+template <class T>
+bool isReady(const std::shared_future<T>& answer)
+{
+    return answer.wait_for(0ms) == std::future_status::ready;
+}
+
+TEST(DiskWork, WaitsForTheAnswerThatIsMeantAndTellsNoneBeforeItIsThere)
+{
+    CDiskWork disk;
+    std::promise<void> gate;
+    const auto late = disk.start<int>([open = gate.get_future().share()] {
+        open.wait();
+        return 2;
+    });
+    int told = 0;
+    std::shared_future<int> early;
+    QObject::connect(&disk, &CDiskWork::notifyAnswered, [&] {
+        EXPECT_TRUE(isReady(++told == 1 ? early : late));
+        if (told == 1)
+            QTimer::singleShot(0, [&gate] { gate.set_value(); });
+    });
+    EXPECT_FALSE(CDiskWork::waitBriefly(late));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 0);
+    early = disk.start<int>([] { return 1; });
+    EXPECT_TRUE(disk.wait(late));
+    EXPECT_EQ(late.get() * 10 + early.get(), 21);
+    EXPECT_TRUE(comesTrue([&told] { return told == 2; }));
+}
+
+TEST(DiskWork, AnswersWithoutAThreadAndAfterAnException)
+{
+    CDiskWork disk;
+    int told = 0;
+    QObject::connect(&disk, &CDiskWork::notifyAnswered, [&told] { ++told; });
+    const auto failed = disk.start<int>([]() -> int { throw std::bad_alloc(); });
+    ASSERT_TRUE(disk.wait(failed));
+    EXPECT_EQ(failed.get(), 0);
+    const test::NewThreads none([] { return false; });
+    const auto answer = disk.start<int>([] { return 7; });
+    EXPECT_TRUE(isReady(answer) && answer.get() == 7);
+    EXPECT_TRUE(comesTrue([&told] { return told == 2; }));
+}
+
+} // namespace
