@@ -9,7 +9,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool exists(const fs::path& path)
+bool isThere(const fs::path& path)
 {
     std::error_code ignored;
     return fs::exists(path, ignored);
@@ -18,13 +18,13 @@ bool exists(const fs::path& path)
 } // namespace
 
 EntryOwnership::EntryOwnership(fs::path program)
-    : m_program(std::move(program)), m_isBuilt(exists(m_program.parent_path() / "../CMakeCache.txt"))
+    : m_program(std::move(program)), m_isBuilt(isThere(m_program.parent_path() / "../CMakeCache.txt"))
 {
 }
 
 bool EntryOwnership::mayChange(const fs::path& startedNow) const
 {
-    return !m_isBuilt || startedNow.empty() || startedNow == m_program || !exists(startedNow);
+    return !m_isBuilt || startedNow.empty() || startedNow == m_program || !isThere(startedNow);
 }
 
 } // namespace thisapp::desktop

@@ -39,7 +39,7 @@ CWindowPlace::~CWindowPlace() = default;
 
 void CWindowPlace::takeNumber()
 {
-    const QDir folder(desktop::sessionFolder());
+    const QDir folder(thisapp::desktop::sessionFolder());
     for (m_number = 0; m_number < MostNumbers; ++m_number) {
         m_turn = std::make_unique<QLockFile>(
             folder.filePath(QStringLiteral("quillet-window-%1.lock").arg(m_number)));

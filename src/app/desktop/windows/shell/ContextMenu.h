@@ -6,9 +6,9 @@
 
 namespace thisapp::desktop {
 
-/// The submenu "Quillet" of a file's context menu in Explorer: the key HKEY_CURRENT_USER\Software\Classes\
-/// *\shell\Quillet, which is ours as a whole. It is offered for a single file, as each of several would start
-/// a program of its own; several files go through the send-to menu.
+/// The submenu "Quillet" of a file's context menu in Explorer. Its key, "Quillet" below
+/// Software\Classes\*\shell of the current user, is ours as a whole. It is offered for a single file, as each
+/// of several would start a program of its own; several files go through the send-to menu.
 class ContextMenu
 {
 public:
