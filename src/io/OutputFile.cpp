@@ -39,7 +39,7 @@ ResultCode OutputFile::create(const platform::Access& access, platform::File& fi
 {
     if (m_kind == Kind::Hidden)
         return createHidden(access, file);
-    const ResultCode created = m_place->folder().createNameless(access, file);
+    const ResultCode created = m_place->folder().createNameless(HiddenName::fresh(), access, file);
     if (platform::isUnsupported(created))
         return createHidden(access, file);
     return created.ok() ? file.status(m_status) : created;

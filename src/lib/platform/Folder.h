@@ -35,9 +35,10 @@ public:
     FileStatus status(const std::filesystem::path& name) const;
     ResultCode openForReading(const std::filesystem::path& name, File& file) const;
 
-    /// A file that no name leads to and that ends with its handle. Unsupported where the file system
-    /// has no such thing.
-    ResultCode createNameless(const Access& access, File& file) const;
+    /// A file that no name leads to and that ends with its handle, until link gives it one. Unsupported
+    /// where the file system has no such thing. Where every file has a name, it is called `standIn`, which
+    /// nobody can open; only a loss of power leaves it behind.
+    ResultCode createNameless(const std::filesystem::path& standIn, const Access& access, File& file) const;
     /// Fails when anything stands there, a dangling link included.
     ResultCode createNew(const std::filesystem::path& name, const Access& access, File& file) const;
     /// Gives a nameless file a name; fails when anything stands there.

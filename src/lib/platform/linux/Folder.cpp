@@ -135,7 +135,7 @@ ResultCode Folder::openForReading(const fs::path& name, File& file) const
     return {};
 }
 
-ResultCode Folder::createNameless(const Access& access, File& file) const
+ResultCode Folder::createNameless(const fs::path&, const Access& access, File& file) const
 {
     File created;
     created.m_handle =

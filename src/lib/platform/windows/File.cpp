@@ -160,6 +160,9 @@ ResultCode File::seekToEnd() const
 
 ResultCode File::reserve(std::int64_t size) const
 {
+    LARGE_INTEGER present = {};
+    if (!::GetFileSizeEx(toHandle(m_handle), &present) || size <= present.QuadPart)
+        return {}; // less room than it has would shorten it
     FILE_ALLOCATION_INFO info = {};
     info.AllocationSize.QuadPart = size;
     if (::SetFileInformationByHandle(toHandle(m_handle), FileAllocationInfo, &info, sizeof info))

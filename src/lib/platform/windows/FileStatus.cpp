@@ -53,7 +53,10 @@ ResultCode handleStatus(HANDLE file, FileStatus& status)
         status.device = id.VolumeSerialNumber;
         status.inode = folded(id.FileId);
     }
-    status.hardLinks = info.nNumberOfLinks;
+    FILE_STANDARD_INFO standard = {};
+    const bool isKnown =
+        ::GetFileInformationByHandleEx(file, FileStandardInfo, &standard, sizeof standard) != FALSE;
+    status.hardLinks = isKnown && standard.DeletePending ? 0 : info.nNumberOfLinks;
     status.size = static_cast<std::int64_t>(joined(info.nFileSizeHigh, info.nFileSizeLow));
     // In units of 100 ns; unsigned, because the product may overflow.
     status.modifiedNs = static_cast<std::int64_t>(

@@ -168,11 +168,6 @@ ResultCode Folder::openForReading(const fs::path& name, File& file) const
     return {};
 }
 
-ResultCode Folder::createNameless(const Access&, File&) const
-{
-    return systemError(ERROR_NOT_SUPPORTED);
-}
-
 ResultCode Folder::createNew(const fs::path& name, const Access& access, File& file) const
 {
     if (name.empty() || isMisread(name))
@@ -205,9 +200,32 @@ ResultCode Folder::createNew(const fs::path& name, const Access& access, File& f
     return {};
 }
 
-ResultCode Folder::link(const File&, const fs::path&) const
+/// Its name goes with its last handle, however the process ends.
+ResultCode Folder::createNameless(const fs::path& standIn, const Access& access, File& file) const
 {
-    return systemError(ERROR_NOT_SUPPORTED); // there are no nameless files
+    File created;
+    if (const ResultCode result = createNew(standIn, access, created); !result.ok())
+        return result;
+    if (!endWithHandle(toHandle(created.m_handle), true).ok()) {
+        (void)created.close();
+        (void)remove(standIn);
+        return systemError(ERROR_NOT_SUPPORTED);
+    }
+    file = std::move(created);
+    return {};
+}
+
+ResultCode Folder::link(const File& file, const fs::path& name) const
+{
+    if (name.empty() || isMisread(name))
+        return systemError(ERROR_INVALID_NAME);
+    const HANDLE nameless = toHandle(file.m_handle);
+    ResultCode result = endWithHandle(nameless, false);
+    if (result.ok())
+        result = renameEntry(nameless, toHandle(m_handle), name, false);
+    if (!result.ok())
+        (void)endWithHandle(nameless, true);
+    return result;
 }
 
 ResultCode Folder::renameToNew(const fs::path& from, const fs::path& to) const

@@ -91,7 +91,12 @@ ResultCode removeOpened(HANDLE file)
     DWORD flags = Delete | DeleteAtOnce;
     if (::SetFileInformationByHandle(file, DispositionInfoEx, &flags, sizeof flags))
         return {};
-    FILE_DISPOSITION_INFO info = {TRUE};
+    return endWithHandle(file, true);
+}
+
+ResultCode endWithHandle(HANDLE file, bool ends)
+{
+    FILE_DISPOSITION_INFO info = {ends};
     return outcome(::SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof info));
 }
 

@@ -29,6 +29,9 @@ ResultCode renameEntry(HANDLE entry, HANDLE folder, const std::wstring& name, bo
 /// handle elsewhere.
 ResultCode removeOpened(HANDLE file);
 
+/// Whether what is open with the right DELETE is removed with its last handle; nobody else can open it then.
+ResultCode endWithHandle(HANDLE file, bool ends);
+
 /// Calls for each name, until that gives false.
 void forEachEntry(HANDLE folder, const std::function<bool(const std::wstring&)>& use);
 

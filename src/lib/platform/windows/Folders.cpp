@@ -1,5 +1,6 @@
 #include "lib/platform/Folders.h"
 
+#include "lib/platform/Folder.h"
 #include "lib/platform/Path.h"
 #include "lib/platform/windows/AccessList.h"
 #include "lib/platform/windows/FileStatus.h"
@@ -38,6 +39,9 @@ ResultCode create(const std::filesystem::path& path, SECURITY_ATTRIBUTES* access
         if (const ResultCode result = create(parent, access); !result.ok())
             return result;
     const ResultCode made = outcome(::CreateDirectoryW(systemPath(path).c_str(), access));
+    Folder in;
+    if (made.ok() && in.openParentOf(path).ok())
+        (void)in.sync();
     return made.ok() || isFolder(path) ? ResultCode{} : made;
 }
 
@@ -67,7 +71,7 @@ ResultCode createPrivateFolders(const std::string& path)
 
 ResultCode createFolders(const std::string& path)
 {
-    return create(pathFromWide(widePath(path)), nullptr); // the system's journal has it
+    return create(pathFromWide(widePath(path)), nullptr);
 }
 
 } // namespace tessaly::platform

@@ -27,8 +27,10 @@ std::chrono::seconds utcOffset(std::chrono::system_clock::time_point moment)
     SYSTEMTIME utc = {};
     SYSTEMTIME local = {};
     FILETIME localTime = {};
+    TIME_ZONE_INFORMATION zone = {}; // its rules change from year to year
     if (steps < 0 || !::FileTimeToSystemTime(&time, &utc) ||
-        !::SystemTimeToTzSpecificLocalTimeEx(nullptr, &utc, &local) ||
+        !::GetTimeZoneInformationForYear(utc.wYear, nullptr, &zone) ||
+        !::SystemTimeToTzSpecificLocalTime(&zone, &utc, &local) ||
         !::SystemTimeToFileTime(&local, &localTime))
         return std::chrono::seconds(0);
     return std::chrono::seconds((stepsOf(localTime) - steps) / StepsPerSecond);

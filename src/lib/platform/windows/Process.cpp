@@ -6,6 +6,8 @@
 #include "lib/platform/windows/SystemFunction.h"
 
 #include <aclapi.h>
+#include <memory>
+#include <new>
 #include <sddl.h>
 #include <shellapi.h>
 
@@ -65,11 +67,13 @@ bool disableCoreDumps()
 std::vector<std::string> programArguments(int, char**)
 {
     int count = 0;
-    LPWSTR* words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    const std::unique_ptr<LPWSTR, decltype(&::LocalFree)> words(
+        ::CommandLineToArgvW(::GetCommandLineW(), &count), &::LocalFree);
+    if (!words)
+        throw std::bad_alloc();
     std::vector<std::string> arguments;
-    for (int i = 1; words != nullptr && i < count; ++i)
-        arguments.push_back(nativePath(words[i]));
-    ::LocalFree(words);
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(nativePath(words.get()[i]));
     return arguments;
 }
 

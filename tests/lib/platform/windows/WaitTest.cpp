@@ -1,6 +1,6 @@
+#include "lib/platform/windows/Wait.h"
 #include "lib/platform/StandardStreams.h"
 #include "lib/platform/windows/SystemCall.h"
-#include "lib/platform/windows/Wait.h"
 
 #include <gtest/gtest.h>
 
