@@ -23,7 +23,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(ENV{PKG_CONFIG_LIBDIR} ${cache}/prefix/lib/pkgconfig)
 
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/wine.sh)
-set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -L${cache}/prefix/lib")
 # GCC aligns the stack to 16 bytes on Windows and yet moves 32 as if they were aligned (its bug 54412): the assembler
 # makes these moves indifferent to it.
 set(CMAKE_C_FLAGS_INIT -Wa,-muse-unaligned-vector-move)
