@@ -94,7 +94,7 @@ def refuse_reserved_names():
         print(f"refused: {told.strip()}")
 
 
-with tempfile.TemporaryDirectory() as scratch:
+with tempfile.TemporaryDirectory() as scratch, wine.kept_ready():
     os.chdir(scratch)
     written("plain", PLAIN)
     written("pw", wine.PASSWORD.encode())

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What quillet-cli.exe leaves behind when a job fails or is killed: nothing partial, and nothing lost. Argument: the
-program. Runs as root, for the disk of a few megabytes, else it is skipped. Nobody else should use its $WINEPREFIX, as
-the wineserver is killed too."""
+program. Runs as root, for the disk of a few megabytes, else it is skipped. Nobody else should use its $WINEPREFIX, all
+of whose processes are killed."""
 import contextlib
 import os
 import pathlib
@@ -15,6 +15,7 @@ import wine
 
 PROGRAM = os.path.abspath(sys.argv[1])
 os.environ.setdefault("WINEPREFIX", os.path.expanduser("~/.cache/quillet-windows/wine-files"))
+PREFIX = f"WINEPREFIX={os.environ['WINEPREFIX']}".encode()
 SIZE = 48 << 20  # bytes; long enough for a kill in the middle
 MOMENTS = 6
 
@@ -80,19 +81,27 @@ def full_disk():
     print(f"full disk ({kind}): 4 runs failed, nothing written, the former file as it was: {told.strip()}")
 
 
-def server():
-    """The wineserver of our WINEPREFIX."""
+def wine_processes():
+    """Those of our WINEPREFIX, the wineserver first."""
+    found = []
     for process in pathlib.Path("/proc").glob("[0-9]*"):
         with contextlib.suppress(OSError):
-            environment = (process / "environ").read_bytes().split(b"\0")
-            if b"wineserver" in (process / "comm").read_bytes() and \
-                    f"WINEPREFIX={os.environ['WINEPREFIX']}".encode() in environment:
-                return int(process.name)
-    return None
+            program = os.path.basename(os.readlink(process / "exe"))
+            if program.startswith("wine") and PREFIX in (process / "environ").read_bytes().split(b"\0"):
+                found.append((not program.startswith("wineserver"), int(process.name)))
+    return [number for _, number in sorted(found)]
 
 
 def hidden():
     return list(pathlib.Path(".").glob(".quillet-partial-*"))
+
+
+def size_of(file):
+    """-1 when it is gone."""
+    try:
+        return file.stat().st_size
+    except FileNotFoundError:
+        return -1
 
 
 def awaited(condition, what):
@@ -103,22 +112,22 @@ def awaited(condition, what):
     return found
 
 
-def kill(words, moment, with_server):
+def kill(words, moment, all_of_wine):
     """Whether the job was still at work when it was killed."""
     job = wine.started(PROGRAM, "encrypt", "--password-file", "pw", *words, "big")
     part = SIZE * moment // MOMENTS
-    with contextlib.suppress(FileNotFoundError):
-        awaited(lambda: job.poll() is not None or any(file.stat().st_size >= part for file in hidden()), "no output")
+    awaited(lambda: job.poll() is not None or any(size_of(file) >= part for file in hidden()), "no output")
     running = job.poll() is None
-    if with_server and (pid := server()):
-        os.kill(pid, signal.SIGKILL)
+    for number in wine_processes() if all_of_wine else []:
+        with contextlib.suppress(ProcessLookupError):
+            os.kill(number, signal.SIGKILL)
     with contextlib.suppress(ProcessLookupError):
         os.killpg(job.pid, signal.SIGKILL)
-    job.communicate()
+    job.wait()
     return running
 
 
-def kills(with_server):
+def kills(all_of_wine):
     """Of the program alone, or of all that belongs to it; then Wine, as a loss of power, can remove nothing."""
     written("big", BIG)
     cut = left = 0
@@ -126,12 +135,14 @@ def kills(with_server):
         for words in (["-o", "new"], ["-fo", "former"]):
             written("former", b"precious")
             before = wine.files(".")
-            cut += kill(words, moment, with_server)
-            if with_server:
+            cut += kill(words, moment, all_of_wine)
+            if not all_of_wine:  # before it is marked, the file is empty
+                awaited(lambda: not any(size_of(file) > 0 for file in hidden()), "a part of an output stays")
+            if hidden():
                 left += len(hidden())
                 encrypt("-fo", "after", "plain")  # removes what was left behind
                 os.remove("after")
-            awaited(lambda: not hidden(), "a part of an output stays")
+            awaited(lambda: not hidden(), "a hidden file stays")
             now = wine.files(".")
             if len(now.get("new", b"")) > len(BIG):  # done before the kill came
                 del now["new"]
@@ -139,9 +150,9 @@ def kills(with_server):
             if len(now["former"]) > len(BIG):
                 now["former"] = b"precious"
             assert now == before
-    what = "program and wineserver" if with_server else "program"
-    print(f"{what} killed: {cut} of {2 * MOMENTS} in the middle; no output in part, input and former output as they were"
-          + (f"; {left} hidden files left, removed by the next job" if with_server else "; no hidden file left"))
+    what = "program and all of Wine" if all_of_wine else "program"
+    print(f"{what} killed: {cut} of {2 * MOMENTS} in the middle; no output in part, input and former output as they were; "
+          f"{left} hidden files left{'' if all_of_wine else ', empty'}, removed by the next job")
 
 
 if os.getuid() != 0:
@@ -154,6 +165,6 @@ with tempfile.TemporaryDirectory() as scratch:
     wrong_password()
     existing_output()
     full_disk()
-    kills(with_server=False)
-    kills(with_server=True)
+    kills(all_of_wine=False)
+    kills(all_of_wine=True)
     os.chdir("/")

@@ -1,4 +1,5 @@
 """Runs the Windows console program under Wine."""
+import contextlib
 import os
 import pathlib
 import subprocess
@@ -7,10 +8,10 @@ PASSWORD = "Žluťoučký kůň"
 RUNNER = pathlib.Path(__file__).resolve().parents[2] / "packaging/windows/wine.sh"
 
 
-def started(program, *words, **options):
+def started(program, *words):
     """A process group of its own."""
-    return subprocess.Popen([RUNNER, program, *words], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                            stderr=subprocess.PIPE, start_new_session=True, **options)
+    return subprocess.Popen([RUNNER, program, *words], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                            stderr=subprocess.DEVNULL, start_new_session=True)
 
 
 def run(program, *words, code=0):
@@ -20,6 +21,17 @@ def run(program, *words, code=0):
     told = (done.stdout + done.stderr).decode()
     assert done.returncode == code, f"{words}: {done.returncode}: {told}"
     return told
+
+
+@contextlib.contextmanager
+def kept_ready():
+    """Without a program that runs, Wine starts anew for each one."""
+    waiting = subprocess.Popen([RUNNER, "cmd.exe", "/c", "pause"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL, env={**os.environ, "QUILLET_WINE_SECONDS": "3600"})
+    try:
+        yield
+    finally:
+        waiting.communicate(b"\r\n")
 
 
 def files(folder):
