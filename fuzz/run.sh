@@ -24,9 +24,9 @@ for name in "${names[@]}"; do
 done
 
 install_missing packaging/packages-build.txt packaging/packages-ci.txt
-build_preset fuzz "${names[@]/#/fuzz_}"
+build_preset asan-ubsan "${names[@]/#/fuzz_}"
 
-out=$PWD/build/fuzz/run
+out=$PWD/build/fuzz
 scratch=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo /tmp)/quillet-fuzz.XXXXXX")
 trap 'rm -rf "$scratch"' EXIT
 export out mode seconds TMPDIR=$scratch LC_ALL=C.UTF-8 QT_LOGGING_RULES='*=false'
@@ -52,7 +52,7 @@ fuzz() {
   case $name in decryptor | sealed | search | naming) options+=(-max_len=160 -len_control=0 -entropic=0) ;; esac
   [ ! -f "$dictionary" ] || options+=("-dict=$dictionary")
   local status=0
-  nice build/fuzz/bin/"fuzz_$name" $limits "${options[@]}" -print_final_stats=1 \
+  nice build/asan-ubsan/bin/"fuzz_$name" $limits "${options[@]}" -print_final_stats=1 \
     -artifact_prefix="$out/findings/$name/" "${corpora[@]}" >"$out/$name.log" 2>&1 || status=$?
   report "$name" "$status"
 }
@@ -71,7 +71,7 @@ minimize() {
   local made=$scratch/made small=$scratch/small
   rm -rf "$made" "$small" && mkdir -p "$made" "$small" "$out/corpus/$1" "fuzz/corpus/$1"
   find "$out/corpus/$1" "fuzz/corpus/$1" -type f -size -1500c -exec cp -t "$small" {} +
-  nice build/fuzz/bin/"fuzz_$1" $limits -merge=1 "$made" "$small" >"$out/$1.log" 2>&1
+  nice build/asan-ubsan/bin/"fuzz_$1" $limits -merge=1 "$made" "$small" >"$out/$1.log" 2>&1
   find "fuzz/corpus/$1" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' -delete
   find "$made" -type f -exec cp -t "fuzz/corpus/$1" {} +
   printf '%-12s %s\n' "$1" "$(find "fuzz/corpus/$1" -type f | wc -l) files, $(du -bs "fuzz/corpus/$1" | cut -f1) bytes"

@@ -1,44 +1,34 @@
 #!/usr/bin/python3
 """accessibility.py QUILLET: walks the main window and every dialog of the program as a screen reader does, and
 prints each control with its role, name and actions. Fails on a control without a name, or without an action
-where its role has one, and on a dialog that doesn't come. Runs on an X server and a bus of its own."""
-import importlib.util
+where its role has one, and on a dialog that doesn't come. Needs an X server and a bus of its own."""
 import os
-import shutil
 import subprocess
 import sys
 import tempfile
 import time
 
+from gi.repository import GLib
+import pyatspi  # which asks for the bus as soon as it is loaded
+
 PATIENCE = 60  # seconds, for a loaded machine
 
-if "QUILLET_WALK" not in os.environ:
-    missing = [name for name in ("xvfb-run", "dbus-run-session", "xdotool") if not shutil.which(name)]
-    missing += [name for name in ("gi", "pyatspi") if not importlib.util.find_spec(name)]
-    if missing:
-        print("not here:", *missing)
-        sys.exit(77)
-    sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--",
-                             sys.executable, *sys.argv], env=os.environ | {"QUILLET_WALK": "1"}, timeout=500).returncode)
 
-from gi.repository import GLib  # noqa: E402
-import pyatspi  # noqa: E402  asks for the bus as soon as it is loaded
+def roles(names):
+    return {getattr(pyatspi, f"ROLE_{name}") for name in names.split()}
+
 
 # What a user works with; everything else is there to hold these or to be read.
-ACTIVE = {pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_MENU_ITEM,
-          pyatspi.ROLE_CHECK_MENU_ITEM, pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LINK, pyatspi.ROLE_TOGGLE_BUTTON,
-          pyatspi.ROLE_TEXT, pyatspi.ROLE_PASSWORD_TEXT, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_SLIDER,
-          pyatspi.ROLE_PUSH_BUTTON_MENU, pyatspi.ROLE_ENTRY}
-LISTS = {pyatspi.ROLE_LIST, pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE, pyatspi.ROLE_TREE_TABLE}
-NAMED = ACTIVE | LISTS | {pyatspi.ROLE_PROGRESS_BAR, pyatspi.ROLE_MENU, pyatspi.ROLE_PAGE_TAB, pyatspi.ROLE_DIALOG}
-# Qt's own widgets within a widget, which nobody comes to.
-WITHIN = {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_SPIN_BUTTON}
-# These hand the focus on to what they hold.
-PASSING = {pyatspi.ROLE_FRAME, pyatspi.ROLE_FILLER, pyatspi.ROLE_SCROLL_PANE}
+ACTIVE = roles("PUSH_BUTTON CHECK_BOX RADIO_BUTTON MENU_ITEM CHECK_MENU_ITEM COMBO_BOX LINK TOGGLE_BUTTON TEXT "
+               "PASSWORD_TEXT SPIN_BUTTON SLIDER PUSH_BUTTON_MENU ENTRY")
+LISTS = roles("LIST TABLE TREE TREE_TABLE")
+NAMED = ACTIVE | LISTS | roles("PROGRESS_BAR MENU PAGE_TAB DIALOG")
+WITHIN = roles("COMBO_BOX SPIN_BUTTON")  # what is in them is the toolkit's, and nobody comes to it
+PASSING = roles("FRAME FILLER SCROLL_PANE")  # these hand the focus on to what they hold
 
-# What opens a dialog, from the tool bar, and what opens one from there.
-DIALOGS = [("Options", []), ("Default algorithm", []), ("Information about algorithms", []),
-           ("Keyboard shortcuts", []), ("About", []), ("Encrypt", ["Generate..."])]
+# What opens a dialog, from the tool bar, and what opens one from there. The last takes its place.
+DIALOGS = {"Options": [], "Default algorithm": [], "Information about algorithms": [], "Keyboard shortcuts": [],
+           "About": [], "Encrypt": ["Generate...", "Show advanced options"]}
 SECRET = "Tr0ub4dor-and-3"
 
 
@@ -47,7 +37,7 @@ def eventually(look, seconds=PATIENCE):
     while not (answer := look()) and time.monotonic() < end:
         while GLib.MainContext.default().iteration(False):  # the news of the bus
             pass
-        time.sleep(0.05)
+        time.sleep(0.01)
     return answer
 
 
@@ -70,16 +60,19 @@ class Walk:
         self.faults = []
         self.count = 0
 
+    def expect(self, right, fault):
+        if not right:
+            self.faults.append(fault)
+        return right
+
     def window(self, window):
         print(f"== {window.name or '(no name)'}")
-        if not window.name:
-            self.faults.append("a window without a title")
+        self.expect(window.name, "a window without a title")
         self.node(window, 0, False)
-        for tab in find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB)[1:]:
+        for tab in list(find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB))[1:]:
             before = shown(tab.parent.parent)
             do(tab, "Press")
-            if not eventually(lambda: shown(tab.parent.parent) != before):
-                self.faults.append(f"the tab {tab.name} shows nothing")
+            self.expect(eventually(lambda: shown(tab.parent.parent) != before), f"the tab {tab.name} shows nothing")
             self.node(tab.parent.parent, 1, False)
 
     def node(self, node, depth, within):
@@ -87,62 +80,40 @@ class Walk:
         is_reached = states(node, pyatspi.STATE_FOCUSABLE, pyatspi.STATE_SHOWING) and role not in PASSING
         shown = states(node, pyatspi.STATE_VISIBLE) or node.parent.getRole() == pyatspi.ROLE_POPUP_MENU
         if shown and not within and (role in NAMED or is_reached):
-            self.control(node, depth)
+            self.control(node, role, depth)
         for child in children(node):
             self.node(child, depth + 1, within or role in WITHIN)
 
-    def control(self, node, depth):
+    def control(self, node, role, depth):
         name, actions = name_of(node), actions_of(node)
         self.count += 1
         print(f"{'  ' * depth}{node.getRoleName()} \"{name}\" {', '.join(actions)}")
-        if not name and node.getRole() != pyatspi.ROLE_SEPARATOR:
-            self.faults.append("no name: " + path_to(node))
-        if node.getRole() in ACTIVE and not actions and states(node, pyatspi.STATE_ENABLED, pyatspi.STATE_FOCUSABLE):
-            self.faults.append("no action: " + path_to(node))
+        self.expect(name or role == pyatspi.ROLE_SEPARATOR, "no name: " + path_to(node))
+        can_act = role in ACTIVE and states(node, pyatspi.STATE_ENABLED, pyatspi.STATE_FOCUSABLE)
+        self.expect(actions or not can_act, "no action: " + path_to(node))
 
-    def dialog(self, parent, name, inner):
+    def dialog(self, parent, name, inner=()):
         """Opens it, walks it and what it opens, and closes it."""
-        before = windows(self.application)
         opener = find(parent, lambda n: n.name == name and states(n, pyatspi.STATE_SHOWING))
-        if opener is None:
-            self.faults.append(f"nothing that opens {name}")
-            return
-        dialog = opened(self.application, opener, before)
-        if dialog is None:
-            self.faults.append(f"no dialog of {name}")
+        dialog = opener and opened(self.application, opener)
+        if not self.expect(dialog, f"no dialog of {name}"):
             return
         self.window(dialog)
         for further in inner:
-            self.dialog(dialog, further, [])
-        self.close(dialog, before)
-
-    def close(self, dialog, before):
-        closer = button(dialog, "Cancel", "Close")
-        if closer is None:
-            self.faults.append(f"nothing that closes {dialog.name}")
-            return
-        do(closer, "Press")
-        if not eventually(lambda: len(windows(self.application)) == len(before)):
-            self.faults.append(f"the dialog {dialog.name} stays")
-
-    def advanced(self, main):
-        """The dialog of key and initialisation vector takes the place of the one for the password."""
-        password = opened(self.application, button(main, "Encrypt"), [main])
-        link = find(password, lambda n: n.name == "Show advanced options" and states(n, pyatspi.STATE_SHOWING))
-        key = link and opened(self.application, link, [main, password])
-        if key:
-            self.window(key)
-        else:
-            self.faults.append("no dialog of advanced options")
-        self.close(key or password, [main])
+            self.dialog(dialog, further)
+        is_open = lambda: dialog in windows(self.application)
+        closer = is_open() and button(dialog, "Cancel", "Close")
+        if closer:
+            do(closer, "Press")
+        self.expect(eventually(lambda: not is_open()), f"the dialog of {name} stays")
 
 
 def actions_of(node):
     try:
         action = node.queryAction()
+        return [action.getName(i) for i in range(action.nActions)]
     except NotImplementedError:
         return []
-    return [action.getName(i) for i in range(action.nActions)]
 
 
 def path_to(node):
@@ -159,13 +130,14 @@ def children(node):
 
 
 def find_all(node, predicate):
-    return [node] * predicate(node) + [found for child in children(node) for found in find_all(child, predicate)]
+    if predicate(node):
+        yield node
+    for child in children(node):
+        yield from find_all(child, predicate)
 
 
 def find(node, predicate):
-    if predicate(node):
-        return node
-    return next(filter(None, (find(child, predicate) for child in children(node))), None)
+    return next(find_all(node, predicate), None)
 
 
 def shown(node):
@@ -176,11 +148,8 @@ def button(node, *names):
     return find(node, lambda n: n.getRole() == pyatspi.ROLE_PUSH_BUTTON and n.name in names)
 
 
-def do(node, *wanted):
-    """The first of the wanted actions that there is."""
-    names = actions_of(node)
-    name = next(name for name in wanted if name in names)
-    node.queryAction().doAction(names.index(name))
+def do(node, action):
+    node.queryAction().doAction(actions_of(node).index(action))
 
 
 def click(node):
@@ -194,12 +163,12 @@ def windows(application):
     return [window for window in application if window is not None]
 
 
-def opened(application, opener, before):
+def opened(application, opener):
     """The window that it opens. A click is lost where another dialog is just going."""
+    before = windows(application)
     for _ in range(PATIENCE // 2):
         click(opener)
-        dialog = eventually(lambda: next((w for w in windows(application) if w not in before), None), 2)
-        if dialog is not None:
+        if dialog := eventually(lambda: next((w for w in windows(application) if w not in before), None), 2):
             return dialog
     return None
 
@@ -211,19 +180,18 @@ def encrypt(walk, main):
     pyatspi.Registry.registerEventListener(lambda event: announced.append(event.source and event.source.name),
                                            "object:state-changed:showing")
     pyatspi.Registry.registerEventListener(lambda event: told.append(event.any_data), "object:text-changed:insert")
-    dialog = opened(walk.application, button(main, "Encrypt"), [main])
-    for field in find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT):
+    dialog = opened(walk.application, button(main, "Encrypt"))
+    for field in list(find_all(dialog, lambda n: n.getRole() == pyatspi.ROLE_PASSWORD_TEXT)):
         field.queryEditableText().setTextContents(SECRET)
-    bullets = "\u2022" * len(SECRET)
-    if not eventually(lambda: told.count(bullets) == 2) or SECRET in told:
-        walk.faults.append(f"told of the password: {told}")
+    is_masked = eventually(lambda: told.count("\u2022" * len(SECRET)) == 2) and SECRET not in told
+    walk.expect(is_masked, f"told of the password: {told}")
     do(button(dialog, "OK"), "Press")
-    if not eventually(lambda: len(windows(walk.application)) == 1 and find(
-            main, lambda n: "successfully" in n.name and states(n, pyatspi.STATE_SHOWING))):
-        walk.faults.append("no result to read")
+    result = eventually(lambda: len(windows(walk.application)) == 1 and find(
+        main, lambda n: "successfully" in n.name and states(n, pyatspi.STATE_SHOWING)))
+    walk.expect(result, "no result to read")
     # The label has the sentence alone.
-    if not eventually(lambda: any("successfully. letter.txt" in (name or "") for name in announced)):
-        walk.faults.append(f"no word of the result: {announced}")
+    walk.expect(eventually(lambda: any("successfully. letter.txt" in (name or "") for name in announced)),
+                f"no word of the result: {announced}")
 
 
 def walk(quillet, home):
@@ -243,9 +211,8 @@ def walk(quillet, home):
         main = eventually(lambda: application[0])
         eventually(lambda: "letter.txt" in main.name)
         walk.window(main)
-        for name, inner in DIALOGS:
+        for name, inner in DIALOGS.items():
             walk.dialog(main, name, inner)
-        walk.advanced(main)
         encrypt(walk, main)
         walk.window(main)
     finally:

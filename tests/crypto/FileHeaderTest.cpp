@@ -2,8 +2,6 @@
 #include "crypto/Engine.h"
 #include "support/DataRows.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <ctime>
 #include <set>

@@ -3,8 +3,6 @@
 #include "crypto/key/RandomBytes.h"
 #include "support/DataRows.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace {

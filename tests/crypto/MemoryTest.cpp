@@ -1,11 +1,9 @@
-#include "crypto/Engine.h"
+#include "crypto/Way.h"
 #include "crypto/catalogue/AlgInfo.h"
 #include "crypto/key/KeyMaterial.h"
 #include "crypto/sealed/Argon2.h"
 #include "crypto/sealed/SealedFormat.h"
 #include "crypto/sealed/SealedKeys.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <atomic>
@@ -68,16 +66,11 @@ TEST(Memory, TheSearchFindsWhatIsNotWiped)
 /// Neither in memory that is given back nor in what is kept for the next bytes.
 TEST(Memory, NoWayOfEmptyingASecretLeavesItsBytes)
 {
-    struct Way
-    {
-        const char* name;
-        std::function<void(SecretBytes&)> empty;
-    };
-    const Way ways[] = {
+    const std::pair<const char*, std::function<void(SecretBytes&)>> ways[] = {
         {"nothing assigned", [](auto& bytes) { bytes = {}; }},
         {"a list assigned",
          [](auto& bytes) {
-             bytes = {1, 2};
+             bytes = SecretBytes{1, 2};
          }},
         {"a copy assigned", [other = SecretBytes(3)](auto& bytes) { bytes = other; }},
         {"a shorter one moved there", [](auto& bytes) { bytes = SecretBytes(3); }},
@@ -89,12 +82,12 @@ TEST(Memory, NoWayOfEmptyingASecretLeavesItsBytes)
     };
     const Bytes all = noise(64);
     const Bytes rest(all.begin() + 9, all.end());
-    for (const Way& way : ways) {
+    for (const auto& [name, empty] : ways) {
         SecretBytes bytes = secret(all);
         const std::uint8_t* memory = bytes.data();
-        EXPECT_EQ(leaksOf({rest}, [&] { way.empty(bytes); }), 0) << way.name;
+        EXPECT_EQ(leaksOf({rest}, [&, &way = empty] { way(bytes); }), 0) << name;
         // Kept or given back: secrets have pages of their own, which stay.
-        EXPECT_TRUE(std::all_of(memory + 9, memory + 64, [](auto byte) { return byte == 0; })) << way.name;
+        EXPECT_TRUE(std::all_of(memory + 9, memory + 64, [](auto byte) { return byte == 0; })) << name;
     }
     tessaly::SecretText text("a password of some length");
     EXPECT_EQ(leaksOf({{'p', 'a', 's', 's'}}, [&] { text = tessaly::SecretText("short"); }), 0);
@@ -159,16 +152,6 @@ TEST(Memory, NoKeyOfASealedFileStaysBehind)
     EXPECT_EQ(leaksOf(secrets, [&] { derive(false); }), 0);
 }
 
-class Counter final : public tessaly::crypto::ICipherCallback
-{
-public:
-    int starts = 0;
-    int ends = 0;
-    void started(void*) override { ++starts; }
-    void progress(std::int64_t, float, void*) override {}
-    void finished(bool, const CryptoResult&, void*) override { ++ends; }
-};
-
 /// With an allocation failing, every form ends with a result of that stage, and the object can be used again.
 TEST(Memory, NoFormLetsAFailedAllocationOut)
 {
@@ -189,11 +172,11 @@ TEST(Memory, NoFormLetsAFailedAllocationOut)
             const bool decrypting = failing % 2 == 0;
             MemoryInput in(decrypting ? encrypted.bytes : plain);
             MemoryOutput out;
-            Counter counter;
+            Recorder recorder;
             allocationsLeft = failing / 2;
             const CryptoResult result =
-                decrypting ? job.decryptor->runWithPassword(&in, &out, "password", &counter, nullptr)
-                           : job.encryptor->runWithPassword(&in, &out, "password", false, &counter, nullptr);
+                decrypting ? job.decryptor->runWithPassword(&in, &out, "password", &recorder, nullptr)
+                           : job.encryptor->runWithPassword(&in, &out, "password", false, &recorder, nullptr);
             spared = allocationsLeft > 0 ? spared + 1 : 0;
             allocationsLeft = 0;
             if (result.ok())
@@ -201,7 +184,7 @@ TEST(Memory, NoFormLetsAFailedAllocationOut)
             else
                 EXPECT_EQ(std::ranges::count(expected, result), 1) << testing::PrintToString(result);
             EXPECT_TRUE(!result.ok() || spared > 0 || length > 300);
-            EXPECT_EQ(counter.starts, counter.ends);
+            EXPECT_EQ(recorder.calls.starts_with('s'), recorder.calls.ends_with('f'));
             EXPECT_FALSE(job.encryptor->isBusy() || job.decryptor->isBusy());
             seen.push_back(result);
         }

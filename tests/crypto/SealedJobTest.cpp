@@ -1,13 +1,7 @@
-#include "crypto/Engine.h"
-#include "crypto/JobWatch.h"
-#include "crypto/job/FileJob.h"
+#include "crypto/Jobs.h"
+#include "crypto/job/AlgorithmSearch.h"
 #include "crypto/sealed/SealedFormat.h"
 #include "support/DataRows.h"
-#include "support/TempFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace {
 
@@ -20,51 +14,7 @@ std::string text(const Bytes& bytes)
     return {bytes.begin(), bytes.end()};
 }
 
-class SealedJob : public testing::Test
-{
-protected:
-    FileJobRequest request(const char* from, const char* to) const
-    {
-        FileJobRequest made;
-        made.input = folder.at(from);
-        made.output = folder.at(to);
-        made.existing = ExistingOutput::ReplaceAtEnd;
-        made.passwordMode = byPassword;
-        if (byPassword)
-            made.password = tessaly::SecretText(password);
-        made.key = job->key;
-        made.iv = job->iv;
-        made.cost = cost;
-        return made;
-    }
-    FileJobOutcome encrypt(const char* from, const char* to, bool seal = true)
-    {
-        observer.calls.clear();
-        FileJobRequest made = request(from, to);
-        made.seal = seal;
-        return runFileJob(*job->encryptor, made, observer);
-    }
-    FileJobOutcome decrypt(const char* from, const char* to)
-    {
-        observer.calls.clear();
-        FileJobRequest made = request(from, to);
-        return runFileJob(*job->decryptor, made, observer);
-    }
-    void expectRefused(const Bytes& changed, err::Code code, const std::string& what)
-    {
-        folder.write("changed", text(changed));
-        const FileJobOutcome outcome = decrypt("changed", "out");
-        ASSERT_EQ(outcome.result, CryptoResult(code)) << what;
-        ASSERT_FALSE(fs::exists(folder / "out")) << what;
-    }
-
-    TempFolder folder;
-    std::optional<Job> job{"AES-256"};
-    bool byPassword = true;
-    std::string password = "secret";
-    Argon2Cost cost{1, 64, 4};
-    JobWatch observer;
-};
+using SealedJob = Jobs;
 
 TEST_F(SealedJob, FilesOfTheIndependentWriterAreOpened)
 {
@@ -84,68 +34,97 @@ TEST_F(SealedJob, FilesOfTheIndependentWriterAreOpened)
     }
 }
 
-/// Around the ends of the first two pieces, which lie 56 bytes later in the plain file of a stream cipher.
-TEST_F(SealedJob, EveryAlgorithmAndSizeComesBack)
+/// By both kinds of secret, in both formats, of sizes around the ends of the first two pieces, which lie 56
+/// bytes later in the plain file of a stream cipher. The wrong algorithm is tried first, too.
+TEST_F(SealedJob, FilesOfEveryAlgorithmComeBackAndTellTheirAlgorithm)
 {
-    for (const std::size_t size : {0UL, 1UL, 65479UL, 65480UL, 65481UL, 131016UL, 131017UL, 3000000UL}) {
-        byPassword = !byPassword; // else an even catalogue gives each algorithm the same secret at every size
-        for (const CatalogueEntry& algorithm : catalogue()) {
-            if (size > 1000000 && algorithm.id % 50 != 0)
-                continue; // one of each older family
-            SCOPED_TRACE(std::string(algorithm.name) + ", " + std::to_string(size));
+    constexpr std::size_t Sizes[] = {1, 65479, 65480, 65481, 131016, 131017, 1500000};
+    const Job wrong("Blowfish-192"); // the only one with its lengths
+    std::size_t next = 0;
+    for (const CatalogueEntry& algorithm : catalogue())
+        for (const int way : {0, 1, 2, 3}) {
+            const std::size_t size = Sizes[next++ % std::size(Sizes)];
+            SCOPED_TRACE(std::string(algorithm.name) + ", way " + std::to_string(way) + ", " +
+                         std::to_string(size));
+            byPassword = way < 2;
+            const bool seal = way % 2 == 1;
             job.emplace(algorithm);
-            byPassword = !byPassword;
             const std::string plain = text(noise(size));
             folder.write("plain", plain);
-            const FileJobOutcome made = encrypt("plain", "sealed");
-            ASSERT_TRUE(made.done() && made.sealed);
-            ASSERT_EQ(observer.calls, byPassword ? "dsw" : "sw");
-            ASSERT_EQ(made.output.status.size, sealedSize(encryptedSize(size, algorithm.record.blockLength)));
-            const FileJobOutcome opened = decrypt("sealed", "out");
-            ASSERT_TRUE(opened.done() && opened.sealed);
-            ASSERT_EQ(observer.calls, byPassword ? "sdsw" : "ssw");
+            const FileJobOutcome made = encrypt("plain", "encrypted", seal);
+            ASSERT_TRUE(made.done() && made.sealed == seal);
+            ASSERT_EQ(watch.calls, seal && byPassword ? "dsw" : "sw");
+            const std::uint64_t inner = encryptedSize(size, algorithm.record.blockLength);
+            ASSERT_EQ(made.output.status.size, seal ? sealedSize(inner) : inner);
+
+            watch.calls.clear();
+            const FoundAlgorithm found = findAlgorithm(request("encrypted", "out"), watch);
+            ASSERT_TRUE(found.result.ok());
+            ASSERT_EQ(found.algorithmId, algorithm.id);
+            ASSERT_EQ(watch.calls, seal && byPassword ? "d" : "");
+            ASSERT_EQ(found.root.bytes.empty(), !seal);
+
+            FileJobRequest again = request("encrypted", "out");
+            SealedRoot root = found.root;
+            if (byPassword && algorithm.id != wrong.algorithm.id) {
+                const FileJobOutcome failed = run(*wrong.decryptor, again);
+                ASSERT_EQ(failed.result, CryptoResult(err::CheckValueDiffers));
+                ASSERT_EQ(failed.fittingAlgorithm, algorithm.id);
+                ASSERT_EQ(watch.calls, seal ? "sd" : "s") << "one key at the most";
+                ASSERT_TRUE(again.password.empty());
+                again = request("encrypted", "out");
+                root = failed.root;
+            }
+            again.root = root;
+            if (seal)
+                again.password = {};
+            const FileJobOutcome opened = run(*job->decryptor, again);
+            ASSERT_TRUE(opened.done() && opened.sealed == seal);
+            ASSERT_EQ(watch.calls, seal ? "ssw" : "sw") << "no further key";
             ASSERT_EQ(readFile(folder / "out"), plain);
         }
-    }
 }
 
-TEST_F(SealedJob, TheSaltMakesEqualFilesDifferAndTheAlgorithmMakesKeysDiffer)
+TEST_F(SealedJob, TheSaltMakesEqualFilesDifferAndAnEmptyOneIsSealedToo)
 {
-    folder.write("plain", std::string(1000, 'x'));
+    folder.write("plain", "");
     ASSERT_TRUE(encrypt("plain", "one").done() && encrypt("plain", "two").done());
     EXPECT_NE(readFile(folder / "one"), readFile(folder / "two"));
-    job.emplace("Camellia-256");
-    EXPECT_EQ(decrypt("one", "out").result, CryptoResult(err::CheckValueDiffers));
+    EXPECT_EQ(fs::file_size(folder / "one"), sealedSize(0));
+    EXPECT_TRUE(decrypt("one", "out").done());
+    EXPECT_EQ(watch.calls, "sdsw");
 }
 
-/// Whatever is changed, nothing of the output is left.
+/// Whatever is changed or cut, nothing of the output is left.
 TEST_F(SealedJob, DamageLeavesNoOutput)
 {
     byPassword = false;
     folder.write("plain", text(noise(2 * PieceSize)));
     ASSERT_TRUE(encrypt("plain", "sealed").done());
-    const std::string file = readFile(folder / "sealed");
-    const Bytes whole(file.begin(), file.end());
+    const std::string whole = readFile(folder / "sealed");
+    const auto expectRefused = [&](std::size_t size, std::size_t changed, err::Code code) {
+        std::string file = whole;
+        file.resize(size);
+        if (changed < size)
+            file[changed] ^= 0x40;
+        folder.write("changed", file);
+        EXPECT_EQ(decrypt("changed", "out").result, CryptoResult(code)) << size << ", " << changed;
+        EXPECT_FALSE(fs::exists(folder / "out"));
+    };
     constexpr std::size_t Second = SealSaltSize + PieceSize + TagSize;
-    for (std::size_t at = 0; at < whole.size(); at += at % 100 == 0 ? 1201 : 100 - at % 100) {
-        Bytes changed = whole;
-        changed[at] ^= 0x40;
-        expectRefused(changed, at < Second ? err::CheckValueDiffers : err::SealBroken,
-                      "changed at " + std::to_string(at));
-        changed.resize(at);
-        if (at == 0) // an empty file is the plain format's own
-            continue;
-        expectRefused(changed,
-                      at < HeaderSize && at != 48    ? err::InputTooShort
-                      : at > Second && innerSize(at) ? err::SealBroken
-                                                     : err::CheckValueDiffers,
-                      "cut at " + std::to_string(at));
-    }
-    Bytes longer = whole;
-    longer.push_back(0);
-    expectRefused(longer, err::SealBroken, "a byte behind");
+    for (const std::size_t at : {0UL, 31UL, 32UL, 88UL, 40000UL, Second - TagSize, Second - 1})
+        expectRefused(whole.size(), at, err::CheckValueDiffers);
+    for (const std::size_t at : {Second, Second + 40000, Second + SealedPieceSize, whole.size() - 1})
+        expectRefused(whole.size(), at, err::SealBroken);
+    for (const std::size_t size : {1UL, 47UL, 49UL, 55UL})
+        expectRefused(size, size, err::InputTooShort);
+    for (const std::size_t size : {48UL, 56UL, 104UL, 105UL, Second - 1, Second, Second + TagSize})
+        expectRefused(size, size, err::CheckValueDiffers);
+    for (const std::size_t size :
+         {Second + TagSize + 1, Second + SealedPieceSize, whole.size() - 1, whole.size() + 1})
+        expectRefused(size, size, err::SealBroken);
     job->key[0] ^= 1;
-    expectRefused(whole, err::CheckValueDiffers, "another key");
+    expectRefused(whole.size(), whole.size(), err::CheckValueDiffers);
     job->key.clear();
     EXPECT_EQ(encrypt("plain", "out").result, CryptoResult(err::KeyLengthDiffers));
 }
@@ -153,31 +132,59 @@ TEST_F(SealedJob, DamageLeavesNoOutput)
 TEST_F(SealedJob, AWrongPasswordIsToldAfterBothFormatsAndAStopBeforeTheSecond)
 {
     folder.write("plain", text(noise(1000)));
-    ASSERT_TRUE(encrypt("plain", "sealed").done());
-    ASSERT_TRUE(encrypt("plain", "plainly", false).done());
-    EXPECT_EQ(observer.calls, "sw");
-    const FileJobOutcome plainly = decrypt("plainly", "out");
-    EXPECT_TRUE(plainly.done() && !plainly.sealed);
-    EXPECT_EQ(observer.calls, "sw");
-    fs::remove(folder / "out");
-
+    ASSERT_TRUE(encrypt("plain", "sealed").done() && encrypt("plain", "plainly", false).done());
     password = "wrong";
     for (const char* file : {"sealed", "plainly"}) {
         const FileJobOutcome outcome = decrypt(file, "out");
         EXPECT_EQ(outcome.result, CryptoResult(err::CheckValueDiffers));
         EXPECT_FALSE(outcome.sealed);
-        EXPECT_EQ(observer.calls, "sd");
+        EXPECT_EQ(watch.calls, "sd");
     }
     password = "secret";
-    observer.cancelAfter = 'd';
+    watch.cancelAfter = 'd';
     for (const FileJobOutcome& outcome : {encrypt("plain", "out"), decrypt("sealed", "out")})
         EXPECT_TRUE(outcome.cancelled && outcome.result.ok() && !outcome.outputDeleted);
-    observer.cancelAfter = ' ';
-    observer.questions = 0;
-    observer.cancelAtQuestion = 2; // while the key is made
+    watch.cancelAfter = ' ';
+    watch.questions = 0;
+    watch.cancelAtQuestion = 2; // while the key is made
     EXPECT_TRUE(encrypt("plain", "out").cancelled);
-    EXPECT_EQ(observer.calls, "d");
+    EXPECT_EQ(watch.calls, "d");
     EXPECT_FALSE(fs::exists(folder / "out"));
+}
+
+TEST_F(SealedJob, TheSearchTellsWhereThereIsNothingToFind)
+{
+    job.emplace("Kalyna-512");
+    folder.write("plain", "x");
+    folder.write("empty", "");
+    folder.write("short", std::string(55, 'x'));
+    folder.write("foreign", std::string(4000, 'x'));
+    ASSERT_TRUE(encrypt("plain", "encrypted").done());
+    const auto resultOf = [this](const char* file) {
+        FileJobRequest made = request(file, "out");
+        made.password = tessaly::SecretText("wrong");
+        const FoundAlgorithm found = findAlgorithm(made, watch);
+        EXPECT_FALSE(found.algorithmId || found.cancelled);
+        return found.result;
+    };
+    EXPECT_TRUE(resultOf("empty").ok());
+    EXPECT_EQ(resultOf("short"), CryptoResult(err::InputTooShort));
+    EXPECT_EQ(resultOf("foreign"), CryptoResult(err::CheckValueDiffers));
+    EXPECT_EQ(resultOf("missing").module, err::CategorySystem);
+    EXPECT_EQ(resultOf("encrypted"), CryptoResult(err::CheckValueDiffers));
+
+    FileJobRequest other = request("encrypted", "out"); // the root of another file is none
+    other.root = {SecretBytes(32), SecretBytes(64)};
+    EXPECT_TRUE(run(*job->decryptor, other).done());
+    EXPECT_EQ(watch.calls, "sdsw");
+
+    watch.calls = watch.cancelAfter = 'd';
+    const FoundAlgorithm stopped = findAlgorithm(request("encrypted", "out"), watch);
+    EXPECT_TRUE(stopped.cancelled && stopped.result.ok() && !stopped.algorithmId);
+
+    byPassword = false;
+    job->key.pop_back(); // a length that none takes
+    EXPECT_EQ(resultOf("encrypted"), CryptoResult(err::CheckValueDiffers));
 }
 
 } // namespace

@@ -4,21 +4,12 @@
 #include "crypto/sealed/SealingOutput.h"
 #include "support/NewThreads.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using namespace test;
 using namespace tessaly::crypto;
 
 constexpr std::size_t Slot = SealedPieceSize;
-
-/// Of a piece or its tag.
-bool isNearBoundary(std::size_t at)
-{
-    const std::size_t inSlot = (at + Slot - SealSaltSize) % Slot;
-    return inSlot < 20 || inSlot > Slot - 40;
-}
 
 Bytes sealed(const Bytes& inner, const SecretBytes& tagKey, std::size_t atOnce = 100000)
 {
@@ -89,15 +80,12 @@ protected:
 
 TEST_F(SealedStreams, SizesAreThoseOfWholePieces)
 {
-    const struct
-    {
-        std::uint64_t inner;
-        std::uint64_t sealed;
-    } rows[] = {{0, 48},        {57, 105},        {65535, 65583},   {65536, 65584},
-                {65537, 65601}, {131072, 131136}, {131073, 131153}, {std::uint64_t{1} << 40, 1099780063264}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(sealedSize(row.inner), row.sealed);
-        EXPECT_EQ(innerSize(row.sealed), row.inner);
+    const std::pair<std::uint64_t, std::uint64_t> rows[] = {
+        {0, 48},        {57, 105},        {65535, 65583},   {65536, 65584},
+        {65537, 65601}, {131072, 131136}, {131073, 131153}, {std::uint64_t{1} << 40, 1099780063264}};
+    for (const auto& [inside, all] : rows) {
+        EXPECT_EQ(sealedSize(inside), all);
+        EXPECT_EQ(innerSize(all), inside);
     }
     std::size_t possible = 0;
     for (std::uint64_t size = 0; size <= sealedSize(3 * PieceSize); ++size)
@@ -123,28 +111,21 @@ TEST_F(SealedStreams, EverySizeComesBackHoweverItIsCut)
         }
 }
 
+/// Of a piece and its tag; in between here and there.
 TEST_F(SealedStreams, ChangedBytesAndTruncationsAreFound)
 {
-    Bytes changed = whole;
-    for (std::size_t at = SealSaltSize; at < whole.size(); at += isNearBoundary(at) ? 1U : 31U) {
-        changed[at] ^= static_cast<std::uint8_t>(1 << at % 8);
-        expectRefused(changed, (at - SealSaltSize) / Slot, "changed at " + std::to_string(at));
-        changed[at] = whole[at];
-    }
-    const Bytes many = sealed(noise(40 * PieceSize), tagKey);
-    for (std::size_t piece = 1; piece < 40; ++piece) {
-        Bytes damaged = many;
-        damaged[SealSaltSize + piece * Slot + piece] ^= 1;
-        const Outcome outcome = opened(damaged, tagKey);
-        ASSERT_EQ(outcome.result, CryptoResult(err::SealBroken));
-        ASSERT_LE(outcome.bytes.size(), piece * PieceSize);
-    }
-    for (std::size_t size = 0; size < whole.size(); ++size) {
-        if (size % 997 != 0 && !isNearBoundary(size))
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+        const std::size_t inSlot = (at + Slot - SealSaltSize) % Slot;
+        if (inSlot >= 20 && inSlot <= Slot - 40 && at % 997 != 0)
             continue;
-        const std::size_t pieces = size > SealSaltSize ? (size - SealSaltSize + Slot - 1) / Slot : 1;
-        expectRefused({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)}, pieces - 1,
-                      "cut at " + std::to_string(size));
+        const std::size_t piece = at > SealSaltSize ? (at - SealSaltSize) / Slot : 0;
+        Bytes changed = whole;
+        changed[at] ^= static_cast<std::uint8_t>(1 << at % 8);
+        if (at >= SealSaltSize)
+            expectRefused(changed, piece, "changed at " + std::to_string(at));
+        changed.assign(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(at));
+        const bool isWhole = inSlot == 0 && piece > 0; // of whole pieces alone
+        expectRefused(changed, isWhole ? piece - 1 : piece, "cut at " + std::to_string(at));
     }
 }
 
@@ -156,12 +137,7 @@ TEST_F(SealedStreams, PiecesKeepTheirPlaces)
     const Bytes c = slot(whole, 2);
     const Bytes single = slot(sealed(Bytes(inner.begin(), inner.begin() + PieceSize), tagKey), 0);
     ASSERT_EQ(withPieces({a, b, c}), whole);
-    const struct
-    {
-        const char* name;
-        std::vector<Bytes> pieces;
-        std::size_t firstWrong;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<Bytes>, std::size_t> rows[] = {
         {"swapped", {b, a, c}, 0},
         {"doubled", {a, a, b, c}, 1},
         {"dropped", {a, c}, 1},
@@ -174,8 +150,8 @@ TEST_F(SealedStreams, PiecesKeepTheirPlaces)
         {"a last piece in front", {single, b, c}, 0},
         {"an empty piece behind", {a, b, slot(sealed({}, tagKey), 0)}, 1},
     };
-    for (const auto& row : rows)
-        expectRefused(withPieces(row.pieces), row.firstWrong, row.name);
+    for (const auto& [name, pieces, firstWrong] : rows)
+        expectRefused(withPieces(pieces), firstWrong, name);
 }
 
 TEST_F(SealedStreams, FailuresOfTheFileAreTold)

@@ -4,8 +4,6 @@
 #include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
 #include <filesystem>
 #include <unistd.h>

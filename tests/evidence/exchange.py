@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Has other implementations read what the console program writes, and the program read what they write.
+"""Has other implementations write the same files as the console program, byte for byte, and the program read them.
 
 What the format is stands here a second time, from docs/FILE_FORMAT.md; no code of the program is used. For the
 algorithms that data/evidence.txt names, lengths from nothing to beyond two chunks. Arguments: program, folder of the
 data, names of algorithms (else all)."""
 import functools
 import hashlib
+import itertools
 import os
 import pathlib
 import subprocess
@@ -21,55 +22,38 @@ CHUNK, HEADER = 32768, 56
 PASSWORD = "Žluťoučký kůň"
 
 
-class Botan:
-    def __init__(self, key, iv, block, name):
-        self.arguments = key, iv, name + ("/CBC/NoPadding" if block else "")
-
-    def run(self, data, encrypts):
-        key, iv, name = self.arguments
-        cipher = botan2.SymmetricCipher(name, encrypts)
-        cipher.set_key(key)
-        cipher.start(iv)
-        return cipher.finish(data)
+def botan(key, iv, block, name, data):
+    cipher = botan2.SymmetricCipher(name + ("/CBC/NoPadding" if block else ""), True)
+    cipher.set_key(key)
+    cipher.start(iv)
+    return cipher.finish(data)
 
 
-class CryptX:
-    def __init__(self, key, iv, _block, name):
-        script = pathlib.Path(__file__).with_name("cryptx.pl").absolute()
-        self.perl = subprocess.Popen(["/usr/bin/perl", script, name, key.hex(), iv.hex()], stdin=subprocess.PIPE,
-                                     stdout=subprocess.PIPE, text=True)
-
-    def run(self, data, encrypts):
-        print("encrypt" if encrypts else "decrypt", data.hex(), file=self.perl.stdin, flush=True)
-        return bytes.fromhex(self.perl.stdout.readline())
+@functools.cache
+def perl(name, key, iv):
+    script = pathlib.Path(__file__).with_name("cryptx.pl").absolute()
+    return subprocess.Popen(["/usr/bin/perl", script, name, key.hex(), iv.hex()], stdin=subprocess.PIPE,
+                            stdout=subprocess.PIPE, text=True)
 
 
-class Mars:
-    def __init__(self, key, iv, _block, _name):
-        self.cipher, self.iv = mars.Mars(key), iv
-
-    def run(self, data, encrypts):
-        result, last = [], self.iv
-        for at in range(0, len(data), 16):
-            block = data[at:at + 16]
-            if encrypts:
-                last = self.cipher.encrypted(xor(block, last))
-                result.append(last)
-            else:
-                result.append(xor(self.cipher.decrypted(block), last))
-                last = block
-        return b"".join(result)
+def cryptx(key, iv, _block, name, data):
+    process = perl(name, key, iv)
+    print(data.hex(), file=process.stdin, flush=True)
+    return bytes.fromhex(process.stdout.readline())
 
 
-class Panama:
-    def __init__(self, key, iv, _block, _name):
-        self.key_stream = functools.partial(panama.key_stream, key, iv)
+def mars_cbc(key, iv, _block, _name, data):
+    cipher = mars.Mars(key)
+    blocks = (data[at:at + 16] for at in range(0, len(data), 16))
+    chain = itertools.accumulate(blocks, lambda last, block: cipher.encrypted(xor(block, last)), initial=iv)
+    return b"".join(chain)[16:]
 
-    def run(self, data, _encrypts):
-        return xor(data, self.key_stream(len(data)))
+
+def panama_stream(key, iv, _block, _name, data):
+    return xor(data, panama.key_stream(key, iv, len(data)))
 
 
-READERS = {"Botan": Botan, "CryptX": CryptX, "mars.py": Mars, "panama.py": Panama}
+WRITERS = {"Botan": botan, "CryptX": cryptx, "mars.py": mars_cbc, "panama.py": panama_stream}
 
 
 def xor(first, second):
@@ -88,49 +72,33 @@ def header(number, length):
     return (b"\2\0" + check_value + bytes(6) + length.to_bytes(8, "little")).ljust(HEADER, b"\0")
 
 
-def written(number, block, cipher, data):
-    plain = header(number, len(data)) + data if data else b""
-    return cipher.run(plain + bytes(-len(plain) % max(block, 1)), True) if data else b""
-
-
-def read(number, block, cipher, file):
-    """The data; the filler must be there, as the program was told to salt."""
-    if not file:
-        return b""
-    plain = cipher.run(file, False)
-    length = int.from_bytes(plain[40:48], "little")
-    assert plain[:48] + bytes(6) + plain[54:56] == header(number, length), f"{number}: header"
-    assert plain[48:54] != bytes(6), f"{number}: salt"
-    padding = plain[HEADER + length:]
-    assert len(padding) < max(block, 1) and not any(padding), f"{number}: padding"
-    return plain[HEADER:HEADER + length]
-
-
-def exchange(program, number, name, key_length, block, iv_length, reader, name_there):
+def exchange(program, number, name, key_length, block, iv_length, writer, name_there):
     lengths = {0, 1, 7, 8, 9, 15, 16, 17, block, 2 * block, 3 * block + 8, CHUNK - HEADER, CHUNK - HEADER + 1}
-    if reader != "mars.py":  # which takes its time
+    if writer != "mars.py":  # which takes its time
         lengths |= {edge + by for edge in (CHUNK, 2 * CHUNK) for by in (-HEADER - 1, -HEADER, -HEADER + 1, -1, 0, 1)}
     plain = {f"{length}": hashlib.shake_128(name.encode()).digest(length) for length in sorted(lengths)}
     key, iv = hashlib.shake_128(b"key of " + name.encode()).digest(key_length), os.urandom(iv_length)
     files = {"key": key.hex(), "iv": iv.hex(), "password": PASSWORD}
     for file, data in {**plain, **{file: text.encode() for file, text in files.items()}}.items():
         pathlib.Path(file).write_bytes(data)
-    call = functools.partial(subprocess.run, check=True, timeout=120)
 
-    call([program, "encrypt", "-q", "--salt", "--algorithm", name, "--password-file", "password", *plain])
-    cipher = READERS[reader](key_of(PASSWORD.encode(), key_length), bytes(iv_length), block, name_there)
+    def written(data, key, iv):
+        inner = header(number, len(data)) + data if data else b""
+        return WRITERS[writer](key, iv, block, name_there, inner + bytes(-len(inner) % max(block, 1))) if data else b""
+
+    def run(command, *words):
+        subprocess.run([program, command, "-q", "--algorithm", name, *words], check=True, timeout=120)
+
+    run("encrypt", "--password-file", "password", *plain)
     for file, data in plain.items():
         path = pathlib.Path(file + ".enc")
-        assert read(number, block, cipher, path.read_bytes()) == data, f"{name}: {reader} reads {file} bytes otherwise"
-        path.unlink()
+        same = path.read_bytes() == written(data, key_of(PASSWORD.encode(), key_length), bytes(iv_length))
+        assert same, f"{name}: {writer} writes {file} bytes otherwise"
+        path.write_bytes(written(data, key, iv))
 
-    cipher = READERS[reader](key, iv, block, name_there)
+    run("decrypt", "--key-file", "key", "--iv-file", "iv", *(file + ".enc" for file in plain))
     for file, data in plain.items():
-        pathlib.Path(file + ".enc").write_bytes(written(number, block, cipher, data))
-    call([program, "decrypt", "-q", "--algorithm", name, "--key-file", "key", "--iv-file", "iv",
-          *(file + ".enc" for file in plain)])
-    for file, data in plain.items():
-        assert pathlib.Path(file + ".dec").read_bytes() == data, f"{name}: {reader}'s {file} bytes are read otherwise"
+        assert pathlib.Path(file + ".dec").read_bytes() == data, f"{name}: {writer}'s {file} bytes are read otherwise"
     return len(plain)
 
 
@@ -149,11 +117,11 @@ def main():
     catalogue = {name: (int(number), name, *map(int, sizes[:3]))
                  for number, name, *sizes in rows(data / "algorithms.txt")}
     done = files = 0
-    for name, _, reader, name_there in rows(data / "evidence.txt"):
-        if reader != "-" and name in (sys.argv[3:] or catalogue):
+    for name, _, writer, name_there in rows(data / "evidence.txt"):
+        if writer != "-" and name in (sys.argv[3:] or catalogue):
             with tempfile.TemporaryDirectory() as folder:
                 os.chdir(folder)
-                files += exchange(program, *catalogue[name], reader, name_there)
+                files += exchange(program, *catalogue[name], writer, name_there)
                 os.chdir("/")
             done += 1
     assert done

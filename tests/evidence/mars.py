@@ -87,25 +87,3 @@ class Mars:
             d = (d - S1[a >> 16 & 255] & MASK) ^ S0[a >> 8 & 255]
             a, b, c, d = b, c, d, rol(a, 24)
         return struct.pack("<4I", *(x - y & MASK for x, y in zip((a, b, c, d), k[36:])))
-
-    def decrypted(self, block):
-        k = self.k
-        a, b, c, d = (x + y & MASK for x, y in zip(struct.unpack("<4I", block), k[36:]))
-        for i in reversed(range(8)):
-            a, b, c, d = rol(d, 8), a, b, c
-            d = (d ^ S0[a >> 8 & 255]) + S1[a >> 16 & 255] & MASK
-            b, c = b ^ S1[a & 255], c + S0[a >> 24] & MASK
-            a = a + (0, 0, d, b)[i % 4] & MASK
-        for i in reversed(range(16)):
-            a, b, c, d = rol(d, 19), a, b, c
-            left, m, r = core(a, k[2 * i + 4], k[2 * i + 5])
-            if i < 8:
-                b, c, d = b - left & MASK, c - m & MASK, d ^ r
-            else:
-                b, c, d = b ^ r, c - m & MASK, d - left & MASK
-        for i in reversed(range(8)):
-            a, b, c, d = d, a, b, c
-            a = rol(a - (d, b, 0, 0)[i % 4] & MASK, 24)
-            c, d = c - S0[a >> 16 & 255] & MASK, d ^ S1[a >> 24]
-            b = (b - S1[a >> 8 & 255] & MASK) ^ S0[a & 255]
-        return struct.pack("<4I", *(x - y & MASK for x, y in zip((a, b, c, d), k)))

@@ -20,12 +20,8 @@
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <type_traits>
 #include <unistd.h>
-
-extern "C" void* __libc_malloc(std::size_t);
-extern "C" void* __libc_calloc(std::size_t, std::size_t);
-extern "C" void* __libc_realloc(void*, std::size_t);
-extern "C" void* __libc_memalign(std::size_t, std::size_t);
 
 namespace {
 
@@ -54,8 +50,7 @@ int (*programMain)(int, char**, char**);
 [[noreturn]] void die()
 {
     ::kill(::getpid(), SIGKILL);
-    for (;;)
-        ::pause();
+    std::abort();
 }
 
 bool isCounted(const char* call)
@@ -93,10 +88,14 @@ Function* next(const char* name)
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
-bool isWithout(const char* function)
+/// What a call gives that the file system does not have.
+bool isWithout(const char* function, int error)
 {
     const char* missing = isOn ? std::getenv("FAULTS_WITHOUT") : nullptr;
-    return missing != nullptr && std::strstr(missing, function) != nullptr;
+    if (missing == nullptr || std::strstr(missing, function) == nullptr)
+        return false;
+    errno = error;
+    return true;
 }
 
 /// The error of a call that is due.
@@ -107,18 +106,16 @@ int dueError()
     return order.error == FromThereOn ? ENOMEM : order.error;
 }
 
-/// A call that gives -1 and an error number.
-template <class Call>
-auto failing(const char* name, Call real) -> decltype(real())
+/// A call that fails with this value and an error number, or gives nothing.
+template <class Call, class Result = std::invoke_result_t<Call>>
+Result failing(const char* name, Call real, std::type_identity_t<Result> failed)
 {
     if (!isDue(name))
         return real();
-    if (order.error == KillAfter) {
+    if (order.error == KillAfter)
         real();
-        die();
-    }
     errno = dueError();
-    return order.error == Nothing ? 0 : -1;
+    return order.error == Nothing ? Result{} : failed;
 }
 
 /// A thread of the toolkit wakes another one up by such a file.
@@ -136,18 +133,9 @@ ssize_t moving(const char* name, int fd, std::size_t size, Call real)
     if (isOn && isEvent(fd))
         return real(size);
     if (order.error != Short)
-        return failing(name, [&] { return real(size); });
+        return failing(
+            name, [&] { return real(size); }, -1);
     return real(isDue(name) && size > 1 ? size / 2 : size);
-}
-
-/// One that gives null.
-template <class Call>
-auto allocating(const char* name, Call real) -> decltype(real())
-{
-    if (!isDue(name))
-        return real();
-    errno = dueError();
-    return nullptr;
 }
 
 bool readOrder(std::FILE* from)
@@ -228,13 +216,21 @@ extern "C" void endFaults()
     isOn = false;
 }
 
-#define FORWARD(group, Result, name, parameters, arguments)                                                  \
+#define FORWARD_OR(failed, group, Result, name, parameters, arguments)                                       \
     extern "C" Result name parameters                                                                        \
     {                                                                                                        \
         static auto* const real = next<Result parameters>(#name);                                            \
-        return failing(group, [&] { return real arguments; });                                               \
+        return failing(                                                                                      \
+            group, [&] { return real arguments; }, failed);                                                  \
     }
+#define FORWARD(group, Result, name, parameters, arguments)                                                  \
+    FORWARD_OR(-1, group, Result, name, parameters, arguments)
 
+FORWARD_OR(nullptr, "open", std::FILE*, fopen, (const char* path, const char* mode), (path, mode))
+FORWARD_OR(nullptr, "readdir", dirent*, readdir, (DIR * folder), (folder))
+FORWARD_OR(MAP_FAILED, "mmap", void*, mmap,
+           (void* at, std::size_t size, int access, int flags, int fd, off_t offset),
+           (at, size, access, flags, fd, offset))
 FORWARD("fsync", int, fsync, (int fd), (fd))
 FORWARD("fsync", int, fdatasync, (int fd), (fd))
 FORWARD("close", int, close, (int fd), (fd))
@@ -263,12 +259,11 @@ FORWARD("getrandom", int, getentropy, (void* data, std::size_t size), (data, siz
         va_start(rest, flags);                                                                               \
         const mode_t mode = va_arg(rest, mode_t);                                                            \
         va_end(rest);                                                                                        \
-        if ((flags & O_TMPFILE) == O_TMPFILE && isWithout("O_TMPFILE")) {                                    \
-            errno = EOPNOTSUPP;                                                                              \
+        if ((flags & O_TMPFILE) == O_TMPFILE && isWithout("O_TMPFILE", EOPNOTSUPP))                          \
             return -1;                                                                                       \
-        }                                                                                                    \
         static auto* const real = next<int(first const char*, int, ...)>(#name);                             \
-        return failing("open", [&] { return real(__VA_ARGS__ path, flags, mode); });                         \
+        return failing(                                                                                      \
+            "open", [&] { return real(__VA_ARGS__ path, flags, mode); }, -1);                                \
     }
 #define NONE
 #define FOLDER int folder,
@@ -293,27 +288,19 @@ extern "C" ssize_t write(int fd, const void* data, std::size_t size)
 extern "C" int linkat(int from, const char* source, int to, const char* target, int flags)
 {
     static auto* const real = next<int(int, const char*, int, const char*, int)>("linkat");
-    if (isWithout("link")) {
-        errno = EPERM;
+    if (isWithout("link", EPERM))
         return -1;
-    }
-    return failing("link", [&] { return real(from, source, to, target, flags); });
+    return failing(
+        "link", [&] { return real(from, source, to, target, flags); }, -1);
 }
 
 extern "C" int renameat2(int from, const char* source, int to, const char* target, unsigned flags)
 {
     static auto* const real = next<int(int, const char*, int, const char*, unsigned)>("renameat2");
-    if (isWithout(flags == RENAME_EXCHANGE ? "exchange" : "noreplace")) {
-        errno = EINVAL;
+    if (isWithout(flags == RENAME_EXCHANGE ? "exchange" : "noreplace", EINVAL))
         return -1;
-    }
-    return failing("rename", [&] { return real(from, source, to, target, flags); });
-}
-
-extern "C" std::FILE* fopen(const char* path, const char* mode)
-{
-    static auto* const real = next<std::FILE*(const char*, const char*)>("fopen");
-    return allocating("open", [&] { return real(path, mode); });
+    return failing(
+        "rename", [&] { return real(from, source, to, target, flags); }, -1);
 }
 
 /// One byte of an unbuffered file, which the library reads by itself.
@@ -327,21 +314,6 @@ extern "C" int fgetc(std::FILE* file)
     return EOF;
 }
 
-extern "C" void* mmap(void* at, std::size_t size, int access, int flags, int fd, off_t offset) noexcept
-{
-    static auto* const real = next<void*(void*, std::size_t, int, int, int, off_t)>("mmap");
-    if (!isDue("mmap"))
-        return real(at, size, access, flags, fd, offset);
-    errno = dueError();
-    return MAP_FAILED;
-}
-
-extern "C" dirent* readdir(DIR* folder)
-{
-    static auto* const real = next<dirent*(DIR*)>("readdir");
-    return allocating("readdir", [&] { return real(folder); });
-}
-
 extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* how, void* (*run)(void*),
                               void* argument) noexcept
 {
@@ -350,25 +322,18 @@ extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* how, void
     return isDue("pthread_create") ? dueError() : real(thread, how, run, argument);
 }
 
-extern "C" void* malloc(std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_malloc(size); });
-}
+#define FORWARD_MALLOC(name, parameters, arguments)                                                          \
+    extern "C" void* __libc_##name parameters;                                                               \
+    extern "C" void* name parameters noexcept                                                                \
+    {                                                                                                        \
+        return failing(                                                                                      \
+            "malloc", [&] { return __libc_##name arguments; }, nullptr);                                     \
+    }
 
-extern "C" void* calloc(std::size_t count, std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_calloc(count, size); });
-}
-
-extern "C" void* realloc(void* former, std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_realloc(former, size); });
-}
-
-extern "C" void* memalign(std::size_t alignment, std::size_t size) noexcept
-{
-    return allocating("malloc", [&] { return __libc_memalign(alignment, size); });
-}
+FORWARD_MALLOC(malloc, (std::size_t size), (size))
+FORWARD_MALLOC(calloc, (std::size_t count, std::size_t size), (count, size))
+FORWARD_MALLOC(realloc, (void* former, std::size_t size), (former, size))
+FORWARD_MALLOC(memalign, (std::size_t alignment, std::size_t size), (alignment, size))
 
 extern "C" void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept
 {

@@ -4,25 +4,22 @@ can hold whose power fails then: the data of a file as far as they were flushed,
 its last flush, or after any number of the changes since. Never may the only copy be gone, or a name lead to a file that
 is not whole; after a success told, the result is there. Needs strace."""
 
+import itertools
 import os
 import re
 import subprocess
 import sys
 
-from server import scratch, write
+from server import scratch, window_at, write
 
 WINDOW_JOB, CLI, LIBRARY = map(os.path.abspath, sys.argv[1:4])
-TRACED = "open,openat,write,pwrite64,fsync,fdatasync,linkat,renameat,renameat2,unlink,unlinkat,close"
-TMPFILE = "O_TMPFILE"
 RENAMING = ("linkat", "renameat", "renameat2", "unlink", "unlinkat")
+TRACED = ",".join(("open", "openat", "write", "pwrite64", "fsync", "fdatasync", "close", *RENAMING))
 
-# Name: program, operation, whether an output is there before, and what the file system cannot do.
-FILE_SYSTEMS = {"": "", " without nameless files": "O_TMPFILE", " nor RENAME_NOREPLACE": "O_TMPFILE noreplace",
-                " nor hard links": "O_TMPFILE noreplace link", " without RENAME_EXCHANGE": "exchange",
-                " with none of them": "O_TMPFILE noreplace link exchange"}
-JOBS = [(program, operation, former, name, without)
-        for program in ("console", "window") for operation in ("encrypt", "decrypt") for former in (False, True)
-        for name, without in FILE_SYSTEMS.items()]
+# The program, the operation, whether an output is there before, and what the file system lacks.
+JOBS = list(itertools.product(("console", "window"), ("encrypt", "decrypt"), (False, True),
+                              ("", "O_TMPFILE", "O_TMPFILE noreplace", "O_TMPFILE noreplace link", "exchange",
+                               "O_TMPFILE noreplace link exchange")))
 
 
 class Disk:
@@ -52,14 +49,14 @@ class Disk:
         elif call in ("fsync", "fdatasync") and handle[0] in self.open:
             self.flushed(self.open[handle[0]])
         elif call in RENAMING and (names[-1].startswith(self.folder) or f"<{self.folder}" in words):
-            self.renamed(call, [os.path.basename(name) for name in names], names, words)
+            self.change(self.renamed(call, [os.path.basename(name) for name in names], names, words))
 
     def opened(self, handle, path, words):
         name = os.path.basename(path)
-        if TMPFILE in words or "O_CREAT" in words and name not in self.names:
+        if "O_TMPFILE" in words or "O_CREAT" in words and name not in self.names:
             self.made += 1
             self.open[str(handle)] = f"new {self.made}"
-            if TMPFILE not in words:
+            if "O_TMPFILE" not in words:
                 self.change({**self.names, name: f"new {self.made}"})
         else:
             self.open[str(handle)] = "folder" if "O_DIRECTORY" in words else self.names.get(name, path)
@@ -79,7 +76,7 @@ class Disk:
             now[names[0]], now[names[1]] = now[names[1]], now[names[0]]
         else:
             now[names[1]] = now.pop(names[0])
-        self.change(now)
+        return now
 
     def change(self, names):
         self.names = names
@@ -99,7 +96,7 @@ def problem_at(disk, operation, former, gives_up):
 
 
 def run(job, folder):
-    program, operation, former, _, without = job
+    program, operation, former, without = job
     os.chdir(folder)
     for name in os.listdir():
         os.remove(name)
@@ -140,17 +137,8 @@ def joined(lines):
             yield line
 
 
-def environment(home):
-    os.makedirs(f"{home}/Tessaly")
-    write(f"{home}/Tessaly/Quillet.conf",
-          b"[General]\nUseConfirmPassword=false\nDeleteSourceFileAfterEncryption=true\nRewriteOutputFile=true\n"
-          b"ConfirmDeleteSourceFileAfterEncryption=false\n")
-    os.environ.update({name: home for name in ("HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_DATA_HOME",
-                                               "XDG_RUNTIME_DIR")}, QT_QPA_PLATFORM="offscreen", LANGUAGE="en_US")
-
-
 with scratch() as home:
-    environment(home)
+    os.environ.update(window_at(home, RewriteOutputFile=True), QT_QPA_PLATFORM="offscreen")
     os.mkdir(f"{home}/work")
     failures = moments = 0
     for job in JOBS:
@@ -158,7 +146,7 @@ with scratch() as home:
         moments += checked
         if problem:
             failures += 1
-            print(f"{job[0]} {job[1]}{', output exists' * job[2]}{job[3]}: {problem}", flush=True)
+            print(f"{job[0]} {job[1]}{', output exists' * job[2]}, without ({job[3]}): {problem}", flush=True)
     print(f"{len(JOBS)} jobs, {moments} moments, {failures} failures")
     os.chdir("/")
 sys.exit(failures > 0)

@@ -1,10 +1,12 @@
 """CALLS: what may fail. Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one
-call failing in each run, and counts runs and complaints in a table of jobs and calls."""
+call failing in each run. Sweep: does so with every call of every job, and counts runs and complaints in a table."""
 
+import argparse
 import collections
 import errno
 import os
 import subprocess
+import sys
 import tempfile
 
 # What may happen at a call: an error, or one of these, which are those of failing_calls.cpp.
@@ -74,12 +76,50 @@ class Server:
         return Run(status, calls, read(self.streams["stderr"]).decode(errors="replace"), read(self.streams["stdout"]))
 
 
-class Table:
-    """Runs and complaints, by job and call."""
+class Sweep:
+    """A folder for the jobs, and runs and complaints by job and call."""
 
-    def __init__(self):
+    def __init__(self, *programs):
+        parser = argparse.ArgumentParser()
+        for program in programs:
+            parser.add_argument(program, type=os.path.abspath)
+        parser.add_argument("--every", type=int, default=1)
+        parser.add_argument("--job", dest="jobs", action="append")
+        self.arguments = parser.parse_args()
         self.runs = collections.Counter()
         self.complaints = collections.Counter()
+        self.scratch = scratch()
+        self.home = self.scratch.name
+        self.folder = os.path.join(self.home, "work")
+        os.mkdir(self.folder)
+        os.chdir(self.folder)
+
+    def all(self, jobs, sweep_job, *others):
+        """Sweeps the jobs, and does what else there is, or sweeps only those that were named; ends the program."""
+        for name, job in jobs.items():
+            if name in (self.arguments.jobs or jobs):
+                sweep_job(name, job)
+        for other in others if not self.arguments.jobs else ():
+            other()
+        os.chdir("/")
+        self.scratch.cleanup()
+        self.show()
+        sys.exit(any(self.complaints.values()))
+
+    def calls(self, job, judge, choose=dict.items, threads="all"):
+        """Lets each call fail, on whatever thread, and of the allocations on these threads each N-th."""
+        self.add(job, "none", NOTHING, 0, judge.normal, judge(judge.normal, "none", NOTHING, False))
+        for call, ways in CALLS.items():
+            for way, matters in choose(ways):
+                step = (self.arguments.every, threads) if call == "malloc" else (1, "all")
+                self.each(job, judge.run, call, way, lambda run: judge(run, call, way, matters), *step)
+
+    def each(self, job, run, call, way, judge, step=1, threads="all"):
+        """Lets the n-th call fail for every n, or every step-th, until there is none."""
+        at = 1
+        while (done := run(call, at, way, threads)).calls >= at:
+            self.add(job, call if threads == "all" else f"{call} of {threads}", way, at, done, judge(done))
+            at += step
 
     def add(self, job, call, way, at, run, problem):
         self.runs[job, call] += 1
@@ -88,34 +128,42 @@ class Table:
             print(f"{job}: {call} #{at}, {WAYS.get(way, way)}: {problem}: {run.told.strip()}", flush=True)
 
     def show(self):
-        """True when nothing failed."""
-        calls = list(dict.fromkeys(call for _, call in self.runs))
-        jobs = list(dict.fromkeys(job for job, _ in self.runs))
+        jobs, calls = (list(dict.fromkeys(names)) for names in zip(*self.runs))
         width = max(map(len, jobs)) + 1
         print("runs".ljust(width), *(call[:9].rjust(9) for call in calls), "    total failures")
         for job in jobs:
             of_job = [self.runs[job, call] for call in calls]
-            failures = sum(self.complaints[job, call] for call in calls)
-            print(job.ljust(width), *(str(runs).rjust(9) for runs in of_job), str(sum(of_job)).rjust(9),
-                  str(failures).rjust(8))
+            numbers = [*of_job, sum(of_job), sum(self.complaints[job, call] for call in calls)]
+            print(job.ljust(width), *(str(number).rjust(9) for number in numbers))
         print(f"{sum(self.runs.values())} runs, {sum(self.complaints.values())} failures")
-        return not any(self.complaints.values())
 
 
-def sweep(run, job, call, way, judge, table, step=1, threads="all"):
-    """Lets the n-th call fail for every n, or every step-th, until there is none."""
-    at = 1
-    while True:
-        done = run(call, at, way, threads)
-        if done.calls < at:
-            return
-        table.add(job, call if threads == "all" else f"{call} of {threads}", way, at, done, judge(done))
-        at += step
+class Judge:
+    """Runs one job, and says what is wrong with what it told and left."""
+
+    def __init__(self, files, job, server):
+        self.files, self.job, self.server = files, job, server
+        self.normal = self.run()
+
+    def run(self, *order):
+        self.prepare()
+        return self.server.run(*order)
 
 
 def scratch():
     """A folder in memory, where there is one."""
     return tempfile.TemporaryDirectory(dir="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
+
+
+def window_at(home, **settings):
+    """The environment of a window that has its own files there, with these settings."""
+    os.makedirs(f"{home}/Tessaly", exist_ok=True)
+    settings = {"UseConfirmPassword": False, "DeleteSourceFileAfterEncryption": True,
+                "ConfirmDeleteSourceFileAfterEncryption": False, **settings}
+    lines = ["[General]", *(f"{name}={str(bool(value)).lower()}" for name, value in settings.items()), ""]
+    write(f"{home}/Tessaly/Quillet.conf", "\n".join(lines).encode())
+    places = "HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"
+    return {**{name: home for name in places}, "LANGUAGE": "en_US", "QT_LOGGING_RULES": "*=false"}
 
 
 def read(name):

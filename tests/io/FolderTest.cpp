@@ -41,22 +41,18 @@ TEST_F(FolderTest, NewFilesAreForThoseTheyAreMeantForAlone)
         status.group = ::getegid() + (isOwnGroup ? 0 : 1);
         return Access::noMoreThan(status);
     };
-    const struct
-    {
-        Access access;
-        unsigned mode;
-    } rows[] = {
+    const std::pair<Access, unsigned> rows[] = {
         {Access::ownerOnly(), 0600},           {Access::byUmask(), 0666 & ~mask},
         {meantFor(0640, true), 0640 & ~mask},  {meantFor(0640, false), 0600},
         {meantFor(0664, false), 0644 & ~mask}, {meantFor(04755, true), 0644 & ~mask},
     };
-    for (const auto& row : rows) {
+    for (const auto& [access, mode] : rows) {
         fs::remove(folder / "new");
         File file;
         const SystemCall beforeItIsGranted("fstat", SystemCall::Works, 1,
                                            [this] { EXPECT_EQ(permissionsOf("new"), fs::perms(0600)); });
-        EXPECT_TRUE(opened.createNew("new", row.access, file).ok());
-        EXPECT_EQ(permissionsOf("new"), fs::perms(row.mode));
+        EXPECT_TRUE(opened.createNew("new", access, file).ok());
+        EXPECT_EQ(permissionsOf("new"), fs::perms(mode));
     }
     folder.write("there", "there");
     File file;

@@ -22,12 +22,7 @@ TEST(PathCheck, TellsWhatStandsThereAndChangesNothing)
     fs::create_symlink("other", folder / "linkToOther");
     fs::create_hard_link(folder / "file", folder / "hard");
     ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
-    const struct
-    {
-        const char* name;
-        InputCheck asInput;
-        OutputCheck asOutput;
-    } rows[] = {
+    const std::tuple<const char*, InputCheck, OutputCheck> rows[] = {
         {"new", InputCheck::NotFound, OutputCheck::Free},
         {"other", InputCheck::Usable, OutputCheck::Exists},
         {"file", InputCheck::Usable, OutputCheck::MatchesInput},
@@ -43,9 +38,9 @@ TEST(PathCheck, TellsWhatStandsThereAndChangesNothing)
         {"nofolder/new", InputCheck::NotFound, OutputCheck::NoFolder},
         {"other/new", InputCheck::NotFound, OutputCheck::NoFolder},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(checkInput(folder.at(row.name)), row.asInput) << row.name;
-        EXPECT_EQ(checkOutput(folder.at("file"), folder.at(row.name)), row.asOutput) << row.name;
+    for (const auto& [name, asInput, asOutput] : rows) {
+        EXPECT_EQ(checkInput(folder.at(name)), asInput) << name;
+        EXPECT_EQ(checkOutput(folder.at("file"), folder.at(name)), asOutput) << name;
     }
     EXPECT_EQ(checkOutput(folder.at("file"), "a name in the working folder"), OutputCheck::Free);
     EXPECT_FALSE(fs::exists(folder / "new"));

@@ -36,12 +36,11 @@ class Owner
 public:
     Owner() : m_job(m_encryptors, m_decryptors, m_dispatcher)
     {
-        using News = CMsgDispatcher;
-        QObject::connect(&m_dispatcher, &News::notifyEncryptStarted, &m_loop,
+        QObject::connect(&m_dispatcher, &CMsgDispatcher::notifyEncryptStarted, &m_loop,
                          [this] { hear(Moment::WhenItHasStarted); });
-        QObject::connect(&m_dispatcher, &News::notifyEncryptProgress, &m_loop,
+        QObject::connect(&m_dispatcher, &CMsgDispatcher::notifyEncryptProgress, &m_loop,
                          [this] { hear(Moment::WhenItIsAtWork); });
-        QObject::connect(&m_dispatcher, &News::notifyEncryptFinished, &m_loop, &QEventLoop::quit);
+        QObject::connect(&m_dispatcher, &CMsgDispatcher::notifyEncryptFinished, &m_loop, &QEventLoop::quit);
     }
 
     SEncryptData run(SEncryptData request, Moment moment, int looks)
@@ -77,19 +76,6 @@ private:
     CFileJob m_job;
 };
 
-SEncryptData requestOf(Operation operation, const fs::path& input, const fs::path& output,
-                       const char* password)
-{
-    SEncryptData data;
-    data.operation = operation;
-    data.selection = Aes;
-    data.request.input = input;
-    data.request.output = output;
-    data.request.password = tessaly::SecretText(password);
-    data.request.cost = {1, 32, 4}; // the least that Argon2 takes, for the file that may be a sealed one
-    return data;
-}
-
 /// Languages and the log are switched meanwhile; the worker words its failures, and every part logs.
 TEST(Races, TheWindowsJobStartsAndStopsManyTimes)
 {
@@ -100,11 +86,18 @@ TEST(Races, TheWindowsJobStartsAndStopsManyTimes)
     Translators translators(translations);
     tessaly::logger::FileLogging logging(folder / "log");
     Owner owner;
-    const fs::path encrypted = folder.at("encrypted");
-    const fs::path output = folder.at("out");
-    ASSERT_TRUE(
-        owner.run(requestOf(Operation::Encrypt, folder.at("in"), encrypted, "right"), Moment::Never, 0)
-            .outcome.done());
+    const auto run = [&](bool isEncryption, const char* output, const char* password, Moment moment,
+                         int looks) {
+        SEncryptData data;
+        data.operation = isEncryption ? Operation::Encrypt : Operation::Decrypt;
+        data.selection = Aes;
+        data.request.input = folder.at(isEncryption ? "in" : "encrypted");
+        data.request.output = folder.at(output);
+        data.request.password = tessaly::SecretText(password);
+        data.request.cost = {1, 32, 4}; // the least that Argon2 takes, for the file that may be a sealed one
+        return owner.run(std::move(data), moment, looks);
+    };
+    ASSERT_TRUE(run(true, "encrypted", "right", Moment::Never, 0).outcome.done());
     int ended[3] = {};
     for (int round = 0; round < Rounds; ++round) {
         if (round % 20 == 0) { // it reads a file
@@ -113,20 +106,17 @@ TEST(Races, TheWindowsJobStartsAndStopsManyTimes)
         }
         logging.setLevel(round % 2 == 0 ? tessaly::logger::Trace : tessaly::logger::Off);
         logging.setLogFileUsed(round % 10 < 5);
-        const bool isEncryption = round % 3 == 0;
         const bool isWrong = round % 3 == 1;
         const auto moment = static_cast<Moment>(round % static_cast<int>(Moment::Count));
-        const SEncryptData job = owner.run(requestOf(isEncryption ? Operation::Encrypt : Operation::Decrypt,
-                                                     isEncryption ? folder.at("in") : encrypted, output,
-                                                     isWrong ? "wrong" : "right"),
-                                           moment, round / 4 % 100);
+        const SEncryptData job =
+            run(round % 3 == 0, "out", isWrong ? "wrong" : "right", moment, round / 4 % 100);
         SCOPED_TRACE(round);
         EXPECT_TRUE(job.request.password.empty());
-        EXPECT_EQ(fs::exists(output), job.outcome.done());
+        EXPECT_EQ(fs::exists(folder / "out"), job.outcome.done());
         EXPECT_EQ(job.errorText.empty(), job.outcome.result.ok());
         EXPECT_TRUE(moment != Moment::Never || job.outcome.done() == !isWrong);
         ++ended[job.outcome.done() ? 0 : job.outcome.cancelled ? 1 : 2];
-        fs::remove(output);
+        fs::remove(folder / "out");
     }
     for (const int count : ended)
         EXPECT_GT(count, Rounds / 20);

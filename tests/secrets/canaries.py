@@ -1,10 +1,11 @@
 #!/usr/bin/python3
 """canaries.py QUILLET QUILLET_CLI: gives passwords, keys and initialisation vectors to both programs in every
 place that takes them, and looks for them afterwards: in all the memory of the program, which it is held at its end
-for, in what it wrote (log at its highest level, settings, messages) and in its arguments. Runs on an X server and a
-bus of its own, with accessibility on. Libraries are bound at the start: where a function is called for the first
-time, the loader would save the registers on the stack, which nobody can wipe."""
+for, in what it wrote (log at its highest level, settings, messages) and in its arguments. Needs an X server and a bus
+of its own, and LD_BIND_NOW: where a function is called for the first time, the loader would save the registers on the
+stack, which nobody can wipe."""
 import os
+import pathlib
 import pty
 import random
 import re
@@ -15,19 +16,14 @@ import tempfile
 import termios
 import time
 
-from screen import PATIENCE, Screen, eventually
 from traced import Traced
 
-if "QUILLET_CANARIES" not in os.environ:
-    sys.exit(subprocess.run(
-        ["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -dpi 96 -noreset", "dbus-run-session", "--", sys.executable,
-         "-B", *sys.argv], env=os.environ | {"QUILLET_CANARIES": "1", "LD_BIND_NOW": "1"}, timeout=580).returncode)
+sys.path.insert(1, os.path.join(sys.path[0], "../support"))
+from screen import PATIENCE, Screen, eventually  # noqa: E402
 
 QUILLET, CLI = sys.argv[1:]
 ENCODINGS = ("utf-8", "utf-16-le", "utf-32-le")
 UNDO = 16  # bytes of an entry of the toolkit's undo history, which begins with the letter
-
-
 # Every eight letters or bytes of a canary begin with these, by which a search is soon through.
 LETTERS, BYTES = "qzx", b"\xf1\x7e\xc3"
 
@@ -37,13 +33,15 @@ class Canary:
 
     def __init__(self, text=None, size=0):
         self.text, self.forms = text, []
-        pieces = [(text[at:at + 8]) for at in range(0, len(text) - 7, 8)] if text else [
-            BYTES + random.randbytes(5) for _ in range(size // 8)]
-        if text is None:
+        if text:
+            words = [text[at:at + 8] for at in range(0, len(text) - 7, 8)]
+            digits = [word.encode()[:4].hex() for word in words]
+        else:
+            words, pieces = [], [BYTES + random.randbytes(5) for _ in range(size // 8)]
+            digits = [piece[:4].hex() for piece in pieces]
             self.text = b"".join(pieces).hex()
             self.forms = [("bytes", BYTES, piece) for piece in pieces]
-        digits = [(piece if text is None else piece.encode())[:4].hex() for piece in pieces]
-        for piece in (pieces if text else []) + digits + [digit.upper() for digit in digits]:
+        for piece in words + digits + [digit.upper() for digit in digits]:
             for encoding in ENCODINGS:
                 form = piece.encode(encoding)
                 self.forms.append((f"{piece} in {encoding}", form[:len(form) * 3 // 8], form))
@@ -83,40 +81,41 @@ class Report:
         self.tell(place, found)
 
     def written(self, place, folder, canaries):
-        found = []
-        for path in (os.path.join(parent, name) for parent, _, names in os.walk(folder) for name in names):
-            if os.path.isfile(path) and not path.endswith((".key", ".password")):
-                with open(path, "rb") as stream:
-                    content = stream.read()
-                found += [f"{form} in {path}" for canary in canaries for form in canary.seen_in(content)]
-        self.tell(place, found)
+        files = [path for path in pathlib.Path(folder).rglob("*")
+                 if path.is_file() and path.suffix not in (".key", ".password")]
+        self.tell(place, [f"{form} in {path}" for path in files for canary in canaries
+                          for form in canary.seen_in(path.read_bytes())])
 
-
-# The console
 
 def write(path, text):
-    with open(path, "w") as stream:
-        stream.write(text)
+    pathlib.Path(path).write_text(text)
     return path
 
 
 def console_cases(home, right, wrong, key, iv):
     """What is asked of the console, the canaries that it gets, what it is told on its way, and its exit code."""
-    files = {name: write(f"{home}/{name}.password", canary.text + "\n") for name, canary in
-             (("right", right), ("wrong", wrong))}
-    keys = ["--key-file", write(f"{home}/k.key", key.text), "--iv-file", write(f"{home}/iv.key", iv.text)]
-    letter = f"{home}/letter"
-    for seal in ([], ["--seal"]):
-        out = letter + "".join(seal)
-        kind = "sealed" if seal else "plain"
-        yield f"{kind} encryption", ["encrypt", *seal, "--password-file", files["right"], "-o", out + ".p", letter], [right], None, 0
-        yield f"{kind} decryption", ["decrypt", "--password-file", files["right"], "-o", out + ".d", out + ".p"], [right], None, 0
-        yield f"{kind}, wrong password", ["decrypt", "--password-file", files["wrong"], "-o", out + ".w", out + ".p"], [right, wrong], None, 3
-        yield f"{kind}, by key", ["encrypt", *seal, *keys, "-o", out + ".k", letter], [key, iv], None, 0
-    yield "typed", ["encrypt", "-o", f"{home}/typed", letter], [right], [right.text + "\n", right.text + "\n"], 0
-    yield "typed, other confirmation", ["encrypt", "-o", f"{home}/no", letter], [right, wrong], [right.text + "\n", wrong.text + "\n"], 1
-    yield "stopped while it is typed", ["encrypt", "-o", f"{home}/no", letter], [right], [right.text + "\n", right.text[:20] + "\x03"], 130
-    yield "stopped at work", ["encrypt", "--password-file", files["right"], "-o", f"{home}/no", "-"], [right], signal.SIGINT, 130
+    by_right, by_wrong = (["--password-file", write(f"{home}/{name}.password", canary.text + "\n")]
+                          for name, canary in (("right", right), ("wrong", wrong)))
+    by_key = ["--key-file", write(f"{home}/k.key", key.text), "--iv-file", write(f"{home}/iv.key", iv.text)]
+    letter, none = f"{home}/letter", f"{home}/none"
+    for kind, seal in ("plain", []), ("sealed", ["--seal"]):
+        out = f"{home}/{kind}"
+        yield f"{kind} encryption", ["encrypt", *seal, *by_right, "-o", out, letter], [right], None, 0
+        yield f"{kind} decryption", ["decrypt", *by_right, "-o", out + ".d", out], [right], None, 0
+        yield f"{kind}, wrong password", ["decrypt", *by_wrong, "-o", out + ".w", out], [right, wrong], None, 3
+        yield f"{kind}, by key", ["encrypt", *seal, *by_key, "-o", out + ".k", letter], [key, iv], None, 0
+    twice, other, cut = ([right.text + "\n", second] for second in
+                         (right.text + "\n", wrong.text + "\n", right.text[:20] + "\x03"))
+    yield "typed", ["encrypt", "-o", f"{home}/typed", letter], [right], twice, 0
+    yield "typed, other confirmation", ["encrypt", "-o", none, letter], [right, wrong], other, 1
+    yield "stopped while it is typed", ["encrypt", "-o", none, letter], [right], cut, 130
+    yield "stopped at work", ["encrypt", *by_right, "-o", none, f"{home}/zeros"], [right], signal.SIGINT, 130
+
+
+def seconds_of(program):
+    """What it has calculated."""
+    stat = pathlib.Path(f"/proc/{program.pid}/stat").read_text()
+    return int(stat.rpartition(")")[2].split()[11]) / os.sysconf("SC_CLK_TCK")
 
 
 def answer_prompts(master, answers):
@@ -130,20 +129,19 @@ def answer_prompts(master, answers):
 
 def run_console(report, home):
     right, wrong, key, iv = password(), password(), Canary(size=32), Canary(size=16)
-    with open(f"{home}/letter", "wb") as stream:
-        stream.write(random.randbytes(300000))
+    pathlib.Path(home, "letter").write_bytes(random.randbytes(300000))
+    os.truncate(write(f"{home}/zeros", ""), 8 << 30)
     for place, arguments, canaries, told, expected in console_cases(home, right, wrong, key, iv):
         master, terminal = pty.openpty()
         settings = termios.tcgetattr(terminal)
         settings[1] &= ~termios.OPOST
         termios.tcsetattr(terminal, termios.TCSANOW, settings)
-        at_work = isinstance(told, signal.Signals)
         with open(f"{home}/messages", "ab") as messages:
-            program = Traced([CLI, *arguments], terminal=terminal, stdin=subprocess.PIPE if at_work else terminal,
-                             stdout=messages, stderr=messages)
-        if at_work:
-            program.process.stdin.write(bytes(1 << 20))  # more than a pipe holds: it has been read
-            program.send(told)
+            program = Traced([CLI, *arguments], terminal=terminal, stdin=terminal, stdout=messages, stderr=messages)
+        if isinstance(told, signal.Signals):
+            eventually(lambda: seconds_of(program) > 0.2, "it does not work")
+            report.await_clean(f"console, {place}, before", program, *canaries)
+            os.kill(program.pid, told)
         elif told:
             answer_prompts(master, told)
         program.hold_at_end()
@@ -152,10 +150,9 @@ def run_console(report, home):
             report.tell(f"console, {place}", [f"ended with {code}"])
         os.close(master)
         os.close(terminal)
+    os.remove(f"{home}/zeros")
     report.written("console, files and messages", home, [right, wrong, key, iv])
 
-
-# The window
 
 class Window:
     def __init__(self, report, home, screen):
@@ -214,16 +211,10 @@ class Window:
     def encryption(self, shown=False):
         dialog, secret = self.open("F5", "Password to encrypt"), password()
         if shown:
-            self.screen.key("s", "Alt_L")
-            self.screen.key("p", "Alt_L")
-        self.screen.type(secret.text)
-        self.screen.key("Tab")
-        self.screen.type(secret.text)
+            self.screen.key("Alt_L+s", "Alt_L+p")
+        self.screen.type(secret.text, secret.text)
         self.await_typed(secret)
         return dialog, "Password to", [secret]
-
-    def shown_encryption(self):
-        return self.encryption(True)
 
     def decryption(self, secret=None):
         dialog, secret = self.open("F6", "Password to decrypt"), secret or password()
@@ -234,24 +225,17 @@ class Window:
     def key_and_iv(self):
         """By way of a password that is typed and left."""
         _, _, secrets = self.encryption()
-        self.screen.key("p", "Alt_L")
-        for _ in range(3):
-            self.screen.key("Tab", "Shift_L")
-        self.screen.key("space")
+        self.screen.key("Alt_L+p", *["Shift_L+Tab"] * 3, "space")
         dialog, key, iv = self.screen.await_window("Key and IV"), Canary(size=32), Canary(size=16)
-        self.screen.type(iv.text)
-        self.screen.key("Tab")
-        self.screen.type(key.text)
+        self.screen.type(iv.text, key.text)
         self.await_typed(key, iv)
         return dialog, "Key and IV", [*secrets, key, iv]
 
     def generator(self):
         outer = self.open("F5", "Password to encrypt")
-        self.screen.key("g", "Alt_L")
+        self.screen.key("Alt_L+g")
         dialog = self.screen.await_window("Generate a password")
-        self.screen.key("m", "Alt_L")
-        self.screen.key("Down")  # no words, which are in a list
-        self.screen.key("c", "Alt_L")
+        self.screen.key("Alt_L+m", "Down", "Alt_L+c")  # no words, which are in a list
         secret = Canary(eventually(self.screen.clipboard, "nothing on the clipboard"))
         self.await_typed(secret)
         self.screen.take_clipboard()
@@ -260,11 +244,12 @@ class Window:
     # The places
 
     def leave(self):
-        for fill in (self.encryption, self.shown_encryption, self.decryption, self.key_and_iv):
+        for name, fill in (("encryption", self.encryption), ("shown encryption", lambda: self.encryption(True)),
+                           ("decryption", self.decryption), ("key and IV", self.key_and_iv)):
             for way in ("Escape", "Cancel", "close"):
                 dialog, title, secrets = fill()
                 self.away(way, dialog, title)
-                self.check(f"{fill.__name__.replace('_', ' ')} left by {way}", *secrets)
+                self.check(f"{name} left by {way}", *secrets)
 
     def generate(self):
         for way in ("Return", "Escape", "close"):
@@ -298,7 +283,7 @@ class Window:
 
     def end(self, place, *canaries):
         self.seen += canaries
-        self.program.send(signal.SIGTERM)
+        os.kill(self.program.pid, signal.SIGTERM)
         self.program.hold_at_end()
         self.check(place, *canaries)
         self.program.end()
@@ -319,6 +304,7 @@ def run_window(report, home):
     report.written("window, files and messages", home, window.seen)
 
 
+signal.signal(signal.SIGINT, signal.default_int_handler)  # ignored below a shell that does other work meanwhile
 with tempfile.TemporaryDirectory() as console, tempfile.TemporaryDirectory() as windowed:
     report = Report()
     run_console(report, console)

@@ -8,7 +8,7 @@ import signal
 import subprocess
 import termios
 
-PTRACE_TRACEME, PTRACE_CONT, PTRACE_DETACH, PTRACE_SETOPTIONS = 0, 7, 17, 0x4200
+PTRACE_TRACEME, PTRACE_CONT, PTRACE_SETOPTIONS = 0, 7, 0x4200
 CHUNK = 1 << 16
 EXIT_KILL, TRACE_EXIT, EVENT_EXIT = 1 << 20, 1 << 6, 6
 libc = ctypes.CDLL(None, use_errno=True)
@@ -39,9 +39,7 @@ class Traced:
         self.held = False
 
     def end(self):
-        """Its exit code, or what killed it as a negative number. Held at the end, it is let go."""
-        if not self.held:
-            self.hold_at_end()
+        """Its exit code, or what killed it as a negative number, of a program that is held at its end."""
         ptrace(PTRACE_CONT, self.pid)
         self.process.returncode = os.waitstatus_to_exitcode(os.waitpid(self.pid, 0)[1])
         self.memory.close()
@@ -50,53 +48,39 @@ class Traced:
 
     def hold_at_end(self):
         """Returns when it has done all it does; its memory is still there."""
-        while True:
-            status = os.waitpid(self.pid, 0)[1]
-            if not os.WIFSTOPPED(status):
-                raise RuntimeError(f"ended unseen: {status}")
-            if status >> 16 == EVENT_EXIT:
-                self.held = True
-                return
-            self._pass_on(status)
+        while not self.held:
+            self.poll(0)
 
-    def poll(self):
-        """Hands signals on; False when the program is at its end."""
+    def poll(self, options=os.WNOHANG):
+        """Hands signals on."""
         if self.held:
-            return False
-        pid, status = os.waitpid(self.pid, os.WNOHANG)
-        if pid == 0:
-            return True
-        if status >> 16 == EVENT_EXIT or not os.WIFSTOPPED(status):
+            return
+        pid, status = os.waitpid(self.pid, options)
+        if pid and not os.WIFSTOPPED(status):
+            raise RuntimeError(f"ended unseen: {status}")
+        if pid and status >> 16 == EVENT_EXIT:
             self.held = True
-            return False
-        self._pass_on(status)
-        return True
-
-    def _pass_on(self, status):
-        number = os.WSTOPSIG(status)
-        ptrace(PTRACE_CONT, self.pid, 0 if number == signal.SIGTRAP else number)
-
-    def send(self, number):
-        os.kill(self.pid, number)
+        elif pid:
+            number = os.WSTOPSIG(status)
+            ptrace(PTRACE_CONT, self.pid, 0 if number == signal.SIGTRAP else number)
 
     def mappings(self):
-        """(first, last, permissions, name) of all that can be read and is not just a file's content."""
+        """(first, last, name) of all that can be read and is not just a file's content."""
         self.maps.seek(0)
         text = b"".join(iter(lambda: self.maps.read(1 << 16), b"")).decode(errors="replace")
         for first, last, permissions, inode, name in re.findall(
                 r"(?m)^(\w+)-(\w+) (\S+) \S+ \S+ (\d+) *(.*)$", text):
             if permissions[0] == "r" and (permissions[1] == "w" or inode == "0") and name not in ("[vvar]", "[vsyscall]"):
-                yield int(first, 16), int(last, 16), permissions, name
+                yield int(first, 16), int(last, 16), f"{first} {permissions} {name}"
 
     def read(self):
         """(where, bytes) of each mapping; pages that nobody has touched are left out."""
-        for first, last, permissions, name in self.mappings():
+        for first, last, name in self.mappings():
             pages = []
             for at in range(first, last, CHUNK):
                 try:
                     pages.append(os.pread(self.memory.fileno(), min(CHUNK, last - at), at))
                 except OSError:  # gone meanwhile
                     break
-            content = b"".join(page for page in pages if page.count(0) < len(page))
-            if content:
-                yield f"{first:x} {permissions} {name}", content
+            if content := b"".join(page for page in pages if page.count(0) < len(page)):
+                yield name, content

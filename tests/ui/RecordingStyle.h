@@ -5,7 +5,7 @@
 #include <QStyleOptionButton>
 #include <vector>
 
-/// The program's style as long as it lives: it remembers what it draws.
+/// A style of the program that remembers what it draws.
 class RecordingStyle final : public QProxyStyle
 {
 public:
@@ -17,12 +17,28 @@ public:
         QColor color;
     };
 
-    /// Makes one that the application owns.
+    /// Makes one that the application owns, until the end of the test.
     static RecordingStyle& use()
     {
         auto* style = new RecordingStyle;
         QApplication::setStyle(style);
         return *style;
+    }
+    /// Draws the widget; what was drawn before is forgotten.
+    void draw(QWidget& widget) const
+    {
+        texts.clear();
+        primitives.clear();
+        widget.grab();
+    }
+    /// Where such elements were drawn.
+    std::vector<QRect> drawn(PrimitiveElement wanted) const
+    {
+        std::vector<QRect> places;
+        for (const auto& [element, rect] : primitives)
+            if (element == wanted)
+                places.push_back(rect);
+        return places;
     }
 
     void drawItemText(QPainter* painter, const QRect& rect, int alignment, const QPalette& palette,
@@ -46,8 +62,9 @@ public:
     }
 
     mutable std::vector<SText> texts;
-    mutable std::vector<std::pair<PrimitiveElement, QRect>> primitives;
 
 private:
     RecordingStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    mutable std::vector<std::pair<PrimitiveElement, QRect>> primitives;
 };

@@ -1,32 +1,58 @@
 #pragma once
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
+#include "ui/style/MessageStyle.h"
+
 #include <QTest>
-#include <QTimer>
-#include <QTranslator>
-#include <algorithm>
+#include <QtWidgets>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <ostream>
 #include <utility>
 
-/// Finds a form's widget by its object name; ends the program when there is none.
+using thisapp::MessageKind;
+
+/// Finds a form's widget by its object name, or by those of its frame and its own, "frame/name"; ends the
+/// program when there is none.
 template <class Widget = QWidget>
-Widget& child(QWidget& form, const char* name)
+Widget& child(QWidget& form, const QString& path)
 {
-    auto* found = form.findChild<Widget*>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget named %s", name);
-    return *found;
+    QWidget* found = &form;
+    for (const QString& name : path.split('/'))
+        if ((found = found->findChild<QWidget*>(name)) == nullptr)
+            qFatal("no widget %s", qPrintable(path));
+    return dynamic_cast<Widget&>(*found);
+}
+
+/// What a form's widget shows.
+inline QString text(QWidget& form, const QString& path)
+{
+    QString shown;
+    for (const char* property : {"text", "plainText", "currentText", "title"})
+        shown += child(form, path).property(property).toString();
+    return shown;
+}
+
+inline QString kindName(MessageKind kind)
+{
+    return QStringList{"Plain", "Success", "Warning", "Error"}.at(static_cast<int>(kind));
+}
+
+/// The kind of message that the text's colour stands for.
+inline MessageKind shownKind(const QWidget& widget)
+{
+    const bool field = qobject_cast<const QLineEdit*>(&widget) != nullptr;
+    const QColor color = widget.palette().color(field ? QPalette::Text : QPalette::WindowText);
+    for (const MessageKind kind : {MessageKind::Success, MessageKind::Warning, MessageKind::Error})
+        if (color == messageColor(kind, widget.window()->palette()))
+            return kind;
+    return MessageKind::Plain;
 }
 
 /// Whether the condition comes true, on however slow a machine.
 inline bool comesTrue(const std::function<bool()>& condition)
 {
-    constexpr int Patience = 20000;
+    constexpr int Patience = 10000;
     return QTest::qWaitFor(condition, Patience);
 }
 
@@ -38,40 +64,63 @@ inline void open(QWidget& window)
     ASSERT_TRUE(comesTrue([&window] { return window.isActiveWindow(); }));
 }
 
-inline QWidgetList buttonsThatAreDown()
+/// A test of one dialog.
+template <class Dialog>
+struct DialogTest : testing::Test
 {
-    QWidgetList down;
+    QString text(const QString& path) { return ::text(dialog, path); }
+    bool isEnabled(const QString& path) { return child(dialog, path).isEnabled(); }
+    /// The dialog's message, with the kind that its colour stands for: "Error: It failed."
+    QString message()
+    {
+        const MessageKind kind = shownKind(child(dialog, "lineEditMsg"));
+        const QString shown = text("lineEditMsg");
+        return shown.isEmpty() || kind == MessageKind::Plain ? shown : kindName(kind) + ": " + shown;
+    }
+    bool isVisible(const QString& path) { return child(dialog, path).isVisible(); }
+
+    Dialog dialog;
+};
+
+inline QString focusName()
+{
+    return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : QString();
+}
+
+inline QSet<QWidget*> buttonsThatAreDown()
+{
+    QSet<QWidget*> down;
     for (QWidget* widget : QApplication::allWidgets())
-        if (const auto* button = qobject_cast<QAbstractButton*>(widget);
-            button != nullptr && button->isDown())
+        if (const auto* button = qobject_cast<QAbstractButton*>(widget); button && button->isDown())
             down += widget;
     return down;
 }
 
-/// Sends a key to whatever has the focus, as a keyboard would.
-inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+/// Sends keys to whatever has the focus, as a keyboard would: "Tab Alt+G Return".
+inline void press(const char* keys)
 {
-    ASSERT_NE(QApplication::focusWidget(), nullptr);
-    const QWidgetList before = buttonsThatAreDown();
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    // A button's mnemonic shows the press before it acts.
-    EXPECT_TRUE(comesTrue([&before] {
-        const QWidgetList now = buttonsThatAreDown();
-        return std::ranges::all_of(now, [&before](QWidget* widget) { return before.contains(widget); });
-    }));
+    for (const QString& name : QString(keys).split(' ')) {
+        ASSERT_NE(QApplication::focusWidget(), nullptr) << qPrintable(name);
+        const QSet<QWidget*> before = buttonsThatAreDown();
+        const int key = QKeySequence(name)[0];
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key & ~int(Qt::KeyboardModifierMask)),
+                        Qt::KeyboardModifiers(key & int(Qt::KeyboardModifierMask)));
+        // A button's mnemonic shows the press before it acts.
+        EXPECT_TRUE(comesTrue([&before] { return before.contains(buttonsThatAreDown()); }));
+    }
 }
 
+/// Types a text; a tab in it leads to the next field, a line feed is the Return key.
 inline void type(const char* text)
 {
-    QWidget* field = QApplication::focusWidget();
-    ASSERT_NE(field, nullptr);
     for (const QChar c : QString::fromUtf8(text)) {
-        if (c.unicode() < 0x80) {
-            QTest::keyClick(field, c.toLatin1());
+        if (c == '\t' || c == '\n') {
+            press(c == '\t' ? "Tab" : "Return");
             continue;
         }
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
         QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, c);
-        QApplication::sendEvent(field, &event);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
 }
 
@@ -96,12 +145,16 @@ std::shared_ptr<bool> whenModal(Steps steps, QWidget* present = QApplication::ac
     return waiting;
 }
 
+inline std::shared_ptr<bool> answerModal(const char* keys)
+{
+    return whenModal([keys](QWidget&) { press(keys); });
+}
+
 /// Answers the question that the steps lead to; false when none was asked.
 template <class Steps>
-bool answered(Qt::Key answer, Steps steps)
+bool answered(const char* keys, Steps steps)
 {
-    const auto waiting = whenModal(
-        [answer](QWidget&) { press(answer, answer == Qt::Key_Return ? Qt::NoModifier : Qt::AltModifier); });
+    const auto waiting = answerModal(keys);
     steps();
     return !std::exchange(*waiting, false);
 }
@@ -115,10 +168,15 @@ void sendFromOutside(QWidget& window)
     qApp->notify(&window, &event);
 }
 
-/// Puts every text into capitals.
+/// Puts every text into capitals as long as it lives.
 class Capitals final : public QTranslator
 {
 public:
+    Capitals()
+    {
+        QApplication::installTranslator(this);
+        QApplication::processEvents();
+    }
     QString translate(const char*, const char* source, const char*, int) const override
     {
         return QString(source).toUpper();
@@ -126,11 +184,12 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-inline std::ostream& operator<<(std::ostream& stream, const QString& text)
-{
-    return stream << '"' << text.toStdString() << '"';
-}
 inline void PrintTo(const QString& text, std::ostream* stream)
 {
-    *stream << text;
+    *stream << '"' << text.toStdString() << '"';
+}
+inline std::ostream& operator<<(std::ostream& stream, const QString& text)
+{
+    PrintTo(text, &stream);
+    return stream;
 }

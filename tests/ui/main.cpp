@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QTemporaryDir>
+#include "ui/Widgets.h"
 
 /// LeakSanitizer's: the offscreen platform never frees its screen.
 extern "C" const char* __lsan_default_suppressions();
@@ -9,6 +6,23 @@ extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libqoffscreen.so\n";
 }
+
+namespace {
+
+/// Every test begins with the same look, whatever the one before it has changed.
+class SameLook final : public testing::EmptyTestEventListener
+{
+    void OnTestStart(const testing::TestInfo&) override
+    {
+        QApplication::setStyle("Fusion");
+        QApplication::setPalette(m_palette);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
+    QPalette m_palette = QApplication::palette();
+};
+
+} // namespace
 
 /// Runs the tests of the widgets without a screen, in a user profile of their own.
 int main(int argc, char** argv)
@@ -22,6 +36,6 @@ int main(int argc, char** argv)
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setApplicationName("Quillet");
-    QApplication::setStyle("Fusion");
+    testing::UnitTest::GetInstance()->listeners().Append(new SameLook);
     return RUN_ALL_TESTS();
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Puts small faults into the program, one at a time, and tells which of them no test notices.
 
-    tools/mutate/mutate.py [--layer L] [--only PATTERN...] [--every N --from K] [--near] [--quick S] [--jobs N]
+    tools/mutate/mutate.py [--layer L...] [--only PATTERN...] [--every N --from K] [--near] [--quick S] [--jobs N]
                            [--build DIR]
     tools/mutate/mutate.py --check
 
@@ -136,7 +136,7 @@ class Round:
 
 
 def chosen(faults, options):
-    fits = lambda fault: (options.layer in (None, fault.layer)
+    fits = lambda fault: ((not options.layer or fault.layer in options.layer)
                           and any(fnmatch.fnmatch(f"{fault.file} {fault.name}", f"*{only}*") for only in options.only))
     faults = [fault for fault in faults if fits(fault)]
     return faults[options.start % options.every::options.every]
@@ -144,7 +144,7 @@ def chosen(faults, options):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--layer", help="only this list")
+    parser.add_argument("--layer", nargs="+", metavar="L", help="only these lists")
     parser.add_argument("--only", nargs="+", default=[""], metavar="PATTERN",
                         help="only faults with one of these in their file or name")
     parser.add_argument("--every", type=int, default=1, metavar="N", help="only each N-th fault")

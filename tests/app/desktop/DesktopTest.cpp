@@ -1,17 +1,9 @@
 #include "app/desktop/Desktop.h"
 #include "support/Environment.h"
 
+#include <QtDBus>
+#include <QtTest>
 #include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QDBusConnection>
-#include <QElapsedTimer>
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTest>
-#include <QVariantMap>
-
-#include <functional>
 
 namespace {
 
@@ -50,30 +42,18 @@ public slots:
     }
 };
 
-class DesktopTest : public testing::Test
+int opened = 0;
+
+void use(Desktop& desktop)
 {
-protected:
-    DesktopTest()
-    {
-        static int argc = 1;
-        static char name[] = "quillet";
-        static char* argv[] = {name, nullptr};
-        static const QCoreApplication application(argc, argv);
-    }
+    desktop.taskbarProgress().setValue(10); // hidden: nothing to see yet
+    desktop.taskbarProgress().show();
+    for (const int percent : {40, 40, 101})
+        desktop.taskbarProgress().setValue(percent);
+    desktop.notifier().notify("Done", "<b> & \"c\"", {"Open", [] { ++opened; }});
+}
 
-    static void use(Desktop& desktop)
-    {
-        desktop.taskbarProgress().setValue(10); // hidden: nothing to see yet
-        desktop.taskbarProgress().show();
-        desktop.taskbarProgress().setValue(40);
-        desktop.taskbarProgress().setValue(40);
-        desktop.taskbarProgress().setValue(101);
-        desktop.notifier().notify("Done", "<b> & \"c\"", {"Open", [] { ++opened; }});
-    }
-    static inline int opened = 0;
-};
-
-TEST_F(DesktopTest, TellsTheSessionBus)
+TEST(DesktopTest, TellsTheSessionBus)
 {
     QProcess daemon;
     daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
@@ -99,7 +79,7 @@ TEST_F(DesktopTest, TellsTheSessionBus)
     } // a bar still visible is taken down
     const QString app = "application://org.quillet.Quillet.desktop ";
     const QStringList expected = {app + "0.1 1", app + "0.4 1", app + "1 1",
-                                  "quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|org.quillet.Quillet|-1",
+                                  "Quillet|quillet|Done|&lt;b&gt; &amp; \"c\"|org.quillet.Quillet|-1",
                                   app + "1 0"};
     EXPECT_TRUE(QTest::qWaitFor([&] { return observer.seen.size() >= expected.size(); }, PatienceMs));
     EXPECT_EQ(observer.seen, expected) << observer.seen.join('\n').toStdString();
@@ -109,7 +89,7 @@ TEST_F(DesktopTest, TellsTheSessionBus)
     daemon.waitForFinished();
 }
 
-TEST_F(DesktopTest, KeepsQuietWithoutABus)
+TEST(DesktopTest, KeepsQuietWithoutABus)
 {
     const test::Environment runtime("XDG_RUNTIME_DIR", "/nonexistent");
     for (const char* address : {"", "unix:path=/nonexistent/bus"}) {

@@ -4,17 +4,11 @@
 #include "app/desktop/linux/shell/OwnedFile.h"
 #include "common/path/PathText.h"
 #include "support/Environment.h"
-#include "support/Eventually.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <cstdlib>
-#include <filesystem>
 #include <map>
-#include <string>
-#include <utility>
 
 namespace {
 
@@ -24,138 +18,20 @@ namespace fs = std::filesystem;
 
 TEST(CommandQuoting, DesktopEntriesAndShell)
 {
-    const struct
-    {
-        std::string path, exec, shell, value;
-    } cases[] = {
+    const std::array<const char*, 4> cases[] = {
+        // the path; in a line "Exec"; for the shell; as a value
         {"/a b/q", R"("/a b/q")", "'/a b/q'", "/a b/q"},
         {R"(/"`$)", R"("/\\"\\`\\$")", R"('/"`$')", R"(/"`$)"},
         {R"(/\n)", R"("/\\\\n")", R"('/\n')", R"(/\\n)"},
         {"/%f\n\t", R"("/%%f\n\t")", "'/%f\n\t'", R"(/%f\n\t)"},
         {"/it's", R"("/it's")", R"('/it'\''s')", "/it's"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(execArgument(c.path), c.exec);
-        EXPECT_EQ(shellWord(c.path), c.shell);
-        EXPECT_EQ(firstShellWord(c.shell + " -x 'y'"), c.path);
-        EXPECT_EQ(desktopString(c.path), c.value);
+    for (const auto& [path, exec, shell, value] : cases) {
+        EXPECT_EQ(execArgument(path), exec);
+        EXPECT_EQ(shellWord(path), shell);
+        EXPECT_EQ(firstShellWord(shell + " -x 'y'"s), path);
+        EXPECT_EQ(desktopString(path), value);
     }
-}
-
-class ShellIntegrationTest : public testing::Test
-{
-protected:
-    void update(bool contextMenu, bool sendTo) const
-    {
-        updateShellIntegration(QString::fromStdString(program), contextMenu, sendTo);
-    }
-    /// Path below the folder to permissions.
-    std::map<std::string, fs::perms> files() const
-    {
-        std::map<std::string, fs::perms> found;
-        for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
-            if (!entry.is_directory())
-                found[fs::relative(entry.path(), folder.path())] = entry.status().permissions();
-        return found;
-    }
-    std::string read(const char* path) const { return test::readFile(folder / path); }
-
-    /// The menus are written for managers that are there.
-    void SetUp() override
-    {
-        for (const char* name :
-             {"config/caja", "config/nemo", "config/pcmanfm", "data/dolphin", "data/nautilus", "bin",
-              "build/bin", "system/Thunar", "config/Thunar", "data/Thunar"})
-            fs::create_directories(folder / name);
-    }
-
-    test::TempFolder folder;
-    test::Environment data{"XDG_DATA_HOME", (folder / "data").c_str()};
-    test::Environment config{"XDG_CONFIG_HOME", (folder / "config").c_str()};
-    test::Environment system{"XDG_CONFIG_DIRS", (folder / "system").c_str()};
-    test::Environment programs{"PATH", (folder / "bin").c_str()};
-    std::string program = folder / "it's \"$our\" & program; {marker} 100%";
-};
-
-constexpr const char* ServiceMenu = "data/kio/servicemenus/quillet.desktop";
-constexpr const char* Actions = "config/Thunar/uca.xml";
-constexpr const char* SendTo = "data/Thunar/sendto/quillet.desktop";
-
-TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
-{
-    const fs::perms plain{0644};
-    const fs::perms executable{0755};
-    const std::map<std::string, fs::perms> contextMenu = {
-        {"config/caja/scripts/Decrypt with Quillet", executable},
-        {"config/caja/scripts/Encrypt with Quillet", executable},
-        {"config/caja/scripts/Open with Quillet", executable},
-        {Actions, fs::perms{0644}},
-        {"data/file-manager/actions/quillet-decrypt.desktop", plain},
-        {"data/file-manager/actions/quillet-encrypt.desktop", plain},
-        {"data/file-manager/actions/quillet-open.desktop", plain},
-        {"data/nautilus/scripts/Decrypt with Quillet", executable},
-        {"data/nautilus/scripts/Encrypt with Quillet", executable},
-        {"data/nautilus/scripts/Open with Quillet", executable},
-        {"data/nemo/actions/quillet-decrypt.nemo_action", plain},
-        {"data/nemo/actions/quillet-encrypt.nemo_action", plain},
-        {"data/nemo/actions/quillet-open.nemo_action", plain},
-        {ServiceMenu, executable},
-    };
-    for (const auto& [menu, sendTo] :
-         {std::pair(false, true), std::pair(true, true), std::pair(true, false), std::pair(false, false)}) {
-        auto expected = menu ? contextMenu : std::map<std::string, fs::perms>();
-        if (sendTo)
-            expected[SendTo] = plain;
-        update(menu, sendTo);
-        EXPECT_EQ(files(), expected);
-    }
-    EXPECT_FALSE(fs::exists(folder / "data/nemo")) << "made for the entries";
-    for (const char* name : {"config/nemo", "data/dolphin"})
-        fs::remove(folder / name);
-    update(true, true);
-    EXPECT_EQ(files().count(ServiceMenu) + files().count("data/nemo/actions/quillet-open.nemo_action"), 0U)
-        << "for managers that are not there";
-    folder.write("bin/nemo", "");
-    fs::permissions(folder / "bin/nemo", fs::perms(0700));
-    update(true, true);
-    EXPECT_EQ(files().count("data/nemo/actions/quillet-open.nemo_action"), 1U) << "yet to be started";
-}
-
-TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
-{
-    update(true, true);
-    EXPECT_NE(read(ServiceMenu).find("Exec=" + execArgument(program) + " -decrypt -start -ifile %F\n"),
-              std::string::npos);
-    EXPECT_NE(read(SendTo).find("Exec=" + execArgument(program) + " -ifile %F\n"), std::string::npos);
-    const std::string nemo = read("data/nemo/actions/quillet-encrypt.nemo_action");
-    EXPECT_NE(nemo.find("Name=Encrypt with Quillet\n"), std::string::npos);
-    EXPECT_NE(nemo.find("& program\\; {marker} 100%;\n"), std::string::npos) << nemo;
-
-    // Scripts go by the manager's URIs; for files of another machine by the paths that they have on this one.
-    folder.write(program, "#!/bin/sh\nprintf '%s|' \"$@\" >>'" + (folder / "arguments") + "'\n");
-    fs::permissions(program, fs::perms(0700));
-    const test::Environment tools("PATH", "/usr/bin:/bin");
-    const std::string script = "'" + (folder / "config/caja/scripts/Encrypt with Quillet") + "' a b";
-    const struct
-    {
-        const char *uris, *paths, *arguments;
-    } cases[] = {
-        {"file:///a%25f%0A*\nfile:///-b\n", "wrong", "file:///a%25f%0A*|file:///-b|"},
-        {"sftp://host/c d\n", "/run/c d\n", "/run/c d|"},
-    };
-    for (const auto& c : cases) {
-        const test::Environment uris("CAJA_SCRIPT_SELECTED_URIS", c.uris);
-        const test::Environment paths("CAJA_SCRIPT_SELECTED_FILE_PATHS", c.paths);
-        ASSERT_EQ(std::system(script.c_str()), 0);
-        EXPECT_EQ(read("arguments"), "-encrypt|-start|-ifile|"s + c.arguments);
-        fs::remove(folder / "arguments");
-    }
-    fs::remove(program);
-    folder.write("bin/zenity", "#!/bin/sh\necho \"$4\" >>'" + (folder / "told") + "'\n");
-    fs::permissions(folder / "bin/zenity", fs::perms(0700));
-    const test::Environment zenity("PATH", (folder / "bin:/usr/bin:/bin").c_str());
-    ASSERT_EQ(std::system(script.c_str()), 0);
-    EXPECT_EQ(read("told").rfind("Quillet is not at " + program + " any more.", 0), 0U) << read("told");
 }
 
 TEST(Arguments, TheUrlOfAFileIsItsPath)
@@ -179,6 +55,113 @@ TEST(Arguments, TheUrlOfAFileIsItsPath)
     fs::current_path(before);
 }
 
+constexpr char Menu[] = "data/kio/servicemenus/quillet.desktop";
+constexpr char Actions[] = "config/Thunar/uca.xml";
+constexpr char SendTo[] = "data/Thunar/sendto/quillet.desktop";
+constexpr char Nemo[] = "data/nemo/actions/quillet-open.nemo_action";
+
+class ShellIntegrationTest : public testing::Test
+{
+protected:
+    void update(bool contextMenu, bool sendTo) const
+    {
+        updateShellIntegration(QString::fromStdString(program), contextMenu, sendTo);
+    }
+    /// Path below the folder to permissions.
+    std::map<std::string, fs::perms> files() const
+    {
+        std::map<std::string, fs::perms> found;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
+            if (!entry.is_directory())
+                found[fs::relative(entry.path(), folder.path())] = entry.status().permissions();
+        return found;
+    }
+    std::string read(const char* path) const { return test::readFile(folder / path); }
+    void expectIn(const char* path, const std::string& part) const
+    {
+        EXPECT_NE(read(path).find(part), std::string::npos) << part << "\nis not in\n" << read(path);
+    }
+    void writeProgram(const std::string& name, const std::string& script) const
+    {
+        folder.write(name, "#!/bin/sh\n" + script + "\n");
+        fs::permissions(folder / name, fs::perms(0700));
+    }
+    /// The menus are written for managers that are there.
+    void SetUp() override
+    {
+        for (const char* name :
+             {"config/caja", "config/nemo", "config/pcmanfm", "data/dolphin", "data/nautilus", "bin",
+              "build/bin", "system/Thunar", "config/Thunar", "data/Thunar"})
+            fs::create_directories(folder / name);
+    }
+
+    test::TempFolder folder;
+    test::Environment data{"XDG_DATA_HOME", (folder / "data").c_str()};
+    test::Environment config{"XDG_CONFIG_HOME", (folder / "config").c_str()};
+    test::Environment system{"XDG_CONFIG_DIRS", (folder / "system").c_str()};
+    test::Environment programs{"PATH", (folder / "bin").c_str()};
+    std::string program = folder / "it's \"$our\" & program; {marker} 100%";
+};
+
+TEST_F(ShellIntegrationTest, WritesAndRemovesAsTheSettingsSay)
+{
+    constexpr fs::perms Plain{0644};
+    constexpr fs::perms Executable{0755};
+    std::map<std::string, fs::perms> contextMenu = {{Menu, Executable}, {Actions, Plain}};
+    for (const auto& [verb, id] :
+         {std::pair("Encrypt", "encrypt"), std::pair("Decrypt", "decrypt"), std::pair("Open", "open")}) {
+        for (const char* manager : {"config/caja", "data/nautilus"})
+            contextMenu[manager + "/scripts/"s + verb + " with Quillet"] = Executable;
+        contextMenu["data/file-manager/actions/quillet-"s + id + ".desktop"] = Plain;
+        contextMenu["data/nemo/actions/quillet-"s + id + ".nemo_action"] = Plain;
+    }
+    for (const auto& [menu, sendTo] :
+         {std::pair(false, true), std::pair(true, true), std::pair(true, false), std::pair(false, false)}) {
+        auto expected = menu ? contextMenu : std::map<std::string, fs::perms>();
+        if (sendTo)
+            expected[SendTo] = Plain;
+        update(menu, sendTo);
+        EXPECT_EQ(files(), expected);
+    }
+    EXPECT_FALSE(fs::exists(folder / "data/nemo")) << "made for the entries";
+    for (const char* name : {"config/nemo", "data/dolphin"})
+        fs::remove(folder / name);
+    update(true, true);
+    EXPECT_EQ(files().count(Menu) + files().count(Nemo), 0U) << "for managers that are not there";
+    writeProgram("bin/nemo", "");
+    update(true, true);
+    EXPECT_EQ(files().count(Nemo), 1U) << "yet to be started";
+}
+
+TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
+{
+    update(true, true);
+    expectIn(Menu, "Exec=" + execArgument(program) + " -decrypt -start -ifile %F\n");
+    expectIn(SendTo, "Exec=" + execArgument(program) + " -ifile %F\n");
+    expectIn("data/nemo/actions/quillet-encrypt.nemo_action", "Name=Encrypt with Quillet\n");
+    expectIn(Nemo, "& program\\; {marker} 100%;\n");
+
+    // Scripts go by the manager's URIs; for files of another machine by the paths that they have on this one.
+    writeProgram(program, "printf '%s|' \"$@\" >>'" + (folder / "arguments") + "'");
+    const std::string script = "'" + (folder / "config/caja/scripts/Encrypt with Quillet") + "' a b";
+    const test::Environment tools("PATH", (folder / "bin:/usr/bin:/bin").c_str());
+    const std::array<const char*, 3> cases[] = {
+        {"file:///a%25f%0A*\nfile:///-b\n", "wrong", "file:///a%25f%0A*|file:///-b|"},
+        {"sftp://host/c d\n", "/run/c d\n", "/run/c d|"},
+    };
+    for (const auto& [givenUris, givenPaths, arguments] : cases) {
+        const test::Environment uris("CAJA_SCRIPT_SELECTED_URIS", givenUris);
+        const test::Environment paths("CAJA_SCRIPT_SELECTED_FILE_PATHS", givenPaths);
+        ASSERT_EQ(std::system(script.c_str()), 0);
+        EXPECT_EQ(read("arguments"), "-encrypt|-start|-ifile|"s + arguments);
+        fs::remove(folder / "arguments");
+    }
+    fs::remove(program);
+    writeProgram("bin/zenity", "echo \"$4\" >>'" + (folder / "told") + "'");
+    ASSERT_EQ(std::system(script.c_str()), 0);
+    expectIn("told", "Quillet is not at " + program + " any more.");
+}
+
 /// The actions of others, in a file that the user has: they keep their text and their place.
 TEST_F(ShellIntegrationTest, SharesThunarsActionsWithTheUser)
 {
@@ -193,8 +176,8 @@ TEST_F(ShellIntegrationTest, SharesThunarsActionsWithTheUser)
             folder.write(Actions, start);
         update(true, true);
         const std::string ours = read(Actions);
-        EXPECT_NE(ours.find(start.empty() ? "System" : theirs), std::string::npos);
-        EXPECT_NE(ours.find("program; {marker} 100%%'"), std::string::npos) << ours;
+        expectIn(Actions, start.empty() ? "System" : theirs);
+        expectIn(Actions, "program; {marker} 100%%'");
         // The user changes things: the order, and one of ours.
         std::string moved = ours;
         const std::size_t end = moved.find("</actions>");
@@ -222,25 +205,23 @@ TEST_F(ShellIntegrationTest, ABuildLeavesTheInstalledProgramsEntries)
     folder.write("build/CMakeCache.txt", "");
     folder.write(program, "");
     update(true, true);
-    const std::string menu = read(ServiceMenu);
-    const std::string actions = read(Actions);
+    const std::string before = read(Menu) + read(Actions);
     const std::string installed = std::exchange(program, folder / "build/bin/quillet");
     update(true, true);
     update(false, false);
-    EXPECT_EQ(read(ServiceMenu), menu);
-    EXPECT_EQ(read(Actions), actions);
+    EXPECT_EQ(read(Menu) + read(Actions), before);
     fs::remove(installed); // what they start is gone
     update(true, true);
-    EXPECT_NE(read(ServiceMenu).find(program), std::string::npos);
-    EXPECT_NE(read(Actions).find(program), std::string::npos);
+    expectIn(Menu, program);
+    expectIn(Actions, program);
 }
 
 TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
 {
     update(true, true);
     const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
-    const std::string menu = folder / ServiceMenu;
-    const std::string ours = read(ServiceMenu);
+    const std::string menu = folder / Menu;
+    const std::string ours = read(Menu);
     fs::last_write_time(menu, longAgo);
     update(true, true);
     EXPECT_EQ(fs::last_write_time(menu), longAgo);
@@ -250,21 +231,21 @@ TEST_F(ShellIntegrationTest, TouchesOnlyWhatIsOursAndChanged)
     EXPECT_EQ(fs::status(menu).permissions(), fs::perms(0755)) << "it wouldn't show without";
     folder.write(menu, OwnedFile::head("/old") + "from an older version\n");
     update(true, true);
-    EXPECT_EQ(read(ServiceMenu), ours);
+    EXPECT_EQ(read(Menu), ours);
 
+    const auto turn = [this] {
+        for (const bool contextMenu : {true, false})
+            update(contextMenu, true);
+    };
     for (const std::string& theirs : {"someone else's"s, "a copy of " + OwnedFile::head("/old")}) {
         folder.write(menu, theirs);
-        for (const bool contextMenu : {true, false}) {
-            update(contextMenu, true);
-            EXPECT_EQ(read(ServiceMenu), theirs);
-        }
+        turn();
+        EXPECT_EQ(read(Menu), theirs);
     }
     fs::remove(menu);
     fs::create_symlink(folder / SendTo, menu);
-    for (const bool contextMenu : {true, false}) {
-        update(contextMenu, true);
-        EXPECT_TRUE(fs::is_symlink(menu));
-    }
+    turn();
+    EXPECT_TRUE(fs::is_symlink(menu));
 }
 
 } // namespace

@@ -9,20 +9,9 @@
 #include "ui/options/COptionsDialog.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
 
-#include <QGroupBox>
-#include <QKeySequence>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <gtest/gtest.h>
+namespace test {
 
-#include <map>
-
-namespace {
-
-QStringList textsOf(const QList<QAction*>& actions)
+static QStringList textsOf(const QList<QAction*>& actions)
 {
     QStringList texts;
     for (const QAction* action : actions)
@@ -31,28 +20,24 @@ QStringList textsOf(const QList<QAction*>& actions)
 }
 
 /// The texts in the window that may give their widget a key.
-QStringList textsOf(QWidget& window)
+static QStringList textsOf(QWidget& window)
 {
     QStringList texts;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window) || widget->window() != &window)
             continue;
-        if (const auto* button = qobject_cast<QAbstractButton*>(widget))
-            texts += button->text();
-        else if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
-            texts += label->text();
-        else if (const auto* group = qobject_cast<QGroupBox*>(widget))
-            texts += group->title();
-        else if (const auto* bar = qobject_cast<QMenuBar*>(widget))
+        if (const auto* bar = qobject_cast<QMenuBar*>(widget))
             texts += textsOf(bar->actions());
         else if (const auto* tabs = qobject_cast<QTabBar*>(widget))
             for (int i = 0; i < tabs->count(); ++i)
                 texts += tabs->tabText(i);
+        else if (const auto* label = qobject_cast<QLabel*>(widget); !label || label->buddy())
+            texts += widget->property(qobject_cast<QGroupBox*>(widget) ? "title" : "text").toString();
     }
     return texts;
 }
 
-void expectDistinctKeys(const QStringList& texts)
+static void expectDistinctKeys(const QStringList& texts)
 {
     std::map<QString, QString> owners;
     for (const QString& text : texts) {
@@ -63,17 +48,20 @@ void expectDistinctKeys(const QStringList& texts)
     }
 }
 
-template <class Dialog>
-void checkDialog(Dialog&& dialog)
+template <class... Dialogs>
+void checkDialogs()
 {
-    SCOPED_TRACE(dialog.metaObject()->className());
-    dialog.show();
-    auto* tabs = dialog.template findChild<QTabWidget*>();
-    for (int i = 0; i < (tabs ? tabs->count() : 1); ++i) {
-        if (tabs)
-            tabs->setCurrentIndex(i);
-        expectDistinctKeys(textsOf(dialog));
-    }
+    const auto check = [](QDialog&& dialog) {
+        SCOPED_TRACE(dialog.metaObject()->className());
+        dialog.show();
+        auto* tabs = dialog.findChild<QTabWidget*>();
+        for (int i = 0; i < (tabs ? tabs->count() : 1); ++i) {
+            if (tabs)
+                tabs->setCurrentIndex(i);
+            expectDistinctKeys(textsOf(dialog));
+        }
+    };
+    (check(Dialogs()), ...);
 }
 
 /// A key that two share only moves the focus between them.
@@ -81,26 +69,20 @@ TEST(Languages, GiveEachMenuAndFormDistinctKeys)
 {
     tessaly::i18n::TranslationManager translations(tessaly::platform::widePath(TRANSLATIONS_DIR), "Quillet");
     ASSERT_TRUE(translations.load().ok());
-    thisapp::Translators translators(translations);
+    Translators translators(translations);
     for (const auto& language : translations.languages()) {
         SCOPED_TRACE(language.displayName);
         ASSERT_TRUE(translations.use(language.lcid).ok());
         translators.install();
-        const test::WindowHarness harness;
+        const WindowHarness harness;
         expectDistinctKeys(textsOf(*harness.window));
         for (const QAction* menu : harness.window->menuBar()->actions())
             expectDistinctKeys(textsOf(menu->menu()->actions()));
-        checkDialog(COptionsDialog());
-        checkDialog(CSetPasswordDialog());
-        checkDialog(CSetKeyAndIvDialog());
-        checkDialog(CSetAlgDialog());
-        checkDialog(CAlgInfoDialog());
-        checkDialog(CTextViewDialog());
-        checkDialog(CAboutDialog());
-        checkDialog(CkeyboardShortcutInfoDialog());
+        checkDialogs<COptionsDialog, CSetPasswordDialog, CSetKeyAndIvDialog, CSetAlgDialog, CAlgInfoDialog,
+                     CTextViewDialog, CAboutDialog, CkeyboardShortcutInfoDialog>();
     }
     ASSERT_TRUE(translations.use(tessaly::i18n::EnglishLcid).ok());
     translators.install();
 }
 
-} // namespace
+} // namespace test

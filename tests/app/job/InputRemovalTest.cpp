@@ -1,29 +1,20 @@
 #include "app/job/InputRemoval.h"
 #include "app/job/SEncryptData.h"
+#include "support/SystemCall.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <dlfcn.h>
 #include <filesystem>
 #include <functional>
-#include <unistd.h>
-#include <utility>
+#include <optional>
 
 using namespace thisapp;
 using namespace tessaly;
 namespace fs = std::filesystem;
 
 namespace {
-
-struct Case
-{
-    const char* name;
-    /// What happens between the end of the encryption and the removal.
-    std::function<void(const test::TempFolder&, SEncryptData&)> happens;
-    std::optional<KeepReason> kept;
-};
 
 /// Puts a copy of the same time in the file's place.
 void replace(const std::string& path)
@@ -49,83 +40,72 @@ void swapFolder(const test::TempFolder& dir)
     fs::remove_all(moved);
 }
 
-/// The next removal fails as on a disk that has become read-only.
-bool isReadOnly = false;
-
-const Case Cases[] = {
-    {"nothing", [](auto&, auto&) {}, {}},
-    {"decryption", [](auto&, auto& data) { data.operation = Operation::Decrypt; }, KeepReason::NotEncrypted},
-    {"cancelled", [](auto&, auto& data) { data.outcome.cancelled = true; }, KeepReason::NotEncrypted},
-    {"failed", [](auto&, auto& data) { data.outcome.result = err::Busy; }, KeepReason::NotEncrypted},
-    {"output gone", [](auto& dir, auto&) { fs::remove(dir / "out"); }, KeepReason::OutputDiffers},
-    {"output cut", [](auto& dir, auto&) { fs::resize_file(dir / "out", 63); }, KeepReason::OutputDiffers},
-    {"output replaced", [](auto& dir, auto&) { replace(dir / "out"); }, KeepReason::OutputDiffers},
-    {"input grown", [](auto& dir, auto&) { dir.write("in", "longer"); }, KeepReason::Changed},
-    {"input touched", [](auto& dir, auto&) { fs::last_write_time(dir / "in", {}); }, KeepReason::Changed},
-    {"input replaced", [](auto& dir, auto&) { replace(dir / "in"); }, KeepReason::Changed},
-    {"input behind a link",
-     [](auto& dir, auto&) {
-         fs::rename(dir / "in", dir / "real");
-         fs::create_symlink(dir / "real", dir / "in");
-     },
-     KeepReason::SymbolicLink},
-    {"input with a twin", [](auto& dir, auto&) { fs::create_hard_link(dir / "in", dir / "twin"); },
-     KeepReason::HardLinks},
-    {"sealed",
-     [](auto& dir, auto& data) {
-         dir.write("out", std::string(64 + 48, 'x'));
-         data.outcome.output = opened(dir.at("out"));
-         data.outcome.sealed = true;
-     },
-     {}},
-    {"sealed, without its tag", [](auto&, auto& data) { data.outcome.sealed = true; },
-     KeepReason::OutputDiffers},
-    {"disk read-only", [](auto&, auto&) { isReadOnly = true; }, {}},
-    {"folder swapped", [](auto& dir, auto&) { swapFolder(dir); }, KeepReason::OutputDiffers},
-};
-
 TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
 {
-    for (const Case& c : Cases) {
+    const test::TempFolder dir;
+    SEncryptData data;
+    std::optional<test::SystemCall> readOnly;
+    const auto out = dir / "out", in = dir / "in";
+    using enum KeepReason;
+    struct
+    {
+        const char* name;
+        std::function<void()> happens; ///< between the end of the encryption and the removal
+        std::optional<KeepReason> kept;
+    } const cases[] = {
+        {"nothing", [] {}, {}},
+        {"decryption", [&] { data.operation = Operation::Decrypt; }, NotEncrypted},
+        {"cancelled", [&] { data.outcome.cancelled = true; }, NotEncrypted},
+        {"failed", [&] { data.outcome.result = err::Busy; }, NotEncrypted},
+        {"output gone", [&] { fs::remove(out); }, OutputDiffers},
+        {"output cut", [&] { fs::resize_file(out, 63); }, OutputDiffers},
+        {"output replaced", [&] { replace(out); }, OutputDiffers},
+        {"input grown", [&] { dir.write("in", "longer"); }, Changed},
+        {"input touched", [&] { fs::last_write_time(in, {}); }, Changed},
+        {"input replaced", [&] { replace(in); }, Changed},
+        {"input behind a link",
+         [&] {
+             fs::rename(in, dir / "real");
+             fs::create_symlink(dir / "real", in);
+         },
+         SymbolicLink},
+        {"input with a twin", [&] { fs::create_hard_link(in, dir / "twin"); }, HardLinks},
+        {"sealed",
+         [&] {
+             dir.write("out", std::string(64 + 48, 'x'));
+             data.outcome.output = opened(out);
+             data.outcome.sealed = true;
+         },
+         {}},
+        {"sealed, without its tag", [&] { data.outcome.sealed = true; }, OutputDiffers},
+        {"disk read-only", [&] { readOnly.emplace("unlinkat", EROFS); }, {}},
+        {"folder swapped", [&] { swapFolder(dir); }, OutputDiffers},
+    };
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        const test::TempFolder folder;
-        SEncryptData data;
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            fs::remove(entry);
+        dir.write("in", "plain");
+        dir.write("out", std::string(64, 'x'));
+        data = SEncryptData();
         data.selection = DefaultAlgSelection;
-        folder.write("in", "plain");
-        folder.write("out", std::string(64, 'x'));
-        data.outcome.input = opened(folder.at("in"));
-        data.outcome.output = opened(folder.at("out"));
-        c.happens(folder, data);
+        data.outcome.input = opened(in);
+        data.outcome.output = opened(out);
+        c.happens();
         const InputRemoval removal = removeInput(data);
-        const bool failed = std::exchange(isReadOnly, false);
+        const bool failed = readOnly.has_value();
+        readOnly.reset();
         EXPECT_EQ(removal.kept, c.kept);
         EXPECT_EQ(removal.error.ok(), !failed);
         EXPECT_EQ(removal.removed, !c.kept && !failed);
-        EXPECT_EQ(fs::exists(folder / "in"), c.kept || failed);
+        EXPECT_EQ(fs::exists(in), c.kept || failed);
     }
-}
-
-TEST(InputRemovalTest, TellsTheReason)
-{
-    const std::pair<KeepReason, const char*> rows[] = {
-        {KeepReason::NotEncrypted, "."},
-        {KeepReason::SymbolicLink, ": it is a symbolic link."},
-        {KeepReason::HardLinks, ": it has another name (hard link)."},
-        {KeepReason::Changed, ": it has changed since it was encrypted."},
-        {KeepReason::OutputDiffers, ": the output file is not what was written."},
-    };
-    for (const auto& [reason, text] : rows)
-        EXPECT_EQ(keptText(reason).toStdString(), std::string("The input file has been kept") + text);
+    EXPECT_EQ(keptText(NotEncrypted), "The input file has been kept.");
+    EXPECT_EQ(keptText(SymbolicLink), "The input file has been kept: it is a symbolic link.");
+    EXPECT_EQ(keptText(HardLinks), "The input file has been kept: it has another name (hard link).");
+    EXPECT_EQ(keptText(Changed), "The input file has been kept: it has changed since it was encrypted.");
+    EXPECT_EQ(keptText(OutputDiffers),
+              "The input file has been kept: the output file is not what was written.");
 }
 
 } // namespace
-
-/// Stands before the library's in the whole test program.
-extern "C" [[gnu::used]] int unlinkat(int folder, const char* name, int flags)
-{
-    static const auto next = reinterpret_cast<decltype(&unlinkat)>(::dlsym(RTLD_NEXT, "unlinkat"));
-    if (!isReadOnly)
-        return next(folder, name, flags);
-    errno = EROFS;
-    return -1;
-}

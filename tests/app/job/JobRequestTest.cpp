@@ -24,12 +24,10 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     QString input, output, chosenInput, chosenOutput;
     std::function<bool(PasswordEntry&)> password = [](PasswordEntry&) { return false; };
     std::function<bool(KeyEntry&)> key = [](KeyEntry&) { return false; };
-    OnEncrypted onEncrypted = OnEncrypted::Encrypt;
     bool engine = true;
     bool answers = true;
     std::pair<Area, std::string> message;
     QString dialogTitle;
-    std::pair<int, int> counted;
 
     bool isJobRunning() const override { return running; }
     AlgSelection selection() const override { return selected; }
@@ -48,11 +46,7 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
     }
     QString chooseInput(const QString& title) override { return dialogTitle = title, chosenInput; }
     QString chooseOutput(const QString& title) override { return dialogTitle = title, chosenOutput; }
-    OnEncrypted askAboutEncrypted(int encrypted, int all) override
-    {
-        counted = {encrypted, all};
-        return onEncrypted;
-    }
+    OnEncrypted askAboutEncrypted(int, int) override { return OnEncrypted::Cancel; }
     bool enterPassword(PasswordEntry& entry) override { return password(entry); }
     bool enterKeyAndIv(KeyEntry& entry) override { return key(entry); }
     bool prepareEngine(Operation, const AlgSelection&) override { return engine; }
@@ -62,21 +56,25 @@ struct FakeHost final : IJobRequestHost, IMessageAreas
 class JobRequestTest : public ::testing::TestWithParam<Operation>
 {
 protected:
-    /// The text of the operation that is tested.
-    const char* pick(const char* encryption, const char* decryption) const
-    {
-        return GetParam() == Operation::Encrypt ? encryption : decryption;
-    }
+    const bool encrypts = GetParam() == Operation::Encrypt;
 
+    std::optional<SEncryptData> run() { return JobRequest(GetParam(), host, host).run(); }
+    /// Of a text for the encryption, that of the operation that is tested.
+    std::string said(const char* encryption) const
+    {
+        QString text = encryption;
+        if (!encrypts)
+            text.replace("encrypt", "decrypt").replace("Encrypt", "Decrypt");
+        return text.toStdString();
+    }
     void expectRefusal(Area area, const std::string& text)
     {
         host.message = {};
-        EXPECT_FALSE(JobRequest(GetParam(), host, host).run());
+        EXPECT_FALSE(run());
         EXPECT_EQ(host.message, std::pair(area, text));
         EXPECT_EQ(test::readFile(folder / "in.txt"), "input") << text;
         EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << text;
     }
-
     void SetUp() override
     {
         CAppSettings().clear();
@@ -89,10 +87,22 @@ protected:
     FakeHost host;
 };
 
-INSTANTIATE_TEST_SUITE_P(, JobRequestTest, ::testing::Values(Operation::Encrypt, Operation::Decrypt),
-                         [](const auto& row) {
-                             return row.param == Operation::Encrypt ? "Encrypt" : "Decrypt";
-                         });
+INSTANTIATE_TEST_SUITE_P(, JobRequestTest, ::testing::Values(Operation::Encrypt, Operation::Decrypt));
+
+bool enterSecret(PasswordEntry& entry)
+{
+    entry.password = SecretText("secret");
+    return true;
+}
+
+std::function<bool(KeyEntry&)> enterKey(std::size_t keySize, std::size_t ivSize)
+{
+    return [=](KeyEntry& entry) {
+        entry.key = SecretBytes(keySize, 1);
+        entry.iv = SecretBytes(ivSize, 2);
+        return true;
+    };
+}
 
 /// Everything is wrong at first; each line mends one thing, and the next check speaks.
 TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
@@ -102,57 +112,50 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     host.engine = false;
     expectRefusal(Area::Progress, "Encryption/Decryption already running.");
     host.running = false;
-    const char* noAlgorithm =
-        pick("Encryption algorithm is not defined.", "Decryption algorithm is not defined.");
-    expectRefusal(Area::Progress, noAlgorithm);
+    expectRefusal(Area::Progress, said("Encryption algorithm is not defined."));
     host.selected.library = 1;
-    expectRefusal(Area::Progress, noAlgorithm);
+    expectRefusal(Area::Progress, said("Encryption algorithm is not defined."));
     host.selected = DefaultAlgSelection;
     host.input = "  ";
-    expectRefusal(Area::Input, pick("File to encrypt is not defined.", "File to decrypt is not defined."));
-    EXPECT_EQ(host.dialogTitle, pick("Select file to encrypt", "Select file to decrypt"));
+    expectRefusal(Area::Input, said("File to encrypt is not defined."));
+    EXPECT_EQ(host.dialogTitle.toStdString(), said("Select file to encrypt"));
     host.chosenInput = path("missing");
     host.answers = false;
     expectRefusal(Area::Input, "The file system does not answer.");
     host.answers = true;
-    expectRefusal(Area::Input, pick("File to encrypt is not found.", "File to decrypt is not found."));
+    expectRefusal(Area::Input, said("File to encrypt is not found."));
     EXPECT_EQ(host.input, path("missing"));
     host.input = path("");
     expectRefusal(Area::Input, "The input is not a regular file.");
     host.input = " " + path("in.txt") + " ";
     expectRefusal(Area::Output, "Output file is not defined.");
     EXPECT_EQ(host.dialogTitle, "Define output file");
-    host.chosenOutput = path("IN.txt");
-    expectRefusal(Area::Result, "Output file name matches the name of the input file");
-    host.output = path("");
-    expectRefusal(Area::Result, "The output is not a regular file.");
-    host.output = path("no folder/out");
-    expectRefusal(Area::Result, "The output folder is not found: " + (folder / "no folder"));
-    host.output = path("out.txt");
-    expectRefusal(Area::Result, "Password not defined");
+    const std::pair<const char*, std::string> outputs[] = {
+        {"in.txt", "Output file name matches the name of the input file"},
+        {"", "The output is not a regular file."},
+        {"no folder/out", "The output folder is not found: " + (folder / "no folder")},
+        {"out.txt", "Password not defined"},
+    };
+    for (const auto& [name, message] : outputs) {
+        host.output = host.chosenOutput = path(name);
+        expectRefusal(Area::Result, message);
+    }
     host.password = [](PasswordEntry&) { return true; }; // accepted, but empty
     expectRefusal(Area::Result, "Password not defined");
     host.password = [](PasswordEntry& entry) { return entry.switchToAdvanced = true; };
-    host.key = [](KeyEntry& entry) {
-        return entry.key = SecretBytes(31, 1), entry.iv = SecretBytes(15, 2), true;
-    };
+    host.key = enterKey(31, 15);
     expectRefusal(Area::Result, "Invalid IV size. Entered 15 bytes");
-    host.key = [](KeyEntry& entry) {
-        return entry.key = SecretBytes(31, 1), entry.iv = SecretBytes(16, 2), true;
-    };
+    host.key = enterKey(31, 16);
     expectRefusal(Area::Result, "Invalid key size. Entered 16 bytes"); // the size of the IV
-    host.key = [](KeyEntry& entry) {
-        return entry.key = SecretBytes(32, 1), entry.iv = SecretBytes(16, 2), true;
-    };
-    expectRefusal(Area::Result,
-                  pick("Failed to prepare encryption engine.", "Failed to prepare decryption engine."));
+    host.key = enterKey(32, 16);
+    expectRefusal(Area::Result, said("Failed to prepare encryption engine."));
     host.engine = true;
     expectRefusal(Area::Result, "Output file already exists! A 'not rewrite' option has been selected.");
 
     host.password = [](PasswordEntry& entry) {
         return entry.seal = entry.rewriteOutput = entry.switchToAdvanced = true;
     };
-    const auto request = JobRequest(GetParam(), host, host).run();
+    const auto request = run();
     ASSERT_TRUE(request);
     EXPECT_EQ(request->operation, GetParam());
     EXPECT_EQ(request->request.input, folder.at("in.txt"));
@@ -163,65 +166,52 @@ TEST_P(JobRequestTest, ChecksInOrderAndChangesNothing)
     EXPECT_EQ(test::readFile(folder / "out.txt"), "former output") << "the worker removes it";
 }
 
-TEST_P(JobRequestTest, AsksOnceForAllFilesOfAList)
+/// The fields of a decryption show no such switches.
+TEST_P(JobRequestTest, SealsAndSaltsByTheSettingsOnlyWhatItEncrypts)
 {
-    host.output = path("out.txt");
-    const QStringList names{"a.txt", "b.ENC", "c"};
-    QStringList asked;
-    host.password = [&asked](PasswordEntry& entry) {
-        asked = entry.names;
-        entry.password = SecretText("secret");
-        return true;
-    };
-    const bool encrypts = GetParam() == Operation::Encrypt;
-    for (const OnEncrypted answer : {OnEncrypted::Cancel, OnEncrypted::LeaveOut}) {
-        host.onEncrypted = answer;
-        asked.clear();
-        JobRequest request(GetParam(), host, host);
-        EXPECT_EQ(request.runForList(names).has_value(), !encrypts || answer != OnEncrypted::Cancel);
-        EXPECT_EQ(request.onEncrypted(), encrypts ? answer : OnEncrypted::Encrypt);
-        EXPECT_EQ(asked, encrypts && answer == OnEncrypted::Cancel ? QStringList() : names);
-    }
-    EXPECT_EQ(host.counted, encrypts ? std::pair(1, 3) : std::pair(0, 0));
-    folder.write("x.enc", "");
-    host.input = path("x.enc");
-    host.output = path("x");
-    host.onEncrypted = OnEncrypted::Cancel;
-    EXPECT_EQ(JobRequest(GetParam(), host, host).run().has_value(), !encrypts);
+    CAppSettings().setValue("SealFiles", true);
+    CAppSettings().setValue("UseSalt", true);
+    host.input = path("in.txt");
+    host.output = path("new");
+    host.password = enterSecret;
+    const auto job = run();
+    ASSERT_TRUE(job);
+    EXPECT_EQ(job->request.seal, encrypts);
+    EXPECT_EQ(job->request.useSalt, encrypts);
+}
+
+TEST_P(JobRequestTest, NamesAllFilesOfAList)
+{
+    const QStringList names{"a.txt", "b", "c"};
+    host.password = [&names](PasswordEntry& entry) { return entry.names == names && enterSecret(entry); };
+    EXPECT_TRUE(JobRequest(GetParam(), host, host).runForList(names)) << host.message.second;
 }
 
 /// "in.txt" and "in.txt " are two files; to take one for the other would delete the wrong one. What a
 /// text means is settled once.
 TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)
 {
-    const auto before = std::filesystem::current_path();
-    std::filesystem::current_path(folder.at(""));
-    folder.write("  ", "input");
-    host.password = [](PasswordEntry& entry) {
-        entry.rewriteOutput = true;
-        entry.password = SecretText("secret");
-        return true;
-    };
-    folder.write("in.txt ", "input");
-    folder.write("out.txt ", "former output");
-    struct
-    {
-        const char *inputText, *outputText, *input, *output;
-    } const cases[] = {
+    const auto before = fs::current_path();
+    fs::current_path(folder.path());
+    host.password = [](PasswordEntry& entry) { return entry.rewriteOutput = enterSecret(entry); };
+    for (const char* name : {"  ", "in.txt ", "out.txt "})
+        folder.write(name, "");
+    const std::array<const char*, 4> cases[] = {
+        // the fields; the files
         {"in.txt ", "out.txt ", "in.txt ", "out.txt "},
         {"in.txt  ", "out.txt  ", "in.txt", "out.txt"},
         {"in.txt", "new ", "in.txt", "new"},
         {"  ", "new", "  ", "new"},
     };
-    for (const auto& c : cases) {
-        host.input = c.inputText;
-        host.output = c.outputText;
-        const auto data = JobRequest(GetParam(), host, host).run();
+    for (const auto& [inputText, outputText, input, output] : cases) {
+        host.input = inputText;
+        host.output = outputText;
+        const auto data = run();
         ASSERT_TRUE(data) << host.message.second;
-        EXPECT_EQ(data->request.input, c.input);
-        EXPECT_EQ(data->request.output, c.output);
+        EXPECT_EQ(data->request.input, input);
+        EXPECT_EQ(data->request.output, output);
     }
-    std::filesystem::current_path(before);
+    fs::current_path(before);
 }
 
 TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
@@ -229,30 +219,26 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
     host.input = path("in.txt");
     host.output = path("new");
     using Switches = std::array<bool, 3>; // seal, salt, rewriting
+    const auto turn = [](auto& entry, const Switches& before, const Switches& after) {
+        EXPECT_EQ((Switches{entry.seal, entry.useSalt, entry.rewriteOutput}), before);
+        std::tie(entry.seal, entry.useSalt, entry.rewriteOutput) = std::tuple_cat(after);
+    };
     for (const int bits : {0b001, 0b010, 0b100, 0b011, 0b101, 0b110})
         for (const bool endsWithKey : {false, true}) {
             const Switches first{(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0};
             const Switches second{first[1], first[2], first[0]};
-            const auto turn = [](auto& entry, const Switches& before, const Switches& after) {
-                EXPECT_EQ((Switches{entry.seal, entry.useSalt, entry.rewriteOutput}), before);
-                std::tie(entry.seal, entry.useSalt, entry.rewriteOutput) = std::tuple_cat(after);
-            };
             int visits = 0;
             host.password = [&](PasswordEntry& entry) {
                 turn(entry, visits == 0 ? Switches() : second, first);
-                entry.password = SecretText("secret");
                 entry.switchToAdvanced = visits++ == 0;
-                return true;
+                return enterSecret(entry);
             };
             host.key = [&](KeyEntry& entry) {
-                EXPECT_TRUE(entry.keyLength == 32 && entry.ivLength == 16);
                 turn(entry, first, second);
-                entry.key = SecretBytes(32, 1);
-                entry.iv = SecretBytes(16, 2);
                 entry.switchToNormal = !endsWithKey;
-                return true;
+                return enterKey(entry.keyLength, entry.ivLength)(entry);
             };
-            const auto job = JobRequest(GetParam(), host, host).run();
+            const auto job = run();
             ASSERT_TRUE(job);
             const crypto::FileJobRequest& request = job->request;
             EXPECT_EQ((Switches{request.seal, request.useSalt, job->rewriteOutput}),
@@ -268,37 +254,28 @@ TEST_P(JobRequestTest, GoesBackAndForthBetweenTheDialogs)
 /// However long the questions took: what stands there by then counts.
 TEST_P(JobRequestTest, LooksOnceMoreAfterTheQuestions)
 {
-    struct
-    {
-        std::function<void(const test::TempFolder&)> happens;
-        const char* message;
-    } const cases[] = {
-        {[](const auto& dir) { fs::remove(dir / "a"); },
-         pick("File to encrypt is not found.", "File to decrypt is not found.")},
-        {[](const auto& dir) { dir.write("b", "new"); },
+    const std::pair<std::function<void()>, std::string> cases[] = {
+        {[this] { fs::remove(folder / "a"); }, said("File to encrypt is not found.")},
+        {[this] { folder.write("b", "new"); },
          "Output file already exists! A 'not rewrite' option has been selected."},
-        {[](const auto& dir) { fs::create_hard_link(dir / "a", dir / "b"); },
+        {[this] { fs::create_hard_link(folder / "a", folder / "b"); },
          "Output file name matches the name of the input file"},
-        {[](const auto& dir) { fs::create_directory(dir / "b"); }, "The output is not a regular file."},
+        {[this] { fs::create_directory(folder / "b"); }, "The output is not a regular file."},
     };
     host.input = path("a");
     host.output = path("b");
-    const auto ask = [this](const std::function<void(const test::TempFolder&)>& happens) {
+    const auto ask = [this](const std::function<void()>& happens) {
         fs::remove(folder / "b");
         folder.write("a", "input");
-        host.password = [this, happens](PasswordEntry& entry) {
-            happens(folder);
-            entry.password = SecretText("secret");
-            return true;
-        };
-        return JobRequest(GetParam(), host, host).run();
+        host.password = [happens](PasswordEntry& entry) { return happens(), enterSecret(entry); };
+        return run();
     };
-    for (const auto& c : cases) {
-        EXPECT_FALSE(ask(c.happens));
-        EXPECT_EQ(host.message, std::pair(Area::Result, std::string(c.message)));
+    for (const auto& [happens, message] : cases) {
+        EXPECT_FALSE(ask(happens));
+        EXPECT_EQ(host.message, std::pair(Area::Result, message));
     }
     // An offer that is taken asks nothing, but looks, too.
-    auto request = ask([](const auto&) {});
+    auto request = ask([] {});
     ASSERT_TRUE(request);
     request->request.existing = crypto::ExistingOutput::RemoveFirst; // as it was then
     const auto again = JobRequest(GetParam(), host, host).runAgain(*request);
@@ -306,30 +283,6 @@ TEST_P(JobRequestTest, LooksOnceMoreAfterTheQuestions)
     EXPECT_EQ(again->request.existing, crypto::ExistingOutput::Keep);
     folder.write("b", "new");
     EXPECT_FALSE(JobRequest(GetParam(), host, host).runAgain(*request));
-}
-
-TEST_P(JobRequestTest, AsksAsTheSettingsSay)
-{
-    const bool encrypting = GetParam() == Operation::Encrypt;
-    for (const bool value : {false, true}) {
-        CAppSettings settings;
-        for (const char* key : {"SealFiles", "UseSalt", "RewriteOutputFile", "ShowAdvancedPasswordOptions",
-                                "ShowPassword", "UseConfirmPassword"})
-            settings.setValue(key, value);
-        settings.sync();
-        host.input = path("in.txt");
-        host.output = path("new");
-        host.password = [&](PasswordEntry& entry) {
-            EXPECT_EQ(entry.seal, encrypting && value);
-            EXPECT_EQ(entry.useSalt, encrypting && value);
-            EXPECT_EQ(entry.rewriteOutput, value);
-            EXPECT_EQ(entry.showAdvancedOptions, value);
-            EXPECT_EQ(entry.showPassword, value);
-            EXPECT_EQ(entry.useConfirmPassword, !encrypting || value);
-            return false;
-        };
-        expectRefusal(Area::Result, "Password not defined");
-    }
 }
 
 } // namespace

@@ -1,225 +1,191 @@
 #include "window/WindowHarness.h"
 
-#include "lib/secret/Hex.h"
 #include "ui/algorithms/CAlgInfoDialog.h"
-#include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/CSetAlgDialog.h"
 #include "ui/options/COptionsDialog.h"
 #include "ui/password/CSetKeyAndIvDialog.h"
-#include "ui/style/CLinkLabel.h"
 
-#include <QCheckBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QTextEdit>
+namespace test {
 
-#include <filesystem>
-
-using namespace thisapp;
-namespace fs = std::filesystem;
-
-namespace {
-
-/// What a dialog says of itself: title, file, algorithm, and its switches as "srw" for seal, salt, rewriting.
-std::string summary(QDialog& dialog)
+/// What a dialog says of itself: title, file, algorithm, and its switches as "sar" for seal, salt, rewriting.
+static std::string summary(QDialog& dialog)
 {
-    std::string switches;
+    QString switches;
     for (const auto& [name, letter] : {std::pair("checkBoxSeal", 's'), std::pair("checkBoxUseSalt", 'a'),
                                        std::pair("checkBoxRewrite", 'r')})
-        if (const auto* box = dialog.findChild<QCheckBox*>(name); box->isVisible() && box->isChecked())
+        if (const auto& box = child<QCheckBox>(dialog, name); box.isVisible() && box.isChecked())
             switches += letter;
-    const QString info = dialog.findChild<QTextEdit*>("textEditInfo")->toPlainText();
-    return (dialog.windowTitle() + "|" + dialog.findChild<QLabel*>("labelSubject")->text() + "|" +
-            info.mid(info.lastIndexOf(": ") + 2))
-               .toStdString() +
-           "|" + switches;
+    const QString info = child<QTextEdit>(dialog, "textEditInfo").toPlainText();
+    return QStringList{dialog.windowTitle(), child<QLabel>(dialog, "labelSubject").text(),
+                       info.mid(info.lastIndexOf(": ") + 2), switches}
+        .join('|')
+        .toStdString();
+}
+
+static void check(QDialog& dialog, const char* box, bool on)
+{
+    child<QCheckBox>(dialog, box).setChecked(on);
 }
 
 /// The dialogs that the window opens, and what becomes of the answers.
-class DialogsTest : public test::WindowTest
+class DialogsTest : public WindowTest
 {
 protected:
-    static void ok(QDialog& dialog)
+    static void type(QDialog& dialog, const QString& iv, const QString& key)
     {
-        QTest::mouseClick(dialog.findChild<QPushButton*>("buttonOk"), Qt::LeftButton);
+        child<QPlainTextEdit>(dialog, "plainTextEditIv").setPlainText(iv);
+        child<QPlainTextEdit>(dialog, "plainTextEditKey").setPlainText(key);
     }
-    static void check(QDialog& dialog, const char* box, bool on)
+    /// From the password dialog to the other one.
+    void toKeyDialog(QDialog& from, const std::function<void(CSetKeyAndIvDialog&)>& act)
     {
-        dialog.findChild<QCheckBox*>(box)->setChecked(on);
+        onDialog<CSetKeyAndIvDialog>(act);
+        child<CLinkLabel>(from, "labelAdvancedMode").follow();
     }
-    static void type(QDialog& dialog, const char* field, const QString& hex)
-    {
-        dialog.findChild<QPlainTextEdit*>(field)->setPlainText(hex);
-    }
-    static std::string typed(QDialog& dialog)
-    {
-        return (dialog.findChild<QPlainTextEdit*>("plainTextEditIv")->toPlainText() + '/' +
-                dialog.findChild<QPlainTextEdit*>("plainTextEditKey")->toPlainText())
-            .toStdString();
-    }
-    /// From the password dialog to the other one, with the switches turned.
     void onKeyDialog(const std::function<void(CSetKeyAndIvDialog&)>& act)
     {
-        w.onDialog<CSetPasswordDialog>([this, act](CSetPasswordDialog& dialog) {
-            w.onDialog<CSetKeyAndIvDialog>(act);
-            dialog.findChild<CLinkLabel*>("labelAdvancedMode")->follow();
-        });
+        onDialog<CSetPasswordDialog>([this, act](CSetPasswordDialog& dialog) { toKeyDialog(dialog, act); });
     }
-    void runWithKey(Qt::Key key, const char* input, const char* output, const QString& hex, bool seal = false)
+    void runWithKey(Qt::Key key, const char* in, const char* out, const QString& hex, bool seal = false)
     {
         onKeyDialog([=](CSetKeyAndIvDialog& dialog) {
-            type(dialog, "plainTextEditIv", QString("01").repeated(16));
-            type(dialog, "plainTextEditKey", hex);
+            type(dialog, QString("01").repeated(16), hex);
             check(dialog, "checkBoxSeal", seal);
-            ok(dialog);
+            child<QPushButton>(dialog, "buttonOk").click();
         });
-        press(key, w.path(input), w.path(output));
-        ASSERT_TRUE(w.waitForEnd());
+        fill(in, out);
+        press(key);
+        waitForEnd();
     }
-    void trigger(const char* action) { w.window->findChild<QAction*>(action)->trigger(); }
 };
 
 TEST_F(DialogsTest, ShowWhatTheSettingsSay)
 {
-    w.writeInput("in", 10);
+    writeInput("in");
     struct
     {
         Qt::Key key;
         bool on;
-        const char *password, *keyAndIv;
+        Lines expected;
     } const cases[] = {
-        {Qt::Key_F5, false, "Password to encrypt|in|AES-256.|", nullptr},
-        {Qt::Key_F5, true, "Password to encrypt|in|AES-256.|sar", "Key and IV to encrypt|in|AES-256.|sar"},
-        {Qt::Key_F6, false, "Password to decrypt|in|AES-256.|", nullptr},
-        {Qt::Key_F6, true, "Password to decrypt|in|AES-256.|r", "Key and IV to decrypt|in|AES-256.|r"},
+        {Qt::Key_F5, false, {"Password to encrypt|in|AES-256.|"}},
+        {Qt::Key_F5, true, {"Password to encrypt|in|AES-256.|sar", "Key and IV to encrypt|in|AES-256.|sar"}},
+        {Qt::Key_F6, false, {"Password to decrypt|in|AES-256.|"}},
+        {Qt::Key_F6, true, {"Password to decrypt|in|AES-256.|r", "Key and IV to decrypt|in|AES-256.|r"}},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.password);
-        set({{"SealFiles", c.on},
-             {"UseSalt", c.on},
-             {"RewriteOutputFile", c.on},
-             {"ShowAdvancedPasswordOptions", c.on},
-             {"ShowPassword", c.on},
-             {"UseConfirmPassword", c.on}});
-        int seen = 0;
-        w.onDialog<CSetPasswordDialog>([&](CSetPasswordDialog& dialog) {
-            ++seen;
-            EXPECT_EQ(summary(dialog), c.password);
-            auto* link = dialog.findChild<CLinkLabel*>("labelAdvancedMode");
-            EXPECT_EQ(link->isVisible(), c.on);
-            EXPECT_EQ(dialog.findChild<QWidget*>("frameConfirmPassword")->isVisible(),
+        std::map<QString, QVariant> settings;
+        for (const char* key : {"SealFiles", "UseSalt", "RewriteOutputFile", "ShowAdvancedPasswordOptions",
+                                "ShowPassword", "UseConfirmPassword"})
+            settings[key] = c.on;
+        set(settings);
+        Lines seen;
+        onDialog<CSetPasswordDialog>([&](CSetPasswordDialog& dialog) {
+            seen.push_back(summary(dialog));
+            EXPECT_EQ(child<CLinkLabel>(dialog, "labelAdvancedMode").isVisible(), c.on);
+            EXPECT_EQ(child<QWidget>(dialog, "frameConfirmPassword").isVisible(),
                       c.on && c.key == Qt::Key_F5);
-            EXPECT_EQ(dialog.findChild<QLineEdit*>("lineEditPassword")->echoMode(),
+            EXPECT_EQ(child<QLineEdit>(dialog, "lineEditPassword").echoMode(),
                       c.on ? QLineEdit::Normal : QLineEdit::Password);
             QTest::keyClick(&dialog, Qt::Key_F8, Qt::ControlModifier); // a command of the window alone
             if (!c.on)
                 return dialog.reject();
-            w.onDialog<CSetKeyAndIvDialog>([&](CSetKeyAndIvDialog& other) {
-                ++seen;
-                EXPECT_EQ(summary(other), c.keyAndIv);
-                EXPECT_TRUE(other.findChild<QLabel*>("labelKey")->text().contains("32 bytes"));
+            toKeyDialog(dialog, [&](CSetKeyAndIvDialog& other) {
+                seen.push_back(summary(other));
+                EXPECT_TRUE(child<QLabel>(other, "labelKey").text().contains("32 bytes"));
                 other.reject();
             });
-            link->follow();
         });
-        press(c.key, w.path("in"), w.path("out"));
-        EXPECT_EQ(seen, c.on ? 2 : 1);
-        EXPECT_EQ(w.result(), "Password not defined");
-        EXPECT_EQ(w.input().text(), w.path("in"));
+        fill("in", "out");
+        press(c.key);
+        EXPECT_EQ(seen, c.expected);
+        EXPECT_EQ(result(), "Password not defined");
+        EXPECT_EQ(input().text(), path("in"));
     }
 }
 
 TEST_F(DialogsTest, WorkWithKeyAndIv)
 {
     const QString key = QString("a7").repeated(32);
-    w.writeInput("in", 200'000);
+    writeInput("in", 200'000);
+    set({{"RewriteOutputFile", true}});
     for (const bool seal : {false, true}) {
         SCOPED_TRACE(seal);
-        set({{"RewriteOutputFile", true}});
         runWithKey(Qt::Key_F5, "in", "out", key, seal);
-        EXPECT_EQ(fs::file_size(folder() / "out") > 200'064, seal) << w.result();
+        EXPECT_EQ(fs::file_size(folder / "out") > 200'064, seal) << result();
         runWithKey(Qt::Key_F6, "out", "back", key);
-        EXPECT_EQ(test::readFile(folder() / "back"), test::readFile(folder() / "in")) << w.result();
+        EXPECT_EQ(read("back"), read("in")) << result();
         runWithKey(Qt::Key_F6, "out", "none", QString(key).replace(0, 1, 'b'));
-        EXPECT_EQ(w.text("inputMessage"), "Check the key, the IV and the algorithm.");
+        EXPECT_EQ(text("inputMessage"), "Check the key, the IV and the algorithm.");
     }
-    std::string damaged = test::readFile(folder() / "out");
-    damaged.back() ^= 1;
-    folder().write("out", damaged);
+    damage("out");
     runWithKey(Qt::Key_F6, "out", "none", key);
-    EXPECT_EQ(w.text("inputMessage"),
+    EXPECT_EQ(text("inputMessage"),
               "The key, the IV and the algorithm are right. Try another copy of the file.");
 }
 
 /// What was typed and switched in one of the two is there when the user comes back from the other.
 TEST_F(DialogsTest, KeepWhatWasSaidOnTheWayThroughBoth)
 {
-    w.writeInput("in", 10);
-    std::vector<std::string> seen;
+    writeInput("in");
+    Lines seen;
     onKeyDialog([&](CSetKeyAndIvDialog& dialog) {
-        type(dialog, "plainTextEditIv", "0102");
-        type(dialog, "plainTextEditKey", "a1a");
+        type(dialog, "0102", "a1a");
         check(dialog, "checkBoxUseSalt", true);
         check(dialog, "checkBoxRewrite", true);
-        w.onDialog<CSetPasswordDialog>([&](CSetPasswordDialog& password) {
+        onDialog<CSetPasswordDialog>([&](CSetPasswordDialog& password) {
             seen.push_back(summary(password));
             check(password, "checkBoxSeal", true);
             check(password, "checkBoxRewrite", false);
-            w.onDialog<CSetKeyAndIvDialog>([&](CSetKeyAndIvDialog& again) {
+            toKeyDialog(password, [&](CSetKeyAndIvDialog& again) {
                 seen.push_back(summary(again));
-                seen.push_back(typed(again));
+                for (const char* field : {"plainTextEditIv", "plainTextEditKey"})
+                    seen.push_back(child<QPlainTextEdit>(again, field).toPlainText().toStdString());
                 again.reject();
             });
-            password.findChild<CLinkLabel*>("labelAdvancedMode")->follow();
         });
-        dialog.findChild<CLinkLabel*>("labelNormalMode")->follow();
+        child<CLinkLabel>(dialog, "labelNormalMode").follow();
     });
-    press(Qt::Key_F5, w.path("in"), w.path("out"));
-    EXPECT_EQ(seen, (std::vector<std::string>{"Password to encrypt|in|AES-256.|ar",
-                                              "Key and IV to encrypt|in|AES-256.|sa", "0102/a1a"}));
+    fill("in", "out");
+    press(Qt::Key_F5);
+    EXPECT_EQ(seen, Lines({"Password to encrypt|in|AES-256.|ar", "Key and IV to encrypt|in|AES-256.|sa",
+                           "0102", "a1a"}));
 }
 
 TEST_F(DialogsTest, SwitchTheMenusOfTheDesktop)
 {
+    std::pair before(options.read().integrateToShellContextMenu, options.read().addToSendMenu);
     for (const bool contextMenu : {false, true, true})
         for (const bool sendTo : {true, false}) {
-            w.shellUpdates.clear();
-            const SAppOptions before = w.options.read();
-            w.onDialog<COptionsDialog>([=, log = w.path("quillet.log")](COptionsDialog& dialog) {
-                EXPECT_EQ(dialog.findChild<QLineEdit*>("editLogFile")->text(), log);
+            shellUpdates.clear();
+            onDialog<COptionsDialog>([=, this](COptionsDialog& dialog) {
+                EXPECT_EQ(child<QLineEdit>(dialog, "editLogFile").text(), path("quillet.log"));
                 check(dialog, "checkContextMenu", contextMenu);
                 check(dialog, "checkSendTo", sendTo);
-                ok(dialog);
+                child<QPushButton>(dialog, "buttonOk").click();
             });
             trigger("options");
             const std::pair wanted(contextMenu, sendTo);
-            const bool changes =
-                wanted != std::pair(before.integrateToShellContextMenu, before.addToSendMenu);
-            EXPECT_EQ(w.shellUpdates, decltype(w.shellUpdates)(changes ? 1 : 0, wanted));
+            EXPECT_EQ(shellUpdates, decltype(shellUpdates)(wanted != before ? 1 : 0, wanted));
+            before = wanted;
         }
 }
 
 TEST_F(DialogsTest, ChooseAnAlgorithmForNowOrForGood)
 {
-    const auto selected = [](test::WindowHarness& window) {
-        return window.algorithms.displayName(window.form().algFrame().selection()).toStdString();
-    };
     for (const auto& [name, forGood] : {std::pair("Serpent-256", false), std::pair("AES-128", true)}) {
-        w.onDialog<CSetAlgDialog>([name = name, forGood = forGood](CSetAlgDialog& dialog) {
-            auto* list = dialog.findChild<QListWidget*>();
-            list->setCurrentItem(list->findItems(name, Qt::MatchExactly).value(0));
+        onDialog<CSetAlgDialog>([name = name, forGood = forGood](CSetAlgDialog& dialog) {
+            auto& list = child<QListWidget>(dialog);
+            list.setCurrentItem(list.findItems(name, Qt::MatchExactly).value(0));
             check(dialog, "checkBoxUseAsDefault", forGood);
             dialog.accept();
         });
         trigger("default-algorithm");
-        EXPECT_EQ(selected(w), name);
-        test::WindowHarness next;
-        EXPECT_EQ(selected(next), forGood ? name : "AES-256");
+        EXPECT_EQ(algorithm(), name);
+        EXPECT_EQ(WindowHarness().algorithm(), forGood ? name : "AES-256");
     }
-    w.onDialog<CAlgInfoDialog>([](CAlgInfoDialog& dialog) {
-        EXPECT_TRUE(dialog.findChild<QListWidget*>()->currentItem()->text().contains("AES-128"));
+    onDialog<CAlgInfoDialog>([](CAlgInfoDialog& dialog) {
+        EXPECT_TRUE(child<QListWidget>(dialog).currentItem()->text().contains("AES-128"));
         dialog.reject();
     });
     trigger("algorithm-info");
@@ -227,26 +193,17 @@ TEST_F(DialogsTest, ChooseAnAlgorithmForNowOrForGood)
 
 TEST_F(DialogsTest, ChooseFilesBesideThoseThatAreThere)
 {
-    w.writeInput("in", 10);
-    fs::create_directory(folder() / "sub");
-    folder().write("sub/former", "");
-    struct
-    {
-        const char *output, *folder;
-    } const cases[] = {{"", ""}, {"sub/out", "sub"}};
-    for (const auto& c : cases) {
-        w.input().setText(w.path("in"));
-        w.output().setText(*c.output ? w.path(c.output) : QString());
-        w.onDialog<QFileDialog>([&](QFileDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), "Define output file");
-            EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-            EXPECT_EQ(dialog.directory().path() + '/', w.path("") + c.folder + (*c.folder ? "/" : ""));
-            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(w.path("sub/former")); // taken unasked
-            QTest::keyClick(dialog.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
-        });
-        w.toolButton("Choose the output file").click();
-        EXPECT_EQ(w.output().text(), w.path("sub/former"));
+    writeInput("in");
+    makeFolder("sub");
+    folder.write("sub/former", "");
+    for (const char* given : {"", "sub/out"}) {
+        input().setText(path("in"));
+        output().setText(*given ? path(given) : QString());
+        answerFile("sub/former"); // taken unasked
+        toolButton("Choose the output file").click();
+        EXPECT_EQ(asked, *given ? "Define output file|sub|save" : "Define output file|.|save");
+        EXPECT_EQ(output().text(), path("sub/former"));
     }
 }
 
-} // namespace
+} // namespace test

@@ -1,89 +1,60 @@
 #include "window/WindowHarness.h"
 
-#include "app/widgets/CElidedLabel.h"
-#include "common/settings/CAppSettings.h"
 #include "crypto/sealed/Argon2.h"
 #include "support/Eventually.h"
 #include "support/NewThreads.h"
 #include "support/OwnMemory.h"
-#include "ui/algorithms/CSelectAlgFrame.h"
 
-#include <QMessageBox>
-#include <QProgressBar>
-#include <gtest/gtest.h>
+namespace test {
 
-#include <filesystem>
-
-using namespace thisapp;
-using test::WindowHarness;
-namespace fs = std::filesystem;
-
-namespace {
-
-/// DES_EDE3, the slowest of all.
-constexpr AlgSelection SlowAlgorithm{1, 601};
-
-class JobTest : public test::WindowTest
+class JobTest : public WindowTest
 {
 protected:
     /// A job that is at work, and would be for a while.
     void startLongJob()
     {
-        folder().write("in", "");
-        fs::resize_file(w.folder / "in", 4LL << 30); // sparse
-        ASSERT_TRUE(w.form().algFrame().setSelection(SlowAlgorithm));
-        encrypt();
-        ASSERT_TRUE(
-            QTest::qWaitFor([this] { return w.progress().percent() > 0; }, WindowHarness::JobTimeoutMs));
-        ASSERT_TRUE(w.isRunning());
+        folder.write("in", "");
+        fs::resize_file(folder / "in", 4LL << 30); // sparse
+        select(SlowAlgorithm);
+        start(Qt::Key_F5, "in", "out");
+        ASSERT_TRUE(waitFor([this] { return progress().percent() > 0; }));
+        ASSERT_TRUE(isRunning());
     }
 };
 
 TEST_F(JobTest, EncryptsAndDecryptsWhatTheUserGives)
 {
-    for (const std::uint32_t id : {252U, 550U, 200U}) {
-        for (const std::size_t size : {std::size_t{0}, std::size_t{1}, std::size_t{300'000}}) {
-            SCOPED_TRACE(id);
-            w.writeInput("in", size);
-            ASSERT_TRUE(w.form().algFrame().setSelection({1, id}));
-            encrypt();
-            ASSERT_TRUE(w.waitForEnd());
-            EXPECT_EQ(w.result(), "File was encrypted successfully");
-            EXPECT_EQ(w.progress().percent(), 100.0F);
-            run(Qt::Key_F6, w.path("out"), w.path("back"));
-            ASSERT_TRUE(w.waitForEnd());
-            EXPECT_EQ(w.result(), "File was decrypted successfully");
-            EXPECT_EQ(test::readFile(folder() / "in"), test::readFile(folder() / "back"));
-            fs::remove(folder() / "out");
-            fs::remove(folder() / "back");
-        }
+    set({{"RewriteOutputFile", true}});
+    for (const auto& [algorithm, size] : {std::pair(252, 0), std::pair(550, 1), std::pair(200, 300'000)}) {
+        SCOPED_TRACE(algorithm);
+        writeInput("in", std::size_t(size));
+        select(std::uint32_t(algorithm));
+        EXPECT_EQ(encrypt(), "File was encrypted successfully");
+        EXPECT_EQ(progress().percent(), 100.0F);
+        EXPECT_EQ(decrypt(), "File was decrypted successfully");
+        EXPECT_EQ(read("in"), read("back"));
     }
-    const auto& bar = *w.window->findChild<QProgressBar*>();
-    EXPECT_EQ(bar.value(), bar.maximum());
-    EXPECT_EQ(std::ranges::max(w.taskbarValues), 100);
-    EXPECT_TRUE(w.taskbarValues.back() == 0 && !w.isTaskbarShown);
+    EXPECT_EQ(find<QProgressBar>().value(), find<QProgressBar>().maximum());
+    EXPECT_EQ(std::ranges::max(taskbarValues), 100);
+    EXPECT_TRUE(taskbarValues.back() == 0 && !isTaskbarShown);
 }
 
 TEST_F(JobTest, RefusesAWrongPasswordBeforeItWrites)
 {
-    w.writeInput("in", 1000);
+    writeInput("in", 1000);
     encrypt();
-    ASSERT_TRUE(w.waitForEnd());
-    run(Qt::Key_F6, w.path("out"), w.path("back"), "wrong");
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "Failed to decrypt file. Corrupted data (error: 5/4003)");
-    EXPECT_EQ(w.text("outputMessage"), "");
-    EXPECT_NE(w.text("inputMessage"), "");
-    EXPECT_FALSE(fs::exists(folder() / "back"));
+    EXPECT_EQ(run(Qt::Key_F6, "out", "back", "wrong"),
+              "Failed to decrypt file. Corrupted data (error: 5/4003)");
+    EXPECT_EQ(text("outputMessage"), "");
+    EXPECT_NE(text("inputMessage"), "");
+    EXPECT_FALSE(exists("back"));
 
     // With rewriting on, a former output is gone by then, and the user is told.
     set({{"RewriteOutputFile", true}});
-    folder().write("back", "former");
-    run(Qt::Key_F6, w.path("out"), w.path("back"), "wrong");
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
-    EXPECT_FALSE(fs::exists(folder() / "back"));
-    EXPECT_TRUE(fs::exists(folder() / "out"));
+    folder.write("back", "former");
+    run(Qt::Key_F6, "out", "back", "wrong");
+    EXPECT_EQ(text("outputMessage"), "Output file has been deleted.");
+    EXPECT_TRUE(!exists("back") && exists("out"));
 }
 
 /// No thread is to be had: for the job, and afterwards for the removal of its input.
@@ -91,28 +62,25 @@ TEST_F(JobTest, TellsOfAJobThatCannotStart)
 {
     static constexpr char Password[] = "Quinces melt 0815 slowly";
     bool threads = false;
-    const test::NewThreads none([&threads] { return threads; });
+    const NewThreads none([&threads] { return threads; });
     set({{"RewriteOutputFile", true}, {"DeleteSourceFileAfterEncryption", true}});
-    w.writeInput("in", 10);
+    writeInput("in");
     for (const auto& [key, start] : {std::pair(Qt::Key_F5, "Failed to start the encryption. "),
                                      std::pair(Qt::Key_F6, "Failed to start the decryption. ")}) {
-        folder().write("out", "former");
-        run(key, w.path("in"), w.path("out"), Password);
-        EXPECT_EQ(w.result(), start + std::string("(error: 5/303)"));
-        EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
-        EXPECT_FALSE(w.isRunning() || fs::exists(folder() / "out"));
-        EXPECT_FALSE(test::isInMemory(Password));
+        folder.write("out", "former");
+        EXPECT_EQ(run(key, "in", "out", Password), start + std::string("(error: 5/303)"));
+        EXPECT_EQ(detail("resultMessage"), "in \u2192 " + (folder / "out"));
+        EXPECT_FALSE(isRunning() || exists("out") || isInMemory(Password));
     }
     threads = true;
-    encrypt();
-    w.onDialog<QMessageBox>([&threads](QMessageBox& box) {
+    start(Qt::Key_F5, "in", "out");
+    onDialog<QMessageBox>([&threads](QMessageBox& box) {
         threads = false;
         box.button(QMessageBox::Yes)->click();
     });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !threads; }, WindowHarness::JobTimeoutMs));
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.text("inputMessage"), "The input file could not be deleted. (error: 5/303)");
-    EXPECT_EQ(w.kind("inputMessage"), MessageKind::Warning);
+    ASSERT_TRUE(waitFor([&] { return !threads && !isRunning(); }));
+    EXPECT_EQ(text("inputMessage"), "The input file could not be deleted. (error: 5/303)");
+    EXPECT_EQ(kind("inputMessage"), MessageKind::Warning);
 }
 
 TEST_F(JobTest, SealsAndOpensFiles)
@@ -121,225 +89,176 @@ TEST_F(JobTest, SealsAndOpensFiles)
     set({{"SealFiles", true},
          {"DeleteSourceFileAfterEncryption", true},
          {"ConfirmDeleteSourceFileAfterEncryption", false}});
-    w.writeInput("in", Size);
-    const std::string plain = test::readFile(folder() / "in");
-    encrypt();
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "File was encrypted successfully. It is sealed.");
-    EXPECT_EQ(fs::file_size(folder() / "out"), 32 + 200'064 + 4 * 16) << "salt, plain format, tags";
-    EXPECT_FALSE(fs::exists(folder() / "in")) << w.text("inputMessage");
-
-    run(Qt::Key_F6, w.path("out"), w.path("back"));
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "File was decrypted successfully. It was sealed and is unchanged.");
-    EXPECT_EQ(test::readFile(folder() / "back"), plain);
-
-    std::string damaged = test::readFile(folder() / "out");
-    damaged[Size / 2] ^= 1;
-    folder().write("damaged", damaged);
-    run(Qt::Key_F6, w.path("damaged"), w.path("none"));
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "Failed to decrypt file. The file is damaged or has been changed (error: 5/4010)");
-    EXPECT_EQ(w.text("inputMessage"),
+    writeInput("in", Size);
+    const std::string plain = read("in");
+    EXPECT_EQ(encrypt(), "File was encrypted successfully. It is sealed.");
+    EXPECT_EQ(fs::file_size(folder / "out"), 32 + 200'064 + 4 * 16) << "salt, plain format, tags";
+    EXPECT_FALSE(exists("in")) << text("inputMessage");
+    EXPECT_EQ(decrypt(), "File was decrypted successfully. It was sealed and is unchanged.");
+    EXPECT_EQ(read("back"), plain);
+    damage("out");
+    EXPECT_EQ(run(Qt::Key_F6, "out", "none"),
+              "Failed to decrypt file. The file is damaged or has been changed (error: 5/4010)");
+    EXPECT_EQ(text("inputMessage"),
               "The password and the algorithm are right. Try another copy of the file.");
-    EXPECT_FALSE(fs::exists(folder() / "none"));
+    EXPECT_FALSE(exists("none"));
 
     static constexpr char Password[] = "Walnuts hum 1312 at night"; // needed no more once there is a key
     set({{"SealFiles", true}});
-    run(Qt::Key_F5, w.path("back"), w.path("other"), Password);
-    ASSERT_TRUE(w.waitForEnd());
-    ASSERT_TRUE(w.form().algFrame().setSelection({1, 452}));
-    run(Qt::Key_F6, w.path("other"), w.path("none"), Password);
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.text("inputMessage"), "This file was encrypted with AES-256.");
-    EXPECT_FALSE(test::isInMemory(Password));
-    w.output().setText(w.path("elsewhere")); // no offer any more, and no key either
-    tessaly::SecretBytes salt(32, 0);
-    std::ifstream(folder() / "other").read(reinterpret_cast<char*>(salt.data()), 32);
+    run(Qt::Key_F5, "back", "other", Password);
+    select(452);
+    run(Qt::Key_F6, "other", "none", Password);
+    EXPECT_EQ(text("inputMessage"), "This file was encrypted with AES-256.");
+    EXPECT_FALSE(isInMemory(Password));
+    output().setText(path("elsewhere")); // no offer any more, and no key either
+    const std::string salt = read("other").substr(0, 32);
     tessaly::SecretBytes root;
     ASSERT_TRUE(
-        tessaly::crypto::argon2id(tessaly::SecretText(Password), salt, WindowHarness::Cheap, root).ok());
+        tessaly::crypto::argon2id(tessaly::SecretText(Password), {salt.begin(), salt.end()}, Cheap, root)
+            .ok());
     std::ranges::for_each(root, [](auto& byte) { byte ^= 0xff; }); // as it stands nowhere else
-    EXPECT_FALSE(test::isInMemory({reinterpret_cast<const char*>(root.data()), root.size()}, '\xff'));
+    EXPECT_FALSE(isInMemory({reinterpret_cast<const char*>(root.data()), root.size()}, '\xff'));
 }
 
 /// At its finest level, what became of each job.
 TEST_F(JobTest, LogsWhatItDoes)
 {
-    set({{"UseLogFile", true}, {"LogLevel", 6}, {"UseConfirmPassword", false}});
-    w.options.applyAtStart();
+    set({{"UseLogFile", true}, {"LogLevel", 6}});
+    options.applyAtStart();
     for (const char* name : {"one", "two"})
-        w.writeInput(name, 1000);
-    run(Qt::Key_F6, w.path("one"), w.path("out"));
-    ASSERT_TRUE(w.waitForEnd());
-    w.answerPassword("secret");
-    w.window->processCommandLine({"-decrypt", "-start", w.path("one"), w.path("two")});
-    ASSERT_TRUE(w.waitForEnd());
+        writeInput(name, 1000);
+    run(Qt::Key_F6, "one", "out");
+    answerPassword("secret");
+    window->processCommandLine({"-decrypt", "-start", path("one"), path("two")});
+    waitForEnd();
     const auto count = [this](const std::string& text) {
-        const QString log = QString::fromStdString(test::readFile(folder() / "quillet.log"));
-        return log.count(QString::fromStdString(text));
+        return QString::fromStdString(read("quillet.log")).count(QString::fromStdString(text));
     };
-    EXPECT_TRUE(test::eventually(
+    EXPECT_TRUE(eventually(
         [&] { return count("Failed to encrypt/decrypt. Error: Corrupted data (error: 5/4003)") == 3; }));
-    EXPECT_EQ(count("Try to process command line: \"-decrypt\" \"-start\" \"" + (folder() / "one") + "\" \""),
+    EXPECT_EQ(count("Try to process command line: \"-decrypt\" \"-start\" \"" + (folder / "one") + "\" \""),
               1);
     set({});
-    w.options.applyAtStart();
+    options.applyAtStart();
 }
 
 /// At the cost that users have, to be in time.
-TEST(SealTest, StopsWhileTheKeyIsMade)
+struct SealTest : WindowTest
 {
-    CAppSettings().clear();
-    CAppSettings().setValue("SealFiles", true);
-    WindowHarness w(lookAtInput, {});
-    w.writeInput("in", 10);
-    w.input().setText(w.path("in"));
-    w.output().setText(w.path("out"));
-    w.answerPassword("secret");
-    QTest::keyClick(w.window.get(), Qt::Key_F5);
-    ASSERT_TRUE(QTest::qWaitFor([&w] { return w.progress().message() != ""; }, WindowHarness::JobTimeoutMs));
-    EXPECT_EQ(w.progress().message(), "Making the key of the password. 0.000% processed");
-    QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "File encryption was canceled");
-    EXPECT_FALSE(fs::exists(w.folder / "out"));
+    SealTest() : WindowTest(lookAtInput, tessaly::crypto::Argon2Cost{}) {}
+};
+
+TEST_F(SealTest, StopsWhileTheKeyIsMade)
+{
+    set({{"SealFiles", true}});
+    writeInput("in");
+    start(Qt::Key_F5, "in", "out");
+    ASSERT_TRUE(waitFor([this] { return progress().message() != ""; }));
+    EXPECT_EQ(progress().message(), "Making the key of the password. 0.000% processed");
+    button("buttonStop").click();
+    EXPECT_EQ(waitForEnd(), "File encryption was canceled");
+    EXPECT_FALSE(exists("out"));
 }
 
-TEST_F(JobTest, KeepsAnExistingOutputUnlessToldToRewrite)
-{
-    w.writeInput("in", 1000);
-    folder().write("out", "former");
-    encrypt();
-    EXPECT_EQ(w.result(), "Output file already exists! A 'not rewrite' option has been selected.");
-    EXPECT_EQ(test::readFile(folder() / "out"), "former");
-    set({{"RewriteOutputFile", true}});
-    encrypt();
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "File was encrypted successfully");
-    EXPECT_EQ(fs::file_size(folder() / "out"), 1056U);
-}
-
-TEST_F(JobTest, StopsInTheMiddle)
+TEST_F(JobTest, StopsInTheMiddleAndNamesItsFilesWhateverTheFieldsHold)
 {
     startLongJob();
-    EXPECT_TRUE(w.window->windowTitle().contains("% - in - "));
-    EXPECT_FALSE(w.input().isEnabled() || w.form().acceptDrops());
-    const QPalette& palette = w.input().palette();
+    EXPECT_TRUE(window->windowTitle().contains("% - in - "));
+    EXPECT_FALSE(input().isEnabled() || form().acceptDrops());
+    const QPalette& palette = input().palette();
     EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text),
               palette.color(QPalette::Active, QPalette::Text))
         << "names are to be read";
-    EXPECT_TRUE(w.isTaskbarShown);
-    for (const auto& [id, offered] : {std::pair("encrypt", false), std::pair("decrypt", false),
-                                      std::pair("default-algorithm", false), std::pair("stop", true)})
-        EXPECT_EQ(w.window->findChild<QAction*>(id)->isEnabled(), offered) << id;
-    w.window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(w.path("other"))});
-    EXPECT_EQ(w.input().text(), w.path("in"));
-    EXPECT_FALSE(fs::exists(folder() / "out")) << "not before it is whole";
+    EXPECT_TRUE(isTaskbarShown);
+    for (const char* id : {"encrypt", "decrypt", "default-algorithm", "stop"})
+        EXPECT_EQ(find<QAction>(id).isEnabled(), id == std::string("stop")) << id;
+    window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(path("other"))});
+    EXPECT_EQ(input().text(), path("in"));
+    EXPECT_FALSE(exists("out")) << "not before it is whole";
 
-    QTest::keyClick(w.window.get(), Qt::Key_F5);
-    float percent = w.progress().percent();
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return w.progress().percent() > percent; }, WindowHarness::JobTimeoutMs));
-    EXPECT_EQ(w.progress().notice(), "Encryption/Decryption already running.") << "after a report, too";
-    percent = w.progress().percent();
-    QTest::keyClick(w.window.get(), Qt::Key_F8, Qt::ControlModifier);
-    EXPECT_EQ(w.input().text() + w.output().text(), "");
-    EXPECT_EQ(w.progress().percent(), percent);
-    EXPECT_NE(w.progress().message(), "");
+    press(Qt::Key_F5);
+    float percent = progress().percent();
+    ASSERT_TRUE(waitFor([&] { return progress().percent() > percent; }));
+    EXPECT_EQ(progress().notice(), "Encryption/Decryption already running.") << "after a report, too";
+    percent = progress().percent();
+    clear();
+    EXPECT_EQ(input().text() + output().text(), "");
+    EXPECT_EQ(progress().percent(), percent);
+    EXPECT_NE(progress().message(), "");
+    writeInput("other");
+    window->processCommandLine({path("other")});
+    button("buttonStop").click();
+    EXPECT_FALSE(button("buttonStop").isEnabled()) << "nothing more to stop";
+    EXPECT_EQ(waitForEnd(), "File encryption was canceled");
+    EXPECT_EQ(detail("resultMessage"), "in \u2192 " + (folder / "out"));
+    EXPECT_TRUE(child<CElidedLabel>(find<CMessageLine>("resultMessage")).toolTip().contains(path("out")));
+    EXPECT_EQ(text("outputMessage") + '|' + detail("outputMessage"),
+              "Output file has been deleted.|" + (folder / "out"));
+    EXPECT_TRUE(!exists("out") && exists("in"));
+    EXPECT_EQ(window->windowTitle(), "other - Quillet");
+    EXPECT_EQ(progress().notice(), "");
+    EXPECT_EQ(input().text(), path("other"));
+    EXPECT_TRUE(input().toolTip().contains(path("other")));
+    output().setText(path("out"));
+    EXPECT_EQ(detail("outputMessage"), "") << "the field says it";
 
-    QTest::mouseClick(&w.button("buttonStop"), Qt::LeftButton);
-    EXPECT_FALSE(w.button("buttonStop").isEnabled()) << "nothing more to stop";
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "File encryption was canceled");
-    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
-    EXPECT_FALSE(fs::exists(folder() / "out"));
-    EXPECT_TRUE(fs::exists(folder() / "in"));
-    EXPECT_EQ(w.window->windowTitle(), "Quillet");
-    EXPECT_EQ(w.progress().notice(), "");
-}
-
-TEST_F(JobTest, NamesTheFilesOfTheJobWhateverTheFieldsHold)
-{
-    startLongJob();
-    w.writeInput("other", 10);
-    w.window->processCommandLine({w.path("other")});
-    QTest::keyClick(w.window.get(), Qt::Key_F8);
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.input().text(), w.path("other"));
-    EXPECT_EQ(w.result(), "File encryption was canceled");
-    EXPECT_EQ(w.detail("resultMessage"), "in \u2192 " + (folder() / "out"));
-    EXPECT_TRUE(w.window->findChild<CMessageLine*>("resultMessage")
-                    ->findChild<CElidedLabel*>()
-                    ->toolTip()
-                    .contains(w.path("out")));
-    EXPECT_TRUE(w.input().toolTip().contains(w.path("other")));
-    EXPECT_EQ(w.text("outputMessage"), "Output file has been deleted.");
-    EXPECT_EQ(w.detail("outputMessage"), folder() / "out");
-    w.output().setText(w.path("out"));
-    EXPECT_EQ(w.detail("outputMessage"), "") << "the field says it";
-
-    folder().write("plain", "no encrypted file, but long enough to hold the header of one, as it may be");
-    run(Qt::Key_F6, w.path("plain"), w.path("back"));
-    ASSERT_TRUE(w.waitForEnd());
-    EXPECT_EQ(w.result(), "Failed to decrypt file. Corrupted data (error: 5/4003)");
-    EXPECT_EQ(w.detail("resultMessage"), "The file " + (folder() / "plain") + " could not be processed.");
+    folder.write("plain", "no encrypted file, but long enough to hold the header of one, as it may be");
+    EXPECT_EQ(run(Qt::Key_F6, "plain", "back"), "Failed to decrypt file. Corrupted data (error: 5/4003)");
+    EXPECT_EQ(detail("resultMessage"), "The file " + (folder / "plain") + " could not be processed.");
 }
 
 TEST_F(JobTest, ClosingEndsTheJobWithoutAPartialOutput)
 {
     startLongJob();
-    EXPECT_TRUE(w.window->close());
-    w.window.reset();
-    EXPECT_FALSE(fs::exists(folder() / "out"));
-    EXPECT_TRUE(fs::exists(folder() / "in"));
+    EXPECT_TRUE(window->close());
+    window.reset();
+    EXPECT_TRUE(!exists("out") && exists("in"));
 }
 
 TEST_F(JobTest, DeletesTheInputAsTheUserDecides)
 {
     const std::string deleted =
         "Input file has been deleted after the successfully encryption according to your options";
+    const std::string kept = "The input file has been kept: it has another name (hard link).";
+    using Answer = std::optional<QMessageBox::StandardButton>;
     struct
     {
         bool wanted, confirm;
-        QMessageBox::StandardButton answer;
+        Answer answer;
         std::string message;
         MessageKind kind = MessageKind::Plain;
-        bool linked = false;
     } const cases[] = {
-        {false, true, QMessageBox::NoButton, ""},
+        {false, true, {}, ""},
         {true, true, QMessageBox::No, ""},
         {true, true, QMessageBox::Yes, deleted, MessageKind::Success},
-        {true, false, QMessageBox::NoButton, deleted, MessageKind::Success},
-        {true, true, QMessageBox::NoButton, "The input file has been kept: it has another name (hard link).",
-         MessageKind::Warning, true},
+        {true, false, {}, deleted, MessageKind::Success},
+        {true, true, {}, kept, MessageKind::Warning},
     };
-    const char* name = "<b>in";
     for (const auto& c : cases) {
         set({{"DeleteSourceFileAfterEncryption", c.wanted},
              {"ConfirmDeleteSourceFileAfterEncryption", c.confirm}});
-        w.writeInput(name, 5000);
-        if (c.linked)
-            fs::create_hard_link(folder() / name, folder() / "twin");
-        bool asked = false;
-        run(Qt::Key_F5, w.path(name), w.path("out"));
-        if (c.answer != QMessageBox::NoButton)
-            w.onDialog<QMessageBox>([&](QMessageBox& box) {
-                asked = true;
+        writeInput("<b>in", 5000);
+        if (c.message == kept)
+            fs::create_hard_link(folder / "<b>in", folder / "twin");
+        Answer given;
+        start(Qt::Key_F5, "<b>in", "out");
+        if (c.answer)
+            onDialog<QMessageBox>([&](QMessageBox& box) {
+                given = c.answer;
                 EXPECT_EQ(box.text(),
                           "Are you sure you want to delete the input file after encryption?\nFile: '" +
-                              w.path(name) + "'\n");
+                              path("<b>in") + "'\n");
                 EXPECT_EQ(box.textFormat(), Qt::PlainText) << "a name is no markup";
                 EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
-                QTest::mouseClick(box.button(c.answer), Qt::LeftButton);
+                box.button(*given)->click();
             });
-        ASSERT_TRUE(w.waitForEnd());
-        EXPECT_EQ(asked, c.answer != QMessageBox::NoButton);
-        EXPECT_EQ(fs::exists(folder() / name), c.message != deleted);
-        EXPECT_EQ(w.text("inputMessage"), c.message);
-        EXPECT_EQ(w.kind("inputMessage"), c.kind);
-        fs::remove(folder() / "out");
+        waitForEnd();
+        EXPECT_EQ(given, c.answer);
+        EXPECT_EQ(exists("<b>in"), c.message != deleted);
+        EXPECT_EQ(text("inputMessage"), c.message);
+        EXPECT_EQ(kind("inputMessage"), c.kind);
+        fs::remove(folder / "out");
     }
 }
 
-} // namespace
+} // namespace test

@@ -3,6 +3,8 @@
 #include "app/desktop/INotifier.h"
 #include "app/desktop/ITaskbarProgress.h"
 #include "app/i18n/Translators.h"
+#include "app/widgets/CDropHint.h"
+#include "app/widgets/CElidedLabel.h"
 #include "app/widgets/CMessageLine.h"
 #include "app/widgets/CProgressBarFrame.h"
 #include "app/window/CJobFrame.h"
@@ -13,28 +15,27 @@
 #include "lib/logger/FileLogging.h"
 #include "support/TempFolder.h"
 #include "ui/algorithms/CCryptoAlgProvider.h"
+#include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/password/CSetPasswordDialog.h"
+#include "ui/style/CLinkLabel.h"
 
-#include <QApplication>
-#include <QDesktopServices>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTimer>
-#include <QToolButton>
 #include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <fstream>
-#include <functional>
 #include <map>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace test {
+
+using namespace thisapp;
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+template <class Widget>
+Widget& child(QObject& parent, const QString& name = {})
+{
+    return *parent.findChild<Widget*>(name);
+}
 
 /// Gets the folders that the desktop is asked to open, for as long as it lives.
 class UrlRecorder : public QObject
@@ -52,16 +53,13 @@ public slots:
 };
 
 /// The main window with all that it works with, as start-up puts it together; the desktop is recorded.
-class WindowHarness : private thisapp::desktop::ITaskbarProgress, private thisapp::desktop::INotifier
+class WindowHarness : private desktop::ITaskbarProgress, private desktop::INotifier
 {
 public:
-    static constexpr int JobTimeoutMs = 240'000; ///< on a machine with much else to do
-
     /// The least that Argon2 takes.
     static constexpr tessaly::crypto::Argon2Cost Cheap{1, 32, 4};
 
-    explicit WindowHarness(thisapp::InputLook look = thisapp::lookAtInput,
-                           tessaly::crypto::Argon2Cost cost = Cheap,
+    explicit WindowHarness(InputLook look = lookAtInput, tessaly::crypto::Argon2Cost cost = Cheap,
                            std::chrono::milliseconds offerLifetime = CAlgorithmOffer::Lifetime)
         : translations(folder.wide("translations"), "Quillet"),
           translators(translations),
@@ -69,16 +67,21 @@ public:
           options(
               {algorithms, translations, translators, logging,
                [this](bool contextMenu, bool sendTo) { shellUpdates.emplace_back(contextMenu, sendTo); }}),
-          window(std::make_unique<CMainWindow>(thisapp::WindowServices{encryptors, decryptors, algorithms,
-                                                                       options, *this, *this, std::move(look),
-                                                                       cost, offerLifetime}))
+          window(
+              std::make_unique<CMainWindow>(WindowServices{encryptors, decryptors, algorithms, options, *this,
+                                                           *this, std::move(look), cost, offerLifetime}))
     {
         window->show();
     }
 
-    QLineEdit& input() { return *window->findChild<QLineEdit*>("lineEditInput"); }
-    QLineEdit& output() { return *window->findChild<QLineEdit*>("lineEditOutput"); }
-    QPushButton& button(const char* name) { return *window->findChild<QPushButton*>(name); }
+    template <class Widget>
+    Widget& find(const QString& name = {})
+    {
+        return child<Widget>(*window, name);
+    }
+    QLineEdit& input() { return find<QLineEdit>("lineEditInput"); }
+    QLineEdit& output() { return find<QLineEdit>("lineEditOutput"); }
+    QPushButton& button(const char* name) { return find<QPushButton>(name); }
     QToolButton& toolButton(const char* toolTip)
     {
         for (auto* button : form().findChildren<QToolButton*>())
@@ -86,19 +89,46 @@ public:
                 return *button;
         qFatal("no button to %s", toolTip);
     }
-    std::string text(const char* line)
-    {
-        return window->findChild<CMessageLine*>(line)->text().toStdString();
-    }
-    std::string detail(const char* line)
-    {
-        return window->findChild<CMessageLine*>(line)->detail().toStdString();
-    }
+    CProgressBarFrame& progress() { return find<CProgressBarFrame>(); }
+    CJobFrame& form() { return find<CJobFrame>(); }
+    CDropHint& hint() { return find<CDropHint>(); }
+
+    std::string text(const char* line) { return find<CMessageLine>(line).text().toStdString(); }
+    std::string detail(const char* line) { return find<CMessageLine>(line).detail().toStdString(); }
+    MessageKind kind(const char* line) { return find<CMessageLine>(line).kind(); }
     std::string result() { return text("resultMessage"); }
-    thisapp::MessageKind kind(const char* line) { return window->findChild<CMessageLine*>(line)->kind(); }
-    CProgressBarFrame& progress() { return *window->findChild<CProgressBarFrame*>(); }
-    CJobFrame& form() { return *window->findChild<CJobFrame*>(); }
+    CLinkLabel& link(const char* line) { return child<CLinkLabel>(find<CMessageLine>(line)); }
+
+    void select(std::uint32_t algorithm) { ASSERT_TRUE(form().algFrame().setSelection({1, algorithm})); }
+    std::string algorithm() { return algorithms.displayName(form().algFrame().selection()).toStdString(); }
+    void trigger(const char* action) { find<QAction>(action).trigger(); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window.get(), key, modifiers);
+    }
+    /// Empties the fields.
+    void clear() { press(Qt::Key_F8, Qt::ControlModifier); }
+
     QString path(const char* name) const { return QString::fromStdString(folder / name); }
+    std::string read(const char* name) const { return readFile(folder / name); }
+    bool exists(const char* name) const { return fs::exists(folder / name); }
+    void makeFolder(const char* name) const { fs::create_directories(folder / name); }
+    /// A file of this many bytes that no two chunks of are alike.
+    void writeInput(const char* name, std::size_t size = 10) const
+    {
+        std::string content(size, '\0');
+        unsigned state = 1;
+        for (char& byte : content)
+            byte = char((state = state * 1103515245U + 12345U) >> 24);
+        folder.write(name, content);
+    }
+    /// Changes the last byte.
+    void damage(const char* name) const
+    {
+        std::string content = read(name);
+        content.back() ^= 1;
+        folder.write(name, content);
+    }
 
     /// Once a modal dialog of the type is open, does this with it.
     template <class Dialog>
@@ -113,44 +143,53 @@ public:
         });
         timer->start(5);
     }
-
     /// Types the password into every field of the dialog to come and accepts it.
     void answerPassword(const QString& password)
     {
         onDialog<CSetPasswordDialog>([password](CSetPasswordDialog& dialog) {
             for (const char* name : {"lineEditPassword", "lineEditConfirmPassword"})
-                QTest::keyClicks(dialog.findChild<QLineEdit*>(name), password);
-            QTest::mouseClick(dialog.findChild<QPushButton*>("buttonOk"), Qt::LeftButton);
+                QTest::keyClicks(&child<QLineEdit>(dialog, name), password);
+            child<QPushButton>(dialog, "buttonOk").click();
+        });
+    }
+    /// Chooses the file in the dialog to come; none leaves it.
+    void answerFile(const char* name)
+    {
+        onDialog<QFileDialog>([this, name](QFileDialog& dialog) {
+            asked = dialog.windowTitle() + '|' + QDir(path("")).relativeFilePath(dialog.directory().path()) +
+                    (dialog.acceptMode() == QFileDialog::AcceptSave ? "|save" : "");
+            if (!name)
+                return dialog.reject();
+            auto& field = child<QLineEdit>(dialog, "fileNameEdit");
+            field.setText(path(name));
+            QTest::keyClick(&field, Qt::Key_Return);
         });
     }
 
+    /// Runs the event loop until it is so.
+    static bool waitFor(const std::function<bool()>& condition)
+    {
+        return QTest::qWaitFor(condition, 240'000); // on a machine with much else to do
+    }
     bool isRunning() { return !button("buttonEncrypt").isEnabled(); }
-    /// Runs the event loop until no job runs any more.
-    bool waitForEnd()
+    /// What the job has come to.
+    std::string waitForEnd()
     {
-        return QTest::qWaitFor([this] { return !isRunning(); }, JobTimeoutMs);
+        EXPECT_TRUE(waitFor([this] { return !isRunning(); }));
+        return result();
     }
 
-    /// A file of this many bytes that no two chunks of are alike.
-    void writeInput(const char* name, std::size_t size) const
-    {
-        std::string content(size, '\0');
-        unsigned state = 1;
-        std::ranges::generate(content,
-                              [&state] { return char((state = state * 1103515245U + 12345U) >> 24); });
-        folder.write(name, content);
-    }
-
+    QString asked;                                   ///< title and folder of the last dialog for a file
     std::vector<std::pair<bool, bool>> shellUpdates; ///< context menu, "send to"
     std::vector<int> taskbarValues;
     bool isTaskbarShown = false;
     QStringList notifications; ///< "summary|body", and " >" where one opens a folder
-    test::TempFolder folder;
-    thisapp::CCryptoAlgProvider algorithms;
+    TempFolder folder;
+    CCryptoAlgProvider algorithms;
     tessaly::i18n::TranslationManager translations;
-    thisapp::Translators translators;
+    Translators translators;
     tessaly::logger::FileLogging logging;
-    thisapp::OptionsHandler options;
+    OptionsHandler options;
     tessaly::cryptopp::CEncryptorFactory encryptors;
     tessaly::cryptopp::CDecryptorFactory decryptors;
     std::unique_ptr<CMainWindow> window;
@@ -159,17 +198,19 @@ private:
     void show() override { isTaskbarShown = true; }
     void hide() override { isTaskbarShown = false; }
     void setValue(int percent) override { taskbarValues.push_back(percent); }
-    void notify(const QString& summary, const QString& body,
-                const thisapp::desktop::NotifierAction& action) override
+    void notify(const QString& summary, const QString& body, const desktop::NotifierAction& action) override
     {
         notifications += summary + '|' + body + (action.run ? " >" : "");
     }
 };
 
 /// A window in a profile of its own, and what a user does with it.
-class WindowTest : public ::testing::Test
+class WindowTest : public ::testing::Test, public WindowHarness
 {
 protected:
+    static constexpr std::uint32_t SlowAlgorithm = 601; ///< DES_EDE3, the slowest of all
+
+    using WindowHarness::WindowHarness;
     void SetUp() override { set({}); }
 
     /// The settings that differ from their defaults.
@@ -182,21 +223,36 @@ protected:
             settings.setValue(key, value);
     }
 
-    void press(Qt::Key key, const QString& input, const QString& output)
+    void fill(const char* in, const char* out)
     {
-        w.input().setText(input);
-        w.output().setText(output);
-        QTest::keyClick(w.window.get(), key);
+        input().setText(path(in));
+        output().setText(path(out));
     }
-    void run(Qt::Key key, const QString& input, const QString& output, const QString& password = "secret")
+    void start(Qt::Key key, const char* in, const char* out, const QString& password = "secret")
     {
-        w.answerPassword(password);
-        press(key, input, output);
+        answerPassword(password);
+        fill(in, out);
+        press(key);
     }
-    void encrypt() { run(Qt::Key_F5, w.path("in"), w.path("out")); }
-    const test::TempFolder& folder() const { return w.folder; }
+    std::string run(Qt::Key key, const char* in, const char* out, const QString& password = "secret")
+    {
+        start(key, in, out, password);
+        return waitForEnd();
+    }
+    std::string encrypt() { return run(Qt::Key_F5, "in", "out"); }
+    std::string decrypt() { return run(Qt::Key_F6, "out", "back"); }
 
-    WindowHarness w;
+    /// Whether they were taken.
+    static bool drop(QWidget& target, const QMimeData& data)
+    {
+        QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&target, &enter);
+        if (enter.isAccepted()) {
+            QDropEvent event({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&target, &event);
+        }
+        return enter.isAccepted();
+    }
 };
 
 } // namespace test

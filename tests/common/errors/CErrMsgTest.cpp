@@ -70,12 +70,7 @@ TEST(CErrMsg, AnErrorLineHasTheTextOfTheFirstAndTheCodeOfTheLast)
 TEST(JobStepText, TellsTheStepAndTheFile)
 {
     using crypto::JobStep;
-    const struct
-    {
-        JobStep step;
-        crypto::CryptoResult result;
-        const char *text, *file;
-    } rows[] = {
+    const std::tuple<JobStep, crypto::CryptoResult, const char*, const char*> rows[] = {
         {JobStep::OpenInput, err::system(ENOENT), "The input file %1 could not be opened.", "in"},
         {JobStep::RemoveFormerOutput, err::system(EPERM), "The former output file %1 could not be removed.",
          "out"},
@@ -88,12 +83,12 @@ TEST(JobStepText, TellsTheStepAndTheFile)
     crypto::FileJobRequest request;
     request.input = "in";
     request.output = "out";
-    for (const auto& row : rows) {
+    for (const auto& [step, result, text, file] : rows) {
         crypto::FileJobOutcome outcome;
-        outcome.step = row.step;
-        outcome.result = row.result;
-        EXPECT_STREQ(thisapp::failedStepText(outcome), row.text);
-        EXPECT_EQ(thisapp::failedFile(outcome, request), row.file) << row.text;
+        outcome.step = step;
+        outcome.result = result;
+        EXPECT_STREQ(thisapp::failedStepText(outcome), text);
+        EXPECT_EQ(thisapp::failedFile(outcome, request), file) << text;
     }
 }
 

@@ -1,89 +1,41 @@
 #include "common/naming/OutputNaming.h"
+#include "support/DataRows.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
 
 using thisapp::NamingSettings;
+using thisapp::outputPath;
 
-void expectNames(const NamingSettings& settings, std::initializer_list<std::pair<QString, QString>> names,
-                 const QDate& today = QDate(2024, 3, 5))
+TEST(OutputNaming, MakesTheNamesThatTheSettingsAskFor)
 {
-    for (const auto& [input, output] : names)
-        EXPECT_EQ(thisapp::outputPath("/in/" + input, settings, today).toStdString(),
-                  "/in/" + output.toStdString());
-}
-
-TEST(OutputNaming, Extensions)
-{
-    NamingSettings settings;
-    expectNames(settings, {{"report.txt", "report.txt.enc"},
-                           {"report.txt.enc", "report.txt.dec"},
-                           {"report.txt.dec", "report.txt.enc"},
-                           {"FILE.ENC", "FILE.dec"},
-                           {"FILE.DEC", "FILE.enc"},
-                           {"README", "README.enc"},
-                           {"archive.tar.gz", "archive.tar.gz.enc"},
-                           {"a.enc.txt", "a.enc.txt.enc"},
-                           {".bashrc", ".bashrc.enc"},
-                           {".enc", ".dec"},
-                           {"report.", "report.enc"},
-                           {":report", ":report.enc"},
-                           {"#1 50% ü 日本.txt", "#1 50% ü 日本.txt.enc"}});
-    settings.encryption.addExt = settings.decryption.addExt = false;
-    expectNames(settings, {{"report.txt", "report.txt"},
-                           {"report.txt.enc", "report.txt.dec"},
-                           {"report.txt.dec", "report.txt.enc"}});
-    settings = {};
-    settings.decryption.ext = "";
-    expectNames(settings, {{"report.txt.enc", "report.txt"}});
-    settings.encryption.ext = "";
-    expectNames(settings, {{"README", "README"}});
-    settings.encryption.ext = ".q";
-    expectNames(settings, {{"report.txt", "report.txt.q"}, {"report.", "report.q"}});
-}
-
-TEST(OutputNaming, PrefixSuffixAndDate)
-{
-    NamingSettings settings;
-    for (thisapp::NameParts* parts : {&settings.encryption, &settings.decryption}) {
-        parts->addPrefix = parts->addSuffix = parts->addDate = true;
-        parts->prefix = "x-";
-        parts->suffix = "-y";
+    const QTemporaryDir folder;
+    QSettings stored(folder.filePath("settings"), QSettings::IniFormat);
+    for (const test::Row& row : test::dataRows("names.txt")) {
+        if (row.at(0).find('=') == std::string::npos)
+            EXPECT_EQ(outputPath("/in/" + QString::fromStdString(row[0]), thisapp::readNamingSettings(stored),
+                                 QDate(2024, 3, 5)),
+                      "/in/" + QString::fromStdString(row.at(1)));
+        else
+            for (const std::string& setting : row) {
+                const QStringList parts = QString::fromStdString(setting).split('=');
+                stored.setValue(parts[0], parts[1]);
+            }
     }
-    settings.decryption.addPrefix = settings.encryption.addPrefix = false;
-    settings.encryption.addSuffix = false;
-    expectNames(settings, {{"a", "a_2024_03_05.enc"}, {"a.enc", "a_2024_03_05-y.dec"}});
-    settings.decryption.addPrefix = settings.encryption.addPrefix = true;
-    settings.encryption.addSuffix = true;
-    const QString longest(124, 'n');
-    expectNames(settings, {{"report.txt", "x-report_2024_03_05-y.txt.enc"},
-                           {"report.txt.enc", "x-report.txt_2024_03_05-y.dec"},
-                           {"report.txt.dec", "x-report.txt_2024_03_05-y.enc"},
-                           {"README", "x-README_2024_03_05-y.enc"},
-                           {longest + ".txt", "x-" + longest + "_2024_03_05-y.txt.enc"},
-                           {longest + "n.txt", longest + "n.txt.enc"}});
-    expectNames(settings, {{"a", "x-a-y.enc"}}, QDate());
-    expectNames(settings, {{"a", "x-a_0987_12_31-y.enc"}}, QDate(987, 12, 31));
-    for (thisapp::NameParts* parts : {&settings.encryption, &settings.decryption})
-        parts->addPrefix = parts->addSuffix = parts->addDate = false;
-    expectNames(settings, {{"a", "a.enc"}, {"a.enc", "a.dec"}});
-    EXPECT_EQ(thisapp::outputFileName("a.enc", thisapp::NamingDirection::Encryption, settings, QDate()),
-              "a.enc");
-    settings.decryption.ext = "longer";
-    expectNames(settings, {{longest + ".enc", longest + ".longer"}});
-}
-
-TEST(OutputNaming, NothingToPropose)
-{
     NamingSettings settings;
+    EXPECT_EQ(outputFileName("a.enc", thisapp::NamingDirection::Encryption, settings, QDate()), "a.enc");
+    settings.encryption.addDate = true;
+    EXPECT_EQ(outputPath("/in/a", settings, QDate()), "/in/a.enc");
+    EXPECT_EQ(outputPath("/in/a", settings, QDate(987, 12, 31)), "/in/a_0987_12_31.enc");
     for (const char* input : {"", "/in/"})
-        EXPECT_EQ(thisapp::outputPath(input, settings, {}), "");
+        EXPECT_EQ(outputPath(input, settings, {}), "");
     settings.autogenerate = false;
-    EXPECT_EQ(thisapp::outputPath("/in/report.txt", settings, {}), "");
+    EXPECT_EQ(outputPath("/in/report.txt", settings, {}), "");
 }
 
 TEST(OutputNaming, DefaultFolder)
@@ -93,7 +45,7 @@ TEST(OutputNaming, DefaultFolder)
     NamingSettings settings;
     const auto outputFor = [&](const char* folder) {
         settings.outputDirPath = root.filePath(folder);
-        return thisapp::outputPath("/in/a", settings, {});
+        return outputPath("/in/a", settings, {});
     };
     EXPECT_EQ(outputFor("deep/er"), "/in/a.enc");
     EXPECT_FALSE(root.exists("deep")) << "switched off, the folder is left alone";
@@ -108,7 +60,7 @@ TEST(OutputNaming, DefaultFolder)
     EXPECT_EQ(outputFor("file"), "/in/a.enc");
 
     settings.outputDirPath = "";
-    EXPECT_EQ(thisapp::outputPath("a", settings, {}), QDir::current().filePath("a.enc"));
+    EXPECT_EQ(outputPath("a", settings, {}), QDir::current().filePath("a.enc"));
 }
 
 } // namespace

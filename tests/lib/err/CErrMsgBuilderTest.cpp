@@ -20,12 +20,7 @@ public:
 TEST(CErrMsgBuilder, TakesTheFirstTextAndTheLastCode)
 {
     const ResultCode none;
-    const struct
-    {
-        const char* sentence;
-        ResultCode first, second, third;
-        const char* line;
-    } cases[] = {
+    const std::tuple<const char*, ResultCode, ResultCode, ResultCode, const char*> rows[] = {
         {"It failed.", none, none, none, ""},
         {" It failed.\n", {5, 1}, none, none, "It failed. (error: 5/1)"},
         {"It failed.", {7, 1}, none, none, "text 1 (error: 7/1)"},
@@ -37,8 +32,8 @@ TEST(CErrMsgBuilder, TakesTheFirstTextAndTheLastCode)
     };
     const Texts texts;
     const tessaly::err::internal::CErrMsgBuilder<char> builder(texts);
-    for (const auto& row : cases)
-        EXPECT_EQ(builder.build(row.sentence, row.first, row.second, row.third), row.line);
+    for (const auto& [sentence, first, second, third, line] : rows)
+        EXPECT_EQ(builder.build(sentence, first, second, third), line);
 }
 
 } // namespace

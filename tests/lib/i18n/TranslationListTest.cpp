@@ -24,15 +24,14 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
 {
     const test::TempFolder folder;
     TranslationListLoaderXml loader;
-    ASSERT_TRUE(
-        loader
-            .load(folder.write("l", "\xEF\xBB\xBF<?xml version='1.0' encoding='ISO-8859-1'?><locales>"
-                                    "<locale language='a' Country='b' displayname='\xC3\xA4' file='f'"
-                                    " filetype='dll' description='d' disabled='x'/>"
-                                    "<locale filetype='XML'><locale/></locale><other/><Locale/>"
-                                    "<locale filetype='properties'/>"
-                                    "<locale filetype='translations'/><locale filetype='DLL'/></locales>"))
-            .ok());
+    const auto load = [&](const std::string& text) { return loader.load(folder.write("l", text)).code; };
+    ASSERT_TRUE(load("\xEF\xBB\xBF<?xml version='1.0' encoding='ISO-8859-1'?><locales>"
+                     "<locale language='a' Country='b' displayname='\xC3\xA4' file='f'"
+                     " filetype='dll' description='d' disabled='x'/>"
+                     "<locale filetype='XML'><locale/></locale><other/><Locale/>"
+                     "<locale filetype='properties'/>"
+                     "<locale filetype='translations'/><locale filetype='DLL'/></locales>")
+                    .ok());
     const std::vector<Translation> expected = {{"a", "", "\xC3\xA4", "f", 32, "d", "x"},
                                                {"", "", "", "", 0, "", ""},
                                                {"", "", "", "", 1, "", ""},
@@ -44,15 +43,13 @@ TEST(TranslationListLoaderXml, ReadsEntriesInFileOrder)
     std::string nested;
     for (int depth = 0; depth < 100; ++depth)
         nested = "<a>" + nested + "</a>";
-    const auto malformed = err::library(err::MalformedText);
-    for (const std::string& text :
-         {std::string(), std::string("<locales>"), std::string("<locale/>"), std::string("<locales/><x/>"),
-          std::string("<locales><locale></locales>"), std::string("<locales file='\xE4'/>"),
-          std::string("<locales file='\xC3"), Entities + "<locales><locale file='&b;'/></locales>",
-          Attributes + "<locales/>", "<locales>" + nested + "</locales>"})
-        EXPECT_EQ(loader.load(folder.write("l", text)).code, malformed) << text;
-    EXPECT_EQ(loader.load(folder.write("l", std::string((256 << 10) + 1, ' '))).code,
-              err::library(err::FileTooLarge));
+    for (const std::string& text : std::initializer_list<std::string>{
+             "", "<locales>", "<locale/>", "<locales/><x/>", "<locales><locale></locales>",
+             "<locales file='\xE4'/>", "<locales file='\xC3",
+             Entities + "<locales><locale file='&b;'/></locales>", Attributes + "<locales/>",
+             "<locales>" + nested + "</locales>"})
+        EXPECT_EQ(load(text), err::library(err::MalformedText)) << text;
+    EXPECT_EQ(load(std::string((256 << 10) + 1, ' ')), err::library(err::FileTooLarge));
     EXPECT_EQ(loader.load(folder.wide("missing")).code, err::system(ENOENT));
     EXPECT_EQ(loader.translations(), expected);
 }
@@ -68,57 +65,51 @@ TEST(TranslationListLoaderXml, KnowsTheWordsOfOldFiles)
     EXPECT_EQ(asciiLower("@AZ[`az{\xC3\x84"), "@az[`az{\xC3\x84");
 }
 
-TEST(LocaleResLoaders, KeepMessagesApartAndKnowBytes)
+struct LocaleResLoaders : testing::Test
 {
+    bool loads(const std::string& text)
+    {
+        return bundle.load(LocaleResLoaderTrFile(), folder.write("t", text)).ok();
+    }
+
     const test::TempFolder folder;
     StrBundleTrMgr bundle;
-    ASSERT_TRUE(
-        bundle
-            .load(LocaleResLoaderTrFile(),
-                  folder.write("t", "<TS><context><name>C</name><message numerus='yes'><source>many</source>"
-                                    "<translation><numerusform>0</numerusform><numerusform>1</numerusform>"
-                                    "</translation></message><message><source>one</source><translation>"
-                                    "<byte value='x1b'/>-<byte value='27'/></translation></message>"
-                                    "</context></TS>"))
-            .ok());
-    EXPECT_EQ(bundle.lookup("C", formKey("many", 0)).text, "0");
-    EXPECT_EQ(bundle.lookup("C", formKey("many", 1)).text, "1");
-    EXPECT_EQ(bundle.lookup("C", "one").text, "\x1b-\x1b");
-    EXPECT_EQ(bundle.lookup("C", formKey("one", 0)).text, "");
+};
+
+TEST_F(LocaleResLoaders, KeepMessagesApartAndKnowBytes)
+{
+    ASSERT_TRUE(loads("<TS><context><name>C</name><message numerus='yes'><source>many</source>"
+                      "<translation><numerusform>0</numerusform><numerusform>1</numerusform>"
+                      "</translation></message><message><source>one</source><translation>"
+                      "<byte value='x1b'/>-<byte value='27'/></translation></message></context></TS>"));
+    for (const auto& [source, text] : {std::pair(formKey("many", 0), "0"),
+                                       {formKey("many", 1), "1"},
+                                       {"one", "\x1b-\x1b"},
+                                       {formKey("one", 0), ""}})
+        EXPECT_EQ(bundle.lookup("C", source).text, text);
 }
 
-TEST(LocaleResLoaders, SurviveBrokenFiles)
+TEST_F(LocaleResLoaders, SurviveBrokenFiles)
 {
-    const test::TempFolder folder;
-    StrBundleTrMgr bundle;
-    const LocaleResLoaderTrFile loader;
-    const std::string good =
-        "<TS><context><name>C</name><message><source>a</source><translation>b</translation>"
-        "</message></context></TS>";
-    ASSERT_TRUE(bundle.load(loader, folder.write("t", good)).ok());
+    const std::string good = "<TS><context><name>C</name><message><source>a</source>"
+                             "<translation>b</translation></message></context></TS>";
+    ASSERT_TRUE(loads(good));
     for (std::size_t size = 0; size < good.size(); ++size)
-        EXPECT_FALSE(bundle.load(loader, folder.write("t", good.substr(0, size))).ok());
-    EXPECT_FALSE(bundle.load(loader, folder.write("t", "<ts/>")).ok());
-    EXPECT_FALSE(bundle.load(loader, folder.write("t", Entities + good)).ok());
+        EXPECT_FALSE(loads(good.substr(0, size)));
+    EXPECT_FALSE(loads("<ts/>"));
+    for (const std::string& type : {Entities, std::string("<!DOCTYPE TS [<!ELEMENT TS ANY>]>"),
+                                    std::string("<!DOCTYPE TS [<!-- --><!NOTATION n SYSTEM 'n'>]>")})
+        EXPECT_FALSE(loads(type + good)) << type;
     EXPECT_EQ(bundle.lookup("C", "a").text, "b");
-
     for (const char* type : {"<!DOCTYPE TS []>", "<!DOCTYPE TS SYSTEM \"[a]\" [ <!-- x --> <?y z?> ]>"})
-        EXPECT_TRUE(bundle.load(loader, folder.write("t", type + good)).ok()) << type;
-    for (const char* type :
-         {"<!DOCTYPE TS [<!-- --><!NOTATION n SYSTEM 'n'>]>", "<!DOCTYPE TS [<!ELEMENT TS ANY>]>"})
-        EXPECT_FALSE(bundle.load(loader, folder.write("t", type + good)).ok()) << type;
-}
+        EXPECT_TRUE(loads(type + good)) << type;
 
-TEST(LocaleResLoaders, RefuseThousandsOfAttributesAtOnce)
-{
-    const test::TempFolder folder;
+    // Thousands of attributes are refused at once.
     std::string attributes = " quoted='>'";
     for (int i = 0; attributes.size() < 1 << 20; ++i)
         attributes += " a" + std::to_string(i) + "=''";
-    const std::wstring path = folder.write("t", "<TS><context" + attributes + "/></TS>");
     const auto start = std::chrono::steady_clock::now();
-    StrBundleTrMgr bundle;
-    EXPECT_FALSE(bundle.load(LocaleResLoaderTrFile(), path).ok());
+    EXPECT_FALSE(loads("<TS><context" + attributes + "/></TS>"));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 

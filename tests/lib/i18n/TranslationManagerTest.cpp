@@ -7,10 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <cerrno>
-#include <thread>
-#include <vector>
 
 namespace {
 
@@ -130,56 +127,29 @@ TEST(TranslationManager, TellsWhatIsWrongAndWhere)
     folder.write("texts", "C|a=b");
     const char* const list = "/t.langs.xml";
     const char* const broken = "/de.ts";
-    const struct
-    {
-        std::string list, file, resource, wrong;
-        std::int64_t line;
-    } rows[] = {
-        {"<locales>\n<locale>\n", "", "", list, 3},
-        {"", "de.ts", "<TS>\n\n<context></TS>", broken, 3},
-        {"", "de.ts", "<TS>\n<!-- " + std::string(5000, '-') + " -->\n<context " + std::string(5000, 'x'),
-         broken, 3},
-        {"", (folder / "texts"), "", list, 0},
-        {"", "../t/de.ts", "", list, 0},
+    const auto entry = [](const std::string& file) {
+        return "<locales><locale language='de' country='DE' file='" + file + "'/></locales>";
     };
-    for (const auto& row : rows) {
-        folder.write("de.ts", row.resource);
-        folder.write("t.langs.xml", row.list.empty() ? "<locales><locale language='de' country='DE' file='" +
-                                                           row.file + "'/></locales>"
-                                                     : row.list);
+    const std::tuple<std::string, std::string, const char*, std::int64_t> rows[] = {
+        {"<locales>\n<locale>\n", "", list, 3},
+        {entry("de.ts"), "<TS>\n\n<context></TS>", broken, 3},
+        {entry("de.ts"), "<TS>\n<!-- " + std::string(5000, '-') + " -->\n<context " + std::string(5000, 'x'),
+         broken, 3},
+        {entry(folder / "texts"), "", list, 0},
+        {entry("../t/de.ts"), "", list, 0},
+    };
+    for (const auto& [listText, resource, wrong, line] : rows) {
+        folder.write("de.ts", resource);
+        folder.write("t.langs.xml", listText);
         TranslationManager manager(folder.wide(), "T");
         LoadResult result = manager.load();
         if (result.ok())
             result = manager.use(German);
-        EXPECT_EQ(result.code, err::library(err::MalformedText)) << row.file;
-        EXPECT_TRUE(platform::nativePath(result.file).ends_with(row.wrong)) << row.wrong;
-        EXPECT_EQ(result.line, row.line) << row.wrong;
+        EXPECT_EQ(result.code, err::library(err::MalformedText)) << listText;
+        EXPECT_TRUE(platform::nativePath(result.file).ends_with(wrong)) << listText;
+        EXPECT_EQ(result.line, line) << listText;
         EXPECT_EQ(manager.locale().lcid, EnglishLcid);
     }
-}
-
-TEST(TranslationManager, AnswersWhileAnotherLanguageLoads)
-{
-    TranslationManager manager(DataFolder, "example");
-    ASSERT_TRUE(manager.load().ok());
-    ASSERT_TRUE(manager.use(German).ok());
-    std::atomic<bool> done = false;
-    std::atomic<int> wrong = 0;
-    std::vector<std::thread> readers;
-    for (int i = 0; i < 3; ++i)
-        readers.emplace_back([&] {
-            while (!done) {
-                const auto found = manager.bundle().lookup("CErrMsg", "File not found");
-                if (found.text != "Datei nicht gefunden & weg" && found.text != "Fichier introuvable")
-                    ++wrong;
-            }
-        });
-    for (int i = 0; i < 100; ++i)
-        EXPECT_TRUE(manager.use(i % 2 == 0 ? French : German).ok());
-    done = true;
-    for (auto& reader : readers)
-        reader.join();
-    EXPECT_EQ(wrong, 0);
 }
 
 } // namespace

@@ -18,9 +18,8 @@ using tessaly::thread::WaitStatus;
 namespace err = tessaly::err;
 
 /// Waits for `go`, remembers its parameter and returns `answer`.
-class Job final : public tessaly::thread::IRunnable
+struct Job final : tessaly::thread::IRunnable
 {
-public:
     ResultCode run(std::uint32_t, std::uintptr_t param) override
     {
         lastParam = param;
@@ -32,121 +31,97 @@ public:
     std::atomic<std::uintptr_t> lastParam = 0;
 };
 
-TEST(Thread, WithoutRunnableOrJob)
+struct ThreadTest : testing::Test
 {
-    Thread thread;
-    EXPECT_EQ(thread.start(), err::library(err::NoRunnable));
-    EXPECT_EQ(thread.wait(0), WaitStatus::NoJob);
-    EXPECT_EQ(thread.wait(), WaitStatus::NoJob);
-    EXPECT_TRUE(thread.result().ok());
-}
+    ThreadTest() { thread->setRunnable(&job); }
 
-TEST(Thread, RunnableThatThrows)
+    Job job;
+    std::optional<Thread> thread{std::in_place};
+};
+
+TEST_F(ThreadTest, WithoutRunnableOrJobOrWithOneThatThrows)
 {
-    class Thrower final : public tessaly::thread::IRunnable
+    struct : tessaly::thread::IRunnable
     {
         ResultCode run(std::uint32_t, std::uintptr_t) override { throw 1; }
     } thrower;
-    Thread thread;
-    thread.setRunnable(&thrower);
-    ASSERT_TRUE(thread.start().ok());
-    thread.wait();
-    EXPECT_FALSE(thread.isRunning());
-    EXPECT_EQ(thread.result(), err::library(err::RunnableThrew));
+    Thread idle;
+    EXPECT_EQ(idle.start(), err::library(err::NoRunnable));
+    EXPECT_EQ(idle.wait(0), WaitStatus::NoJob);
+    EXPECT_EQ(idle.wait(), WaitStatus::NoJob);
+    EXPECT_TRUE(idle.result().ok());
+    idle.setRunnable(&thrower);
+    ASSERT_TRUE(idle.start().ok());
+    idle.wait();
+    EXPECT_FALSE(idle.isRunning());
+    EXPECT_EQ(idle.result(), err::library(err::RunnableThrew));
 }
 
-TEST(Thread, OneJobFromStartToResultAndAgain)
+TEST_F(ThreadTest, OneJobFromStartToResultAndAgainAndAgain)
 {
-    Job job;
-    Thread thread;
-    thread.setRunnable(&job);
-    ASSERT_TRUE(thread.start(42).ok());
-    EXPECT_TRUE(thread.isRunning());
-    EXPECT_EQ(thread.wait(0), WaitStatus::TimedOut);
-    EXPECT_EQ(thread.start(), err::library(err::Busy));
+    ASSERT_TRUE(thread->start(42).ok());
+    EXPECT_TRUE(thread->isRunning());
+    EXPECT_EQ(thread->wait(0), WaitStatus::TimedOut);
+    EXPECT_EQ(thread->start(), err::library(err::Busy));
 
     ASSERT_TRUE(job.go.set().ok());
-    EXPECT_EQ(thread.wait(), WaitStatus::Finished);
-    EXPECT_EQ(thread.wait(0), WaitStatus::Finished);
-    EXPECT_EQ(thread.result(), job.answer);
+    EXPECT_EQ(thread->wait(), WaitStatus::Finished);
+    EXPECT_EQ(thread->wait(0), WaitStatus::Finished);
+    EXPECT_EQ(thread->result(), job.answer);
     EXPECT_EQ(job.lastParam, 42U);
 
     ASSERT_TRUE(job.go.reset().ok());
-    ASSERT_TRUE(thread.start().ok());
-    EXPECT_TRUE(thread.result().ok()) << "a new start clears the old result";
+    ASSERT_TRUE(thread->start().ok());
+    EXPECT_TRUE(thread->result().ok()) << "a new start clears the old result";
     ASSERT_TRUE(job.go.set().ok());
-    thread.wait();
+    thread->wait();
     EXPECT_EQ(job.lastParam, 0U);
-}
-
-TEST(Thread, StartsAndEndsManyTimes)
-{
-    Job job;
-    ASSERT_TRUE(job.go.set().ok());
-    Thread thread;
-    thread.setRunnable(&job);
     for (std::uintptr_t round = 1; round <= 5000; ++round) {
-        ASSERT_TRUE(thread.start(round).ok());
-        ASSERT_EQ(thread.wait(), WaitStatus::Finished);
+        ASSERT_TRUE(thread->start(round).ok());
+        ASSERT_EQ(thread->wait(), WaitStatus::Finished);
         ASSERT_EQ(job.lastParam, round);
     }
 }
 
-TEST(Thread, ConcurrentStartsLaunchOneJob)
+TEST_F(ThreadTest, ConcurrentStartsLaunchOneJob)
 {
     for (int round = 0; round < 500; ++round) {
-        Job job;
-        Thread thread;
-        thread.setRunnable(&job);
+        ASSERT_TRUE(job.go.reset().ok());
         ResultCode results[2];
-        std::thread other([&] { results[0] = thread.start(); });
-        results[1] = thread.start();
+        std::thread other([&] { results[0] = thread->start(); });
+        results[1] = thread->start();
         other.join();
         ASSERT_TRUE(job.go.set().ok());
         ASSERT_NE(results[0].ok(), results[1].ok());
         ASSERT_EQ(results[results[0].ok() ? 1 : 0], err::library(err::Busy));
-    } // the destructor waits
+        thread->wait();
+    }
 }
 
-TEST(Thread, WithoutAThreadToRunOn)
+TEST_F(ThreadTest, WithoutAThreadToRunOnAndUnlockedWhileOneIsCreated)
 {
-    Job job;
-    Thread thread;
-    thread.setRunnable(&job);
-    ASSERT_TRUE(job.go.set().ok());
     {
         const test::NewThreads none([] { return false; });
-        EXPECT_EQ(thread.start(), err::library(err::LaunchFailed));
+        EXPECT_EQ(thread->start(), err::library(err::LaunchFailed));
     }
-    EXPECT_FALSE(thread.isRunning());
-    EXPECT_TRUE(thread.start().ok());
-}
-
-TEST(Thread, IsNotLockedWhileItsThreadIsCreated)
-{
-    Job job;
-    Thread thread;
-    thread.setRunnable(&job);
+    EXPECT_FALSE(thread->isRunning());
     tessaly::sync::Signal creating;
     tessaly::sync::Signal answered;
     std::thread asker([&] {
         ASSERT_TRUE(creating.wait());
-        EXPECT_TRUE(thread.result().ok());
+        EXPECT_TRUE(thread->result().ok());
         ASSERT_TRUE(answered.set().ok());
     });
     {
         const test::NewThreads slow([&] { return creating.set().ok() && answered.wait(2000); });
-        EXPECT_TRUE(thread.start().ok());
+        EXPECT_TRUE(thread->start().ok());
     }
     asker.join();
     ASSERT_TRUE(job.go.set().ok());
 }
 
-TEST(Thread, EndsWithItsJobThoughAnotherThreadWaitsForItToo)
+TEST_F(ThreadTest, EndsWithItsJobThoughAnotherThreadWaitsForItToo)
 {
-    Job job;
-    std::optional<Thread> thread(std::in_place);
-    thread->setRunnable(&job);
     ASSERT_TRUE(thread->start().ok());
     std::thread other([&] { thread->wait(); });
     std::this_thread::sleep_for(std::chrono::milliseconds(20)); // until the other one has its handle

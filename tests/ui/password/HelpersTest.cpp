@@ -1,3 +1,4 @@
+#include "support/DataRows.h"
 #include "support/Wiped.h"
 #include "ui/Widgets.h"
 #include "ui/password/CStrengthBar.h"
@@ -6,88 +7,55 @@
 #include "ui/password/SecretClipboard.h"
 #include "ui/password/SecretFields.h"
 
-#include <QClipboard>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPlainTextEdit>
 #include <QSignalSpy>
 
 namespace {
 
-using thisapp::MessageKind;
-
 TEST(PasswordStrength, RatesGuessability)
 {
-    const std::pair<const char*, int> cases[] = {
-        {"password", 1},
-        {"quilletquillet", 1},
-        {"aaaaaaaaaaaaaaaaaaaaaaaa", 1},
-        {"Tr0ub4dor&3", 3},
-        {"correct horse battery staple", 5},
-        {"kq8#Zp2!vLw9", 5},
-        {"пароль", 1}, // no more than six letters of Latin
-        {"", 0},
-    };
-    for (const auto& [password, level] : cases)
-        EXPECT_EQ(thisapp::strengthNotice(password).level, level) << password;
-
-    const struct
-    {
-        double bits;
-        const char* text;
-        MessageKind kind;
-        int level;
-    } rows[] = {
-        {0, "very weak, guessed at once.", MessageKind::Error, 1},
-        {32.9, "very weak, guessed at once.", MessageKind::Error, 1},
-        {33, "weak, guessed within hours.", MessageKind::Error, 2},
-        {45.9, "weak, guessed within hours.", MessageKind::Error, 2},
-        {46, "fair, guessed within a year.", MessageKind::Warning, 3},
-        {57.9, "fair, guessed within a year.", MessageKind::Warning, 3},
-        {58, "strong.", MessageKind::Success, 4},
-        {69.9, "strong.", MessageKind::Success, 4},
-        {70, "very strong.", MessageKind::Success, thisapp::HighestStrength},
-    };
-    for (const auto& row : rows) {
-        const thisapp::SStrengthNotice notice = thisapp::strengthNotice(row.bits);
-        EXPECT_EQ(notice.text, QString("Password strength: ") + row.text) << row.bits;
-        EXPECT_EQ(notice.kind, row.kind) << row.bits;
-        EXPECT_EQ(notice.level, row.level) << row.bits;
+    for (const test::Row& row : test::dataRows("ui/strength.txt")) {
+        bool isNumber = false;
+        const QString password = row[0].c_str();
+        const double bits = password.toDouble(&isNumber);
+        const auto notice = isNumber ? thisapp::strengthNotice(bits) : thisapp::strengthNotice(password);
+        EXPECT_EQ(std::to_string(notice.level), row[1]) << password;
+        EXPECT_EQ(kindName(notice.kind).toStdString(), row[2]) << password;
+        EXPECT_EQ(notice.text.toStdString(), "Password strength: " + row[3]) << password;
     }
+    EXPECT_EQ(thisapp::strengthNotice(QString()).level, 0);
 }
-
-struct Paints : QObject
-{
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
 
 TEST(StrengthBar, FillsAsManyFieldsAsTheLevelFromTheSideOfTheLanguage)
 {
+    constexpr int Fields = thisapp::HighestStrength;
     CStrengthBar bar;
     bar.resize(100, 5);
-    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft})
-        for (int level = 0; level <= thisapp::HighestStrength; ++level) {
-            bar.setLayoutDirection(direction);
-            bar.showStrength({"text", MessageKind::Error, level});
-            const QImage image = bar.grab().toImage();
-            QString filled;
-            for (int field = 0; field < thisapp::HighestStrength; ++field)
-                filled +=
-                    image.pixelColor(8 + 21 * field, 2) == messageColor(MessageKind::Error, bar.palette())
-                        ? '#'
-                        : '-';
-            const QString expected = QString(level, '#').leftJustified(thisapp::HighestStrength, '-');
-            EXPECT_EQ(filled, direction == Qt::LeftToRight
-                                  ? expected
-                                  : QString(level, '#').rightJustified(thisapp::HighestStrength, '-'));
-        }
+    const auto filled = [&bar] {
+        const QImage image = bar.grab().toImage();
+        const QColor color = messageColor(MessageKind::Error, bar.palette());
+        QString fields;
+        for (int field = 0; field < Fields; ++field)
+            fields += image.pixelColor(8 + 21 * field, 2) == color ? '#' : '-';
+        return fields;
+    };
+    for (int level = 0; level <= Fields; ++level) {
+        bar.showStrength({"text", MessageKind::Error, level});
+        bar.setLayoutDirection(Qt::LeftToRight);
+        EXPECT_EQ(filled(), QString(level, '#').leftJustified(Fields, '-'));
+        bar.setLayoutDirection(Qt::RightToLeft);
+        EXPECT_EQ(filled(), QString(level, '#').rightJustified(Fields, '-'));
+    }
     EXPECT_EQ(bar.accessibleDescription(), "text");
-    Paints paints;
+
+    struct : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    } paints;
     bar.installEventFilter(&paints);
     open(bar);
     EXPECT_TRUE(comesTrue([&paints] { return paints.count > 0; }));
@@ -132,51 +100,24 @@ TEST(SecretFields, AreEmptiedWithoutTellingAnybody)
     EXPECT_EQ(lineChanges.count() + textChanges.count(), 0);
 }
 
-/// A key press of the form "a", "^a" (with Shift), "!" for the Caps Lock key or "!!" for that held.
-void send(QObject& field, const QString& key)
-{
-    const bool shift = key.startsWith('^');
-    const bool lock = key.startsWith('!');
-    QKeyEvent event(QEvent::KeyPress, lock ? Qt::Key_CapsLock : Qt::Key_unknown,
-                    shift ? Qt::ShiftModifier : Qt::NoModifier, lock ? QString() : key.right(1), key == "!!");
-    QApplication::sendEvent(&field, &event);
-}
-
 TEST(CapsLockWatcher, LearnsFromThePlatformAndFromTheKeys)
 {
-    struct
-    {
-        std::optional<bool> platform;
-        const char* keys;
-        bool on;
-    } const cases[] = {
-        {std::nullopt, "", false},
-        {std::nullopt, "a", false},
-        {std::nullopt, "A", true},
-        {std::nullopt, "^A", false},
-        {std::nullopt, "^a", true},
-        {std::nullopt, "1 ^!", false},
-        {std::nullopt, "!", false},
-        {std::nullopt, "A !", false},
-        {std::nullopt, "a !", true},
-        {std::nullopt, "A 1 b", false},
-        {std::nullopt, "a ! !!", true},
-        {true, "", true},
-        {true, "a", false},
-        {true, "!", false},
-        {false, "! !", false},
-    };
-    for (const auto& test : cases) {
+    for (const test::Row& row : test::dataRows("ui/caps_lock.txt")) {
         QLineEdit field;
-        CapsLockWatcher watcher([&test] { return test.platform; });
+        CapsLockWatcher watcher([&] { return row[0] == "?" ? std::nullopt : std::optional(row[0] == "on"); });
         bool on = false;
         QObject::connect(&watcher, &CapsLockWatcher::notifyCapsLockChanged, [&on](bool now) { on = now; });
         watcher.watch(field);
         QFocusEvent focus(QEvent::FocusIn);
         QApplication::sendEvent(&field, &focus);
-        for (const QString& key : QString(test.keys).split(' ', Qt::SkipEmptyParts))
-            send(field, key);
-        EXPECT_EQ(on, test.on) << test.keys;
+        for (const QString& key : QString(row[2].c_str()).split(' ', Qt::SkipEmptyParts)) {
+            const bool lock = key.startsWith('!');
+            QKeyEvent event(QEvent::KeyPress, lock ? Qt::Key_CapsLock : Qt::Key_unknown,
+                            key.startsWith('^') ? Qt::ShiftModifier : Qt::NoModifier,
+                            lock ? QString() : key.right(1), key == "!!");
+            QApplication::sendEvent(&field, &event);
+        }
+        EXPECT_EQ(on, row[1] == "on") << row[0] << ' ' << row[2];
     }
 }
 
@@ -185,24 +126,23 @@ TEST(SecretClipboard, ForgetsWhatItPutThereAndNothingElse)
     using namespace std::chrono_literals;
     auto& clipboard = *QApplication::clipboard();
     const QString secret = QString::fromUtf8("s\xc3\xa4-cret");
+    const auto atTheEnd = [] { QMetaObject::invokeMethod(qApp, "aboutToQuit"); };
     const auto onTime = [] { // of two timers of one length, the later one is the last
         bool passed = false;
         QTimer::singleShot(20ms, qApp, [&passed] { passed = true; });
         EXPECT_TRUE(comesTrue([&passed] { return passed; }));
     };
-    const auto atTheEnd = [] { QMetaObject::invokeMethod(qApp, "aboutToQuit"); };
-    const std::function<void()> ways[] = {onTime, atTheEnd};
-    for (const auto& pass : ways)
+    for (const bool waits : {true, false})
         for (const auto& [copiedSince, left] :
              {std::pair(QString(), ""), {"mine", "mine"}, {secret, ""}}) { // as a clipboard manager does
-            thisapp::copySecret(thisapp::secretText(secret), &pass == ways ? 20ms : 1h);
+            thisapp::copySecret(thisapp::secretText(secret), waits ? 20ms : 1h);
             EXPECT_EQ(clipboard.text(), secret);
             EXPECT_EQ(clipboard.mimeData()->data("text/plain"), secret.toUtf8());
             EXPECT_EQ(clipboard.mimeData()->data("x-kde-passwordManagerHint"), "secret");
             EXPECT_FALSE(clipboard.mimeData()->hasFormat("text/html"));
             if (!copiedSince.isNull())
                 clipboard.setText(copiedSince);
-            pass();
+            waits ? onTime() : atTheEnd();
             EXPECT_EQ(clipboard.text(), left) << copiedSince;
         }
     clipboard.setText(secret);

@@ -1,17 +1,10 @@
-#include "ui/ShownKind.h"
 #include "ui/Widgets.h"
 #include "ui/style/Announcement.h"
 #include "ui/style/CMessageField.h"
 #include "ui/style/CMessageLabel.h"
 #include "ui/style/MaskedText.h"
 
-#include <QAccessible>
-#include <QTextDocument>
-#include <QVBoxLayout>
-
 namespace {
-
-using thisapp::MessageKind;
 
 struct SHeard
 {
@@ -20,10 +13,10 @@ struct SHeard
     QAccessible::Id id;
 };
 
-std::vector<SHeard> heard;
+std::vector<SHeard> heard; ///< notifications
+QStringList passed;        ///< texts of fields, to the platform
 bool hasReader = false;
 QAccessible::UpdateHandler handler = nullptr;
-QStringList passed; ///< texts of fields, to the platform
 
 } // namespace
 
@@ -38,21 +31,23 @@ QAccessible::UpdateHandler QAccessible::installUpdateHandler(UpdateHandler wante
 }
 void QAccessible::updateAccessibility(QAccessibleEvent* event)
 {
-    if (hasReader && handler == nullptr && event->type() == QAccessible::TextInserted)
+    if (!hasReader)
+        return;
+    if (handler == nullptr && event->type() == QAccessible::TextInserted)
         passed += static_cast<QAccessibleTextInsertEvent*>(event)->textInserted();
-    if (hasReader && handler == nullptr && event->type() == QAccessible::TextRemoved)
+    if (handler == nullptr && event->type() == QAccessible::TextRemoved)
         passed += static_cast<QAccessibleTextRemoveEvent*>(event)->textRemoved();
-    if (hasReader && handler == nullptr && event->type() == QAccessible::TextUpdated)
+    if (handler == nullptr && event->type() == QAccessible::TextUpdated)
         passed += static_cast<QAccessibleTextUpdateEvent*>(event)->textRemoved() + '>' +
                   static_cast<QAccessibleTextUpdateEvent*>(event)->textInserted();
-    QAccessibleInterface* source = hasReader ? event->accessibleInterface() : nullptr;
+    QAccessibleInterface* source = event->accessibleInterface();
     if (source != nullptr && source->role() == QAccessible::Notification)
         heard.push_back({event->type(), source->text(QAccessible::Name), event->uniqueId()});
 }
 
 namespace {
 
-/// What a screen reader is told by notifications.
+/// What a screen reader is told.
 struct Announcement : testing::Test
 {
     Announcement()
@@ -61,9 +56,9 @@ struct Announcement : testing::Test
         hasReader = true;
     }
     ~Announcement() override { hasReader = false; }
-    static QStringList heardTexts()
+    static QString heardTexts()
     {
-        QStringList texts;
+        QString texts;
         for (const SHeard& each : heard)
             texts += each.text;
         return texts;
@@ -73,20 +68,17 @@ struct Announcement : testing::Test
 TEST_F(Announcement, TellsTheLastMessageOnceItHasSettled)
 {
     QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* field = new CMessageField;
-    auto* label = new CMessageLabel;
-    layout->addWidget(field);
-    layout->addWidget(label);
+    CMessageField field(&window);
+    CMessageLabel label(&window);
+    label.move(0, 100);
     open(window);
-    for (const char* text : {"a", "b"}) {
-        field->showMessage(text, MessageKind::Plain);
-        field->showMessage(text, MessageKind::Plain);
-    }
+    for (const char* text : {"a", "b"})
+        for (int times = 0; times < 2; ++times)
+            field.showMessage(text, MessageKind::Plain);
     EXPECT_TRUE(comesTrue([] { return heard.size() >= 2; }));
-    label->showMessage("c", MessageKind::Plain);
+    label.showMessage("c", MessageKind::Plain);
     EXPECT_TRUE(comesTrue([] { return heard.size() >= 4; }));
-    ASSERT_EQ(heardTexts(), QStringList({"b", "b", "c", "c"}));
+    ASSERT_EQ(heardTexts(), "bbcc");
     EXPECT_EQ(heard[0].event, QAccessible::Alert);
     EXPECT_EQ(heard[1].event, QAccessible::ObjectShow);
 
@@ -96,8 +88,8 @@ TEST_F(Announcement, TellsTheLastMessageOnceItHasSettled)
     thisapp::announceWhenSettled(timer, hidden, [] { return QString("unseen"); });
     timer.start(0);
     EXPECT_TRUE(comesTrue([&timer] { return !timer.isActive(); }));
-    thisapp::announce(field, "");
-    EXPECT_EQ(heardTexts(), QStringList());
+    thisapp::announce(&field, "");
+    EXPECT_EQ(heardTexts(), "");
 }
 
 TEST_F(Announcement, IsKeptForReadersThatAskLaterButNotForEver)
@@ -110,9 +102,8 @@ TEST_F(Announcement, IsKeptForReadersThatAskLaterButNotForEver)
     EXPECT_NE(QAccessible::accessibleInterface(heard[2].id), nullptr) << "the second one";
 }
 
-TEST(MaskedText, KeepsPasswordsFromScreenReaders)
+TEST_F(Announcement, TellsNoPasswords)
 {
-    hasReader = true;
     thisapp::maskTextOfSecretFields();
     QLineEdit field;
     const QString bullets(3, QChar(0x2022));
@@ -131,32 +122,30 @@ TEST(MaskedText, KeepsPasswordsFromScreenReaders)
         EXPECT_EQ(passed, QStringList({told, told, told + '>' + told}));
     }
     handler = nullptr;
-    hasReader = false;
 }
 
 template <class Widget>
-void expectColours()
+struct MessageWidgets : testing::Test
 {
-    const QPalette before = QApplication::palette();
+};
+using Both = testing::Types<CMessageField, CMessageLabel>;
+TYPED_TEST_SUITE(MessageWidgets, Both);
+
+TYPED_TEST(MessageWidgets, ShowTheKindInEveryTheme)
+{
     QWidget window;
-    auto* widget = new Widget(&window);
+    TypeParam widget(&window);
     open(window);
-    for (const char* theme : {"#ffffff", "#2a2e32"}) {
+    for (const char* theme : {"#ffffff", "#2a2e32", "#efefef"}) {
+        const MessageKind before = shownKind(widget);
         QApplication::setPalette(QColor(theme));
+        EXPECT_TRUE(comesTrue([&] { return window.palette().color(QPalette::Window) == theme; }));
+        EXPECT_TRUE(comesTrue([&] { return shownKind(widget) == before; })) << "as of this theme";
         for (const MessageKind kind : {MessageKind::Error, MessageKind::Plain, MessageKind::Warning}) {
-            EXPECT_TRUE(comesTrue([&] { return window.palette().color(QPalette::Window) == theme; }));
-            widget->showMessage("text", kind);
-            EXPECT_EQ(shownKind(*widget), kind) << theme;
+            widget.showMessage("text", kind);
+            EXPECT_EQ(shownKind(widget), kind) << theme;
         }
     }
-    QApplication::setPalette(before);
-    EXPECT_TRUE(comesTrue([&] { return shownKind(*widget) == MessageKind::Warning; })) << "as of this theme";
-}
-
-TEST(MessageWidgets, ShowTheKindInEveryTheme)
-{
-    expectColours<CMessageField>();
-    expectColours<CMessageLabel>();
 }
 
 TEST(MessageField, ShowsALongMessageFromItsStartAndLetsNobodyIntoAnEmptyOne)

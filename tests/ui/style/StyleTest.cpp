@@ -8,34 +8,22 @@
 #include "ui/style/CSubjectLabel.h"
 #include "ui/style/EyeIcon.h"
 #include "ui/style/FitToScreen.h"
-#include "ui/style/MessageStyle.h"
 #include "ui/style/ReadOnlyField.h"
 #include "ui/style/TextDirection.h"
 #include "ui/style/TextSize.h"
 
-#include <QAbstractItemView>
-#include <QLineEdit>
-#include <QScreen>
-#include <QScrollBar>
 #include <QSignalSpy>
-#include <QTextBlock>
-#include <QTextDocument>
-#include <QTextOption>
-#include <QVBoxLayout>
-#include <QWheelEvent>
 #include <cmath>
 
 namespace {
 
-using thisapp::MessageKind;
-
 /// Contrast ratio as of WCAG 2.1.
 double contrast(const QColor& one, const QColor& other)
 {
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double c) {
-            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-        };
+    const auto linear = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    const auto luminance = [&](const QColor& color) {
         return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
                0.0722 * linear(color.blueF());
     };
@@ -45,47 +33,39 @@ double contrast(const QColor& one, const QColor& other)
 
 TEST(MessageStyle, ColoursCanBeReadAndMeanWhatTheyMeanEverywhere)
 {
-    struct SHue
-    {
-        QColor color, beside;
-        int from, to;
-    };
     for (const char* window : {"#ffffff", "#efefef", "#808080", "#7f7f7f", "#2a2e32", "#000000"}) {
         const QPalette theme{QColor(window)};
         const QColor ground = theme.color(QPalette::Window);
+        const QColor text = theme.color(QPalette::Text);
         const bool grey = ground.lightness() > 100 && ground.lightness() < 150; // nothing is readable there
-        const SHue rows[] = {
+        const std::tuple<QColor, QColor, int, int> rows[] = {
             {messageColor(MessageKind::Success, theme), ground, 120, 140},
             {messageColor(MessageKind::Warning, theme), ground, 30, 40},
             {messageColor(MessageKind::Error, theme), ground, 0, 10},
-            {thisapp::fieldColor(true, theme), theme.color(QPalette::Text), 120, 140},
-            {thisapp::fieldColor(false, theme), theme.color(QPalette::Text), 0, 10},
+            {thisapp::fieldColor(true, theme), text, 120, 140},
+            {thisapp::fieldColor(false, theme), text, 0, 10},
         };
-        for (const SHue& row : rows) {
-            EXPECT_TRUE(row.from <= row.color.hslHue() && row.color.hslHue() <= row.to)
-                << window << row.color.name().toStdString();
-            EXPECT_TRUE(grey || contrast(row.color, row.beside) >= 4.5)
-                << window << row.color.name().toStdString();
+        for (const auto& [color, beside, from, to] : rows) {
+            SCOPED_TRACE(testing::Message() << window << color.name());
+            EXPECT_TRUE(from <= color.hslHue() && color.hslHue() <= to);
+            EXPECT_TRUE(grey || contrast(color, beside) >= 4.5);
         }
         EXPECT_EQ(messageColor(MessageKind::Plain, theme), theme.color(QPalette::WindowText));
     }
 }
 
-struct RightToLeft : testing::Test
-{
-    RightToLeft() { QApplication::setLayoutDirection(Qt::RightToLeft); }
-    ~RightToLeft() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
-};
-
-TEST_F(RightToLeft, TextsStandAtTheSideOfTheLanguage)
+TEST(TextDirection, TextsButtonsAndSelectionsStandAtTheSideOfTheLanguage)
 {
     const QString hebrew = QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d");
-    for (const bool rightToLeft : {true, false}) {
-        QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        const QString isolated = rightToLeft ? QString::fromUtf8("\xe2\x81\xa6"
-                                                                 "F5"
-                                                                 "\xe2\x81\xa9")
-                                             : "F5";
+    const RecordingStyle& style = RecordingStyle::use();
+    CIconButton button;
+    button.setText("text");
+    CRoundedComboBox box;
+    box.resize(200, 30);
+    for (const auto side : {Qt::RightToLeft, Qt::LeftToRight}) {
+        const bool rightToLeft = side == Qt::RightToLeft;
+        QApplication::setLayoutDirection(side);
+        const QString isolated = rightToLeft ? QChar(0x2066) + QString("F5") + QChar(0x2069) : "F5";
         EXPECT_EQ(thisapp::leftToRight("F5"), isolated);
         EXPECT_EQ(thisapp::atLanguageSide("F5"), rightToLeft ? QChar(0x200f) + isolated : "F5");
         EXPECT_EQ(thisapp::atLanguageSide(hebrew), hebrew);
@@ -95,53 +75,31 @@ TEST_F(RightToLeft, TextsStandAtTheSideOfTheLanguage)
         thisapp::followLanguageSide(document);
         EXPECT_EQ(document.defaultTextOption().textDirection() == Qt::RightToLeft, rightToLeft);
         EXPECT_EQ(document.defaultTextOption().alignment().testFlag(Qt::AlignRight), rightToLeft);
-        EXPECT_EQ(document.begin().blockFormat().layoutDirection(),
-                  rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    }
-}
+        EXPECT_EQ(document.begin().blockFormat().layoutDirection(), side);
 
-TEST_F(RightToLeft, ButtonsAndSelectionsAreTurnedRound)
-{
-    const RecordingStyle& style = RecordingStyle::use();
-    CIconButton button;
-    button.setText("text");
-    CRoundedComboBox box;
-    box.resize(200, 30);
-    for (const bool rightToLeft : {true, false}) {
-        QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        style.texts.clear();
-        style.primitives.clear();
-        button.grab();
+        style.draw(button);
         EXPECT_EQ(style.texts.front().text, rightToLeft ? QChar(0x202b) + QString("text") : "text");
-        box.grab();
-        const auto arrow = std::ranges::find(style.primitives, QStyle::PE_IndicatorArrowDown,
-                                             [](const auto& drawn) { return drawn.first; });
-        ASSERT_NE(arrow, style.primitives.end());
-        EXPECT_EQ(arrow->second.center().x() < box.width() / 2, rightToLeft);
+        style.draw(box);
+        const auto arrows = style.drawn(QStyle::PE_IndicatorArrowDown);
+        ASSERT_FALSE(arrows.empty());
+        EXPECT_EQ(arrows[0].center().x() < box.width() / 2, rightToLeft);
     }
-    QApplication::setStyle("Fusion");
 }
 
 TEST(SubjectLabel, NamesFilesOnOneLineAndWidensNothing)
 {
     CSubjectLabel label;
-    const struct
-    {
-        const char* name;
-        int others;
-        const char* text;
-    } rows[] = {{"a", 0, "a"},
-                {"a", 1, "a and 1 more"},
-                {"a\nb\xe2\x80\xa8"
-                 "c\t",
-                 0,
-                 "a\xef\xbf\xbd"
-                 "b\xef\xbf\xbd"
-                 "c\xef\xbf\xbd"}};
     EXPECT_TRUE(label.isHidden());
-    for (const auto& row : rows) {
-        label.setSubject(QString::fromUtf8(row.name), row.others);
-        EXPECT_EQ(label.text(), QString::fromUtf8(row.text));
+    for (const auto& [name, others, text] : {std::tuple("a", 0, "a"),
+                                             {"a", 1, "a and 1 more"},
+                                             {"A\nB\xe2\x80\xa8"
+                                              "C\t",
+                                              0,
+                                              "A\xef\xbf\xbd"
+                                              "B\xef\xbf\xbd"
+                                              "C\xef\xbf\xbd"}}) {
+        label.setSubject(QString::fromUtf8(name), others);
+        EXPECT_EQ(label.text(), QString::fromUtf8(text));
         EXPECT_EQ(label.toolTip(), label.text());
         EXPECT_FALSE(label.isHidden());
     }
@@ -152,14 +110,13 @@ TEST(SubjectLabel, NamesFilesOnOneLineAndWidensNothing)
     const RecordingStyle& style = RecordingStyle::use();
     label.setSubject(QString(500, 'n'), 2);
     label.resize(200, 20);
-    label.grab();
+    style.draw(label);
     const QString shown = style.texts.back().text;
-    QApplication::setStyle("Fusion");
     EXPECT_TRUE(shown.endsWith(" and 2 more")) << "is never cut off";
     EXPECT_LE(label.fontMetrics().horizontalAdvance(shown), 200);
 }
 
-TEST(LinkLabel, ShowsPlainTextAndTheFocusAndFollowsItsKeys)
+TEST(LinkLabel, ShowsPlainTextAndTheFocusAndFollowsItsKeysAndScreenReaders)
 {
     const RecordingStyle& style = RecordingStyle::use();
     CLinkLabel link;
@@ -169,37 +126,47 @@ TEST(LinkLabel, ShowsPlainTextAndTheFocusAndFollowsItsKeys)
     EXPECT_TRUE(link.text().endsWith(">a &lt; b</a>"));
     for (const bool focus : {false, true}) {
         focus ? link.setFocus() : link.clearFocus();
-        style.primitives.clear();
-        link.grab();
-        EXPECT_EQ(std::ranges::count(style.primitives, QStyle::PE_FrameFocusRect,
-                                     [](const auto& drawn) { return drawn.first; }),
-                  focus ? 1 : 0);
+        style.draw(link);
+        EXPECT_EQ(style.drawn(QStyle::PE_FrameFocusRect).size(), focus ? 1U : 0U);
     }
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_A})
-        press(key);
+    press("Return Enter Space A");
     EXPECT_EQ(followed.count(), 3);
-    QApplication::setStyle("Fusion");
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&link);
+    EXPECT_EQ(told->role(), QAccessible::Link);
+    EXPECT_EQ(told->text(QAccessible::Name), "a < b");
+    told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(followed.count(), 4);
+
+    const std::tuple<const char*, const char*, const char*> themes[] = {
+        {"#ffffff", "#0000ff", "#0000ff"}, {"#2a2e32", "#0000ff", "#8ac6ff"}, // of a theme that sets none
+        {"#2a2e32", "#3daee9", "#3daee9"}, {"#2a2e32", "#1d99f3", "#8ac6ff"}, // a little less than enough
+        {"#ffffff", "#8ac6ff", "#0000c0"},
+    };
+    for (const auto& [window, color, shown] : themes) {
+        QPalette theme{QColor(window)};
+        theme.setColor(QPalette::Link, QColor(color));
+        QApplication::setPalette(theme);
+        QApplication::processEvents();
+        EXPECT_TRUE(link.text().contains(shown)) << window << ' ' << color << ' ' << link.text();
+    }
 }
 
 TEST(RoundedComboBox, TheWheelChangesItOnlyWithTheFocus)
 {
     QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* other = new QLineEdit;
-    auto* box = new CRoundedComboBox;
-    box->setAccessibleName("name");
-    box->addItems({"a", "b", "c"});
-    layout->addWidget(other);
-    layout->addWidget(box);
+    CRoundedComboBox box(&window);
+    QLineEdit other(&window);
+    box.setAccessibleName("name");
+    box.addItems({"a", "b", "c"});
     open(window);
-    EXPECT_EQ(box->view()->accessibleName(), "name");
-    for (QWidget* focused : {static_cast<QWidget*>(other), static_cast<QWidget*>(box)}) {
+    EXPECT_EQ(box.view()->accessibleName(), "name");
+    for (QWidget* focused : std::initializer_list<QWidget*>{&other, &box}) {
         focused->setFocus();
-        QWheelEvent wheel(box->rect().center(), box->mapToGlobal(box->rect().center()), {}, {0, -120},
+        QWheelEvent wheel(box.rect().center(), box.mapToGlobal(box.rect().center()), {}, {0, -120},
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(box, &wheel);
-        EXPECT_EQ(box->currentIndex(), focused == box ? 1 : 0);
-        EXPECT_EQ(wheel.isAccepted(), focused == box) << "so that the page scrolls";
+        QApplication::sendEvent(&box, &wheel);
+        EXPECT_EQ(box.currentIndex(), focused == &box ? 1 : 0);
+        EXPECT_EQ(wheel.isAccepted(), focused == &box) << "so that the page scrolls";
     }
 }
 
@@ -223,16 +190,15 @@ TEST(ScrollPage, AsksForItsContentsAndScrollsInLess)
 {
     CScrollPage page;
     auto* contents = new QWidget;
-    contents->setMinimumSize(100, 700);
+    contents->setMinimumSize(5000, 10);
     page.setWidget(contents);
+    EXPECT_LT(page.minimumSizeHint().width(), 1000);
+    EXPECT_EQ(page.minimumSizeHint().height(), 10);
+    contents->setMinimumSize(100, 700);
     EXPECT_EQ(page.sizeHint(), QSize(100, 700));
     EXPECT_GE(page.minimumSizeHint().width(), 100 + page.verticalScrollBar()->sizeHint().width());
     EXPECT_LT(page.minimumSizeHint().height(), 200);
-    contents->setMinimumSize(5000, 10);
-    EXPECT_LT(page.minimumSizeHint().width(), 1000);
-    EXPECT_EQ(page.minimumSizeHint().height(), 10);
 
-    contents->setMinimumSize(100, 700);
     auto* field = new QLineEdit(contents);
     field->move(0, 600);
     page.resize(150, 150);
@@ -257,14 +223,12 @@ TEST(InfoText, ShowsPlainTextWholeAndIsOnlyRead)
 
 TEST(EyeIcon, HasTheColourOfTheTheme)
 {
-    const QPalette before = QApplication::palette();
     for (const char* theme : {"#ffffff", "#2a2e32"}) {
         QApplication::setPalette(QColor(theme));
         const QColor shown = thisapp::eyeIcon(false).pixmap(48).toImage().pixelColor(24, 17);
         EXPECT_GT(shown.alpha(), 0x80);
         EXPECT_EQ(shown.lightness() > 0x80, QApplication::palette().color(QPalette::Text).lightness() > 0x80);
     }
-    QApplication::setPalette(before);
 }
 
 } // namespace

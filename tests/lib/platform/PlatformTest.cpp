@@ -1,0 +1,103 @@
+#include "lib/err/ErrorCodes.h"
+#include "lib/platform/Folders.h"
+#include "lib/platform/Process.h"
+#include "lib/platform/linux/CapsLight.h"
+#include "support/Environment.h"
+#include "support/SystemCall.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+namespace {
+
+using namespace tessaly::platform;
+using std::filesystem::perms;
+
+perms permissions(const std::string& path)
+{
+    return std::filesystem::status(path).permissions();
+}
+
+TEST(CapsLock, IsOnWhenOneKeyboardShowsIt)
+{
+    const test::TempFolder folder;
+    const auto light = [&](const std::string& name, const char* brightness) {
+        std::filesystem::create_directory(folder / name);
+        folder.write(name + "/brightness", brightness);
+        return capsLightOn(folder.path());
+    };
+    EXPECT_EQ(capsLightOn(folder / "nowhere"), std::nullopt);
+    EXPECT_EQ(light("input1::numlock", "1"), std::nullopt);
+    EXPECT_EQ(light("input1::capslock", "0"), false);
+    EXPECT_EQ(light("input1::capslock", "255"), true);
+    for (const char* other : {"input0::capslock", "input2::capslock", "input3::capslock"})
+        EXPECT_EQ(light(other, "0"), true);
+    EXPECT_EQ(light("input1::capslock", ""), false) << "a light that tells nothing";
+}
+
+TEST(Folders, MadeOnesAreFlushedInTheirParents)
+{
+    const test::TempFolder folder;
+    const std::string top = folder / "a";
+    auto& flushed = test::SystemCall::flushed;
+    flushed.clear();
+    const mode_t before = ::umask(0027);
+    EXPECT_TRUE(createFolders(top + "/b/c/").ok());
+    ::umask(before);
+    EXPECT_EQ(flushed, (std::vector<std::string>{folder.path().string(), top, top + "/b"}));
+    EXPECT_EQ(permissions(top + "/b"), perms(0750));
+    EXPECT_TRUE(createFolders(top + "/b").ok());
+    EXPECT_EQ(flushed.size(), 3U) << "nothing new";
+    folder.write("file", "");
+    EXPECT_EQ(createFolders(folder / "file/x"), tessaly::err::system(EEXIST));
+    EXPECT_TRUE(createPrivateFolders(folder / "p/q").ok());
+    for (const char* name : {"p", "p/q"})
+        EXPECT_EQ(permissions(folder / name), perms(0700));
+}
+
+TEST(Folders, FollowTheEnvironment)
+{
+    const test::Environment unset("XDG_STATE_HOME", nullptr);
+    {
+        const test::Environment home("HOME", "/home/someone/");
+        const test::Environment relative("XDG_DATA_HOME", "data");
+        const test::Environment config("XDG_CONFIG_HOME", "/etc/mine//");
+        EXPECT_EQ(stateFolder(), "/home/someone//.local/state");
+        EXPECT_EQ(dataFolder(), "/home/someone//.local/share");
+        EXPECT_EQ(configFolder(), "/etc/mine");
+    }
+    const test::Environment homeless("HOME", nullptr);
+    EXPECT_TRUE(stateFolder().ends_with("/.local/state")) << "the user data base knows the home";
+}
+
+TEST(Path, EveryNameSurvives)
+{
+    EXPECT_EQ(widePath("a\xC3\xA9\xF0\x9F\x94\x91"), L"a\u00E9\U0001F511");
+    EXPECT_EQ(widePath("caf\xE9"), std::wstring(L"caf") + wchar_t{0xDCE9});
+    for (const char* name : {"\xC3", "\xE2\x82", "\xC0\xAF", "\xE0\x80\xAF", "\xED\xB3\xA9",
+                             "\xF4\x90\x80\x80", "\xFF\xFE", "\xF0\x9F\x94", "\xED\xA0\x80x"})
+        EXPECT_EQ(nativePath(widePath(name)), name);
+    for (int first = 1; first < 256; ++first)
+        for (int second = 1; second < 256; ++second) {
+            const std::string name = {static_cast<char>(first), static_cast<char>(second), '\x9F'};
+            ASSERT_EQ(nativePath(widePath(name)), name);
+        }
+}
+
+// In a child process, which it changes for good.
+TEST(ProcessDeathTest, DisablesCoreDumps)
+{
+    const auto disable = [] {
+        const bool done = disableCoreDumps();
+        rlimit limit{};
+        limit.rlim_max = 1;
+        ::getrlimit(RLIMIT_CORE, &limit);
+        std::_Exit(done && limit.rlim_max == 0 && ::prctl(PR_GET_DUMPABLE) == 0 ? 0 : 1);
+    };
+    EXPECT_EXIT(disable(), testing::ExitedWithCode(0), "");
+}
+
+} // namespace
