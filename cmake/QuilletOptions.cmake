@@ -8,6 +8,12 @@ target_compile_options(quillet_options INTERFACE
 target_compile_definitions(quillet_options INTERFACE QUILLET_VERSION="${PROJECT_VERSION}")
 target_include_directories(quillet_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
+if(QUILLET_SYSTEM STREQUAL "windows")
+  # Windows 10 and later, as the libraries are built for.
+  target_compile_definitions(quillet_options INTERFACE
+    _WIN32_WINNT=0x0A00 UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+endif()
+
 # What users get is the same in whatever folder it was built.
 target_compile_options(quillet_options INTERFACE
   $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>

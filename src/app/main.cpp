@@ -61,12 +61,13 @@ Options may begin with "/" instead of "-", in either case of letters.
 bool answerOnTerminal(std::span<char*> arguments)
 {
     const auto has = [arguments](std::string_view word) { return std::ranges::count(arguments, word) > 0; };
+    if (!has("--help") && !has("--version"))
+        return false;
+    desktop::useTerminal();
     if (has("--help"))
         std::fputs(Usage, stdout);
-    else if (has("--version"))
-        std::printf("%s %s\n", QuilletName, versionText());
     else
-        return false;
+        std::printf("%s %s\n", QuilletName, versionText());
     return true;
 }
 
@@ -121,7 +122,7 @@ int runApplication(int& argc, char** argv)
         {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
 
     // The application object has taken its own arguments out. Its list of the rest would lose bytes.
-    const QStringList arguments = argumentTexts({argv + 1, static_cast<std::size_t>(argc - 1)});
+    const QStringList arguments = argumentTexts(platform::programArguments(argc, argv));
     new CFirstPaint(window, [&] {
         leanStart.reset();
         QApplication::setWindowIcon(applicationIcon());

@@ -12,6 +12,7 @@
 #include "crypto/job/AlgorithmSearch.h"
 #include "io/NullOutput.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 #include "lib/sync/Locker.h"
 #include "lib/sync/SafeData.h"
@@ -44,8 +45,8 @@ public:
          Stop& stop)
         : m_arguments(arguments), m_request(std::move(request)), m_progress(progress), m_stop(stop)
     {
-        m_request.input = item.input;
-        m_request.output = item.output;
+        m_request.input = platform::pathFromNative(item.input);
+        m_request.output = platform::pathFromNative(item.output);
         m_request.useSalt = arguments.salt;
         m_request.seal = arguments.seal;
         m_request.existing =
@@ -98,8 +99,8 @@ private:
         if (!m_request.source || fail(spoolStandardInput(m_spool), JobStep::Process))
             return true;
         if (m_result.outcome.failedAtOutput())
-            m_result.failedStep =
-                "Standard input could not be kept in the folder " + temporaryFolder().string() + '.';
+            m_result.failedStep = "Standard input could not be kept in the folder " +
+                                  platform::nativeText(temporaryFolder()) + '.';
         return false;
     }
 

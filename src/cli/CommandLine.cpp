@@ -16,14 +16,14 @@ namespace {
 
 using tessaly::crypto::catalogue;
 
-std::string commandProblem(int argc, char** argv)
+std::string commandProblem(const std::vector<std::string>& words)
 {
     std::vector<std::string> names;
     for (const CommandRow& row : commandRows())
         names.emplace_back(row.name);
-    if (argc < 2)
+    if (words.empty())
         return "no command given; see --help";
-    const std::string word = argv[1];
+    const std::string& word = words.front();
     if (word.starts_with('-') || findCommand(word))
         return {};
     return withSuggestion("unknown command " + word, word, names, "see --help");
@@ -91,13 +91,13 @@ std::string algorithmProblem(Arguments& arguments)
 
 } // namespace
 
-ParseOutcome parseCommandLine(int argc, char** argv)
+ParseOutcome parseCommandLine(const std::vector<std::string>& words)
 {
     Arguments arguments;
-    if (std::string problem = commandProblem(argc, argv); !problem.empty())
+    if (std::string problem = commandProblem(words); !problem.empty())
         return {{}, {}, std::move(problem)};
-    const CommandRow* row = findCommand(argv[1]);
-    const std::vector<std::string> rest(argv + (row ? 2 : 1), argv + argc);
+    const CommandRow* row = findCommand(words.front());
+    const std::vector<std::string> rest(words.begin() + (row ? 1 : 0), words.end());
     std::string problem = readWords(rest, row, arguments);
     if (arguments.help)
         return {{}, helpText(row ? std::optional(row->command) : std::nullopt), {}};

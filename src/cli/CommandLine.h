@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace cli {
 
@@ -27,6 +28,7 @@ struct ParseOutcome
     std::string problem; ///< one line
 };
 
-ParseOutcome parseCommandLine(int argc, char** argv);
+/// Of what stands behind the program's name.
+ParseOutcome parseCommandLine(const std::vector<std::string>& words);
 
 } // namespace cli

@@ -2,8 +2,10 @@
 
 #include "cli/CommandLine.h"
 #include "common/naming/OutputNaming.h"
+#include "common/path/PathText.h"
 #include "common/settings/AppSettings.h"
 #include "common/settings/Product.h"
+#include "lib/platform/Path.h"
 
 #include <filesystem>
 
@@ -32,11 +34,11 @@ NamingSettings namingOf(const QString& encrypted)
 std::string defaultOutput(const std::string& input, Command command,
                           const std::function<bool(const std::string&)>& isFree)
 {
-    const std::filesystem::path path = input;
-    // Latin-1 both ways keeps every byte of a name that is not UTF-8; the rules look at ASCII only.
-    const QString name = QString::fromLatin1(path.filename().c_str());
+    const std::filesystem::path path = tessaly::platform::pathFromNative(input);
+    const QString name = thisapp::pathText(path.filename());
     const auto beside = [&](const QString& output) {
-        const std::string file = (path.parent_path() / output.toLatin1().toStdString()).string();
+        const std::string file =
+            tessaly::platform::nativeText(path.parent_path() / thisapp::textPath(output));
         return file == StandardStream ? "./" + file : file; // it is the name of a file
     };
     if (command == Command::Encrypt)

@@ -3,6 +3,7 @@
 #include "cli/DefaultOutput.h"
 #include "io/PathCheck.h"
 #include "lib/platform/File.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 
 #include <algorithm>
@@ -14,20 +15,21 @@
 namespace cli {
 
 using namespace tessaly;
+using platform::pathFromNative;
 
 namespace {
 
 std::string folderText(const std::filesystem::path& path)
 {
-    return path.has_parent_path() ? path.parent_path().string() : ".";
+    return path.has_parent_path() ? platform::nativeText(path.parent_path()) : ".";
 }
 
 /// Empty when the input can be read, as far as one sees.
 std::string inputProblem(const std::string& input)
 {
-    if (platform::fileStatus(input).kind == platform::FileKind::Directory)
+    if (platform::fileStatus(pathFromNative(input)).kind == platform::FileKind::Directory)
         return "input is a folder: " + input + "; name the files in it";
-    switch (io::checkInput(input)) {
+    switch (io::checkInput(pathFromNative(input))) {
     case io::InputCheck::NotFound:
         return "input not found: " + input;
     case io::InputCheck::NotRegular:
@@ -40,13 +42,13 @@ std::string inputProblem(const std::string& input)
 
 std::string outputProblem(const Item& item, bool force)
 {
-    switch (io::checkOutput(item.input, item.output)) {
+    switch (io::checkOutput(pathFromNative(item.input), pathFromNative(item.output))) {
     case io::OutputCheck::MatchesInput:
         return "output is the input itself: " + item.output + "; name another with --output";
     case io::OutputCheck::NotRegular:
         return "output is not a regular file: " + item.output;
     case io::OutputCheck::NoFolder:
-        return "output folder not found: " + folderText(item.output);
+        return "output folder not found: " + folderText(pathFromNative(item.output));
     case io::OutputCheck::Exists:
         return force ? "" : "output exists: " + item.output + "; --force replaces it";
     case io::OutputCheck::Free:
@@ -58,12 +60,12 @@ std::string outputProblem(const Item& item, bool force)
 /// Empty unless the output would take the place of the secret that opens it.
 std::string secretProblem(const std::string& output, const Arguments& arguments)
 {
-    const platform::FileStatus status = platform::fileStatus(output);
+    const platform::FileStatus status = platform::fileStatus(pathFromNative(output));
     const std::pair<const std::optional<std::string>&, const char*> secrets[] = {
         {arguments.passwordFile, "password"}, {arguments.keyFile, "key"}, {arguments.ivFile, "IV"}};
     for (const auto& [file, what] : secrets)
         if (file && status.sameFile(*file == StandardStream ? platform::standardInputStatus()
-                                                            : platform::fileStatus(*file)))
+                                                            : platform::fileStatus(pathFromNative(*file))))
             return "output is the " + std::string(what) + " file: " + output;
     return {};
 }
@@ -74,7 +76,7 @@ public:
     explicit Planner(const Arguments& arguments) : m_arguments(arguments)
     {
         for (const std::string& input : arguments.inputs)
-            m_inputs.push_back(platform::fileStatus(input));
+            m_inputs.push_back(platform::fileStatus(pathFromNative(input)));
     }
 
     Plan make()
@@ -99,7 +101,7 @@ private:
         if (input == StandardStream)
             return StandardStream;
         return defaultOutput(input, m_arguments.command, [this](const std::string& path) {
-            return !platform::fileStatus(path).exists() && !isPlanned(path);
+            return !platform::fileStatus(pathFromNative(path)).exists() && !isPlanned(path);
         });
     }
 
@@ -117,7 +119,7 @@ private:
         problem = outputProblem(item, m_arguments.force);
         if (problem.empty())
             problem = secretProblem(item.output, m_arguments);
-        const platform::FileStatus there = platform::fileStatus(item.output);
+        const platform::FileStatus there = platform::fileStatus(pathFromNative(item.output));
         if (problem.empty() &&
             std::ranges::any_of(m_inputs, [&](const auto& one) { return there.sameFile(one); }))
             problem = "output is another input: " + item.output;
@@ -127,11 +129,14 @@ private:
     void add(Item item)
     {
         if (!item.output.empty())
-            m_outputs.insert(io::pathKey(item.output));
+            m_outputs.insert(io::pathKey(pathFromNative(item.output)));
         m_plan.items.push_back(std::move(item));
     }
 
-    bool isPlanned(const std::string& output) const { return m_outputs.contains(io::pathKey(output)); }
+    bool isPlanned(const std::string& output) const
+    {
+        return m_outputs.contains(io::pathKey(pathFromNative(output)));
+    }
 
     const Arguments& m_arguments;
     std::vector<platform::FileStatus> m_inputs;

@@ -2,12 +2,12 @@
 
 #include "lib/logger/LogText.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/Terminal.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <filesystem>
 #include <utility>
 
 namespace cli {
@@ -41,8 +41,9 @@ std::string progressText(std::int64_t processed, double percent, double seconds)
 
 std::string progressLabel(std::size_t number, std::size_t count, const std::string& name)
 {
+    using namespace tessaly::platform;
     std::string shown;
-    tessaly::logger::appendOneLine(shown, std::filesystem::path(name).filename().string());
+    tessaly::logger::appendOneLine(shown, nativeText(pathFromNative(name).filename()));
     if (shown.size() > LongestName) {
         const auto isWithinLetter = [&](std::size_t at) { return (shown[at] & 0xC0) == 0x80; };
         std::size_t end = LongestName / 2;

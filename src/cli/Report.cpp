@@ -4,6 +4,7 @@
 #include "common/errors/JobStepText.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/Path.h"
 #include "lib/platform/StandardStreams.h"
 
 #include <new>
@@ -50,7 +51,7 @@ void tellAlgorithm(const FileResult& result)
 std::string stepSentence(const FileJobRequest& request, const FileJobOutcome& outcome)
 {
     std::string text = thisapp::failedStepText(outcome);
-    return text.replace(text.find("%1"), 2, thisapp::failedFile(outcome, request).string());
+    return text.replace(text.find("%1"), 2, platform::nativeText(thisapp::failedFile(outcome, request)));
 }
 
 /// Why nothing fits, or what would.

@@ -4,11 +4,11 @@
 #include "common/secret/PasswordRules.h"
 #include "crypto/catalogue/Catalogue.h"
 #include "lib/platform/Interrupts.h"
+#include "lib/platform/StandardStreams.h"
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -24,42 +24,55 @@ namespace {
 /// Far beyond any password, key or IV; a wrong file name must not fill the memory.
 constexpr std::size_t SecretFileLimit = 1 << 20;
 
-struct FileCloser
+/// A file, a pipe or standard input, byte by byte, so that no copy stays behind in the runtime.
+class SecretSource
 {
-    void operator()(std::FILE* file) const
+public:
+    explicit SecretSource(const std::string& path)
+        : m_file(path == StandardStream ? nullptr : tessaly::platform::openBytes(path)),
+          m_isGood(m_file || path == StandardStream)
     {
-        if (file != stdin)
-            std::fclose(file);
+        if (m_file)
+            std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
     }
+
+    /// Nothing has failed so far.
+    bool isGood() const { return m_isGood; }
+    /// False at the end and after a failure.
+    bool next(std::uint8_t& byte)
+    {
+        std::size_t count = 0;
+        if (m_file) {
+            count = std::fread(&byte, 1, 1, m_file.get());
+            m_isGood = std::ferror(m_file.get()) == 0;
+        } else if (m_isGood) {
+            m_isGood = tessaly::platform::readStandardInput(&byte, 1, count).ok();
+        }
+        return m_isGood && count == 1;
+    }
+
+private:
+    struct Closer
+    {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::unique_ptr<std::FILE, Closer> m_file; ///< null for standard input
+    bool m_isGood;
 };
 
-/// May be a pipe, which is not open before its other end is; a signal may come meanwhile.
-std::FILE* openSecretFile(const std::string& path)
-{
-    std::FILE* file = nullptr;
-    do
-        file = std::fopen(path.c_str(), "rb");
-    while (!file && errno == EINTR && !tessaly::platform::Interrupts::happened());
-    return file;
-}
-
-/// Unbuffered, so that no copy stays behind in the runtime.
 bool readSecretFile(const std::string& path, bool firstLineOnly, SecretBytes& bytes)
 {
-    const std::unique_ptr<std::FILE, FileCloser> file(path == "-" ? stdin : openSecretFile(path));
-    if (!file)
-        return false;
-    std::setvbuf(file.get(), nullptr, _IONBF, 0);
-    for (int c = 0; (c = std::fgetc(file.get())) != EOF;) {
-        if (firstLineOnly && c == '\n')
+    SecretSource source(path);
+    for (std::uint8_t byte = 0; source.next(byte);) {
+        if (firstLineOnly && byte == '\n')
             break;
         if (bytes.size() == SecretFileLimit)
             return false;
-        bytes.push_back(static_cast<std::uint8_t>(c));
+        bytes.push_back(byte);
     }
     if (firstLineOnly && bytes.size() > 0 && bytes.data()[bytes.size() - 1] == '\r')
         bytes.resize(bytes.size() - 1);
-    return std::ferror(file.get()) == 0;
+    return source.isGood();
 }
 
 /// `source` begins the problem: where the password came from.

@@ -9,12 +9,14 @@
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <string>
+#include <vector>
 
 namespace {
 
-cli::ExitCode run(int argc, char** argv)
+cli::ExitCode run(const std::vector<std::string>& words)
 {
-    const cli::ParseOutcome parsed = cli::parseCommandLine(argc, argv);
+    const cli::ParseOutcome parsed = cli::parseCommandLine(words);
     if (!parsed.arguments) {
         if (!parsed.answer.empty())
             return cli::print(parsed.answer);
@@ -30,12 +32,12 @@ cli::ExitCode run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    tessaly::platform::holdStandardStreams();
+    tessaly::platform::prepareStandardStreams();
     tessaly::platform::ignoreWriteSignals();
     tessaly::platform::disableCoreDumps();
     // The last resort: neither memory nor a thread may be had. It needs neither itself.
     try {
-        return run(argc, argv);
+        return run(tessaly::platform::programArguments(argc, argv));
     } catch (const std::bad_alloc&) {
         std::fputs("quillet-cli: out of memory\n", stderr);
     } catch (const std::exception& exception) {

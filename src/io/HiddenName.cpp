@@ -18,15 +18,6 @@ namespace fs = std::filesystem;
 /// Begins every hidden name of ours, and nobody else's.
 constexpr const char* Prefix = ".quillet-partial-";
 
-fs::path randomName()
-{
-    std::random_device random;
-    std::string name = Prefix;
-    for (int word = 0; word < 4; ++word)
-        name += std::to_string(random());
-    return name;
-}
-
 using Names = std::map<fs::path, std::shared_ptr<const FilePlace>>;
 using NamesInUse = sync::internal::SafeData<sync::Locker, Names>;
 
@@ -42,10 +33,19 @@ NamesInUse& namesInUse()
 
 } // namespace
 
+fs::path HiddenName::fresh()
+{
+    std::random_device random;
+    std::string name = Prefix;
+    for (int word = 0; word < 4; ++word)
+        name += std::to_string(random());
+    return name;
+}
+
 void HiddenName::choose(std::shared_ptr<const FilePlace> place)
 {
     release();
-    fs::path name = randomName();
+    fs::path name = fresh();
     namesInUse().with([&](Names& names) { names.emplace(name, place); });
     m_place = std::move(place);
     m_name = std::move(name);

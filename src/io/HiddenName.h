@@ -18,6 +18,9 @@ public:
     HiddenName(const HiddenName&) = delete;
     HiddenName& operator=(const HiddenName&) = delete;
 
+    /// That nothing stands under.
+    static std::filesystem::path fresh();
+
     bool isSet() const { return !m_name.empty(); }
     const std::filesystem::path& name() const { return m_name; }
     /// Takes a new one, which nothing stands under yet.

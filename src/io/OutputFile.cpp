@@ -39,7 +39,7 @@ ResultCode OutputFile::create(const platform::Access& access, platform::File& fi
 {
     if (m_kind == Kind::Hidden)
         return createHidden(access, file);
-    const ResultCode created = m_place->folder().createNameless(access, file);
+    const ResultCode created = m_place->folder().createNameless(HiddenName::fresh(), access, file);
     if (platform::isUnsupported(created))
         return createHidden(access, file);
     return created.ok() ? file.status(m_status) : created;
@@ -127,6 +127,7 @@ ResultCode OutputFile::replaceFormer(const ResultCode& occupied)
         return named;
     const ResultCode exchanged = folder.exchange(m_hidden.name(), m_place->name());
     if (platform::isUnsupported(exchanged)) {
+        static_cast<void>(m_former.close()); // no file system need replace an open file
         const ResultCode renamed = folder.renameOver(m_hidden.name(), m_place->name());
         if (renamed.ok())
             m_state = State::Settled;

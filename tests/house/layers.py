@@ -8,6 +8,9 @@ import sys
 
 RANKS = {"lib": 0, "io": 1, "crypto": 2, "common": 3, "ui": 4, "app": 5, "cli": 5}
 INCLUDE = r"#\s*include\s+"
+POSIX = r"<(unistd|sys/[a-z]+|termios|pwd|dirent|poll|dlfcn)\.h>"
+WINDOWS = r"<(windows|winternl|aclapi|sddl|shlobj|shellapi|shobjidl|io)\.h>"
+OF_LINUX, OF_WINDOWS = "(lib/platform|app/desktop)/linux/", "(lib/platform|app/desktop)/windows/"
 # What is complained of; the lines in which it is; in what files, and in which of them it may be.
 RULES = [
     ("Crypto++ outside crypto/cryptopp", INCLUDE + r'[<"](cryptopp|crypto\+\+)/', "", "crypto/cryptopp/"),
@@ -15,7 +18,11 @@ RULES = [
     ("Qt below ui", INCLUDE + "<Q[A-Za-z]+", "(lib|io|crypto|cli)/", "lib/i18n/"),
     ("platform switch in the logic", r"#\s*(if|ifdef|ifndef|elif)\b.*(_WIN32|__linux__|__unix__|Q_OS_)", "", "$"),
     ("system header outside the platform folders",
-     INCLUDE + r"<(unistd|fcntl|sys/[a-z]+|termios|pwd|windows)\.h>", "", "(lib/platform|app/desktop)/"),
+     INCLUDE + f"({POSIX}|{WINDOWS}|<fcntl\\.h>)", "", f"{OF_LINUX}|{OF_WINDOWS}"),
+    ("header of another system", INCLUDE + WINDOWS, OF_LINUX, "$"),
+    ("header of another system", INCLUDE + POSIX, OF_WINDOWS, "$"),
+    ("Linux's own header outside its folder", INCLUDE + f'"{OF_LINUX}', "", OF_LINUX),
+    ("Windows' own header outside its folder", INCLUDE + f'"{OF_WINDOWS}', "", OF_WINDOWS),
 ]
 
 

@@ -2,9 +2,9 @@
 
 #include "lib/platform/Path.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -19,10 +19,10 @@ class TempFolder
 public:
     TempFolder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "quillet-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
+        std::random_device random;
+        m_path = std::filesystem::temp_directory_path() / ("quillet-" + std::to_string(random()));
+        if (!std::filesystem::create_directory(m_path))
             throw std::runtime_error("no temporary folder");
-        m_path = name;
     }
     ~TempFolder()
     {

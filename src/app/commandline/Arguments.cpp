@@ -2,33 +2,36 @@
 
 #include "common/path/PathText.h"
 #include "common/path/UrlPath.h"
+#include "lib/platform/File.h"
+#include "lib/platform/Path.h"
 
-#include <filesystem>
-#include <string_view>
-#include <system_error>
+#include <QByteArray>
 
 namespace thisapp {
 
+using namespace tessaly;
+
 namespace {
 
-bool isUrl(const char* argument)
+bool isUrl(const std::string& argument)
 {
-    std::error_code ignored;
-    return std::string_view(argument).starts_with("file://") && !std::filesystem::exists(argument, ignored);
+    return argument.starts_with("file://") &&
+           !platform::fileStatus(platform::pathFromNative(argument)).exists();
 }
 
-QString argumentText(const char* argument)
+QString argumentText(const std::string& argument)
 {
-    const QString path = isUrl(argument) ? urlPath(QUrl::fromEncoded(argument)) : QString();
-    return path.isEmpty() ? pathText(argument) : path;
+    const QString path =
+        isUrl(argument) ? urlPath(QUrl::fromEncoded(QByteArray::fromStdString(argument))) : QString();
+    return path.isEmpty() ? pathText(platform::pathFromNative(argument)) : path;
 }
 
 } // namespace
 
-QStringList argumentTexts(std::span<const char* const> arguments)
+QStringList argumentTexts(const std::vector<std::string>& arguments)
 {
     QStringList texts;
-    for (const char* argument : arguments)
+    for (const std::string& argument : arguments)
         texts += argumentText(argument);
     return texts;
 }

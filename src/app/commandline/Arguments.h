@@ -2,12 +2,14 @@
 
 #include <QStringList>
 
-#include <span>
+#include <string>
+#include <vector>
 
 namespace thisapp {
 
-/// The program's arguments as texts, with the bytes of file names that are not UTF-8. The URL of a file on
-/// this computer, which file managers may hand over, becomes its path, unless a file has that very name.
-QStringList argumentTexts(std::span<const char* const> arguments);
+/// The program's arguments (see platform::programArguments) as texts, with the bytes of file names that are
+/// not UTF-8. The URL of a file on this computer, which file managers may hand over, becomes its path, unless
+/// a file has that very name.
+QStringList argumentTexts(const std::vector<std::string>& arguments);
 
 } // namespace thisapp

@@ -3,6 +3,8 @@
 #include "app/desktop/INotifier.h"
 #include "app/desktop/ITaskbarProgress.h"
 
+#include <QString>
+
 #include <memory>
 
 namespace thisapp::desktop {
@@ -10,6 +12,13 @@ namespace thisapp::desktop {
 /// Whether windows can be shown here: a server answers, or the chosen platform needs none. To be asked before
 /// the application object is made, which ends the process where they can't.
 bool isDisplayThere();
+
+/// Lets the standard streams reach the terminal that the program is started from, where a program with
+/// windows is started without.
+void useTerminal();
+
+/// This user's folder for files that live no longer than the session.
+QString sessionFolder();
 
 /// While it lives, application object and first window are made without what this program never uses of
 /// the display, which would be half of the time until the window is there. To end with the first paint.

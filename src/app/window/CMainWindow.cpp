@@ -13,6 +13,7 @@
 #include "common/path/PathText.h"
 #include "common/settings/CAppSettings.h"
 #include "lib/logger/Log.h"
+#include "lib/platform/Path.h"
 #include "ui/algorithms/CSelectAlgFrame.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
@@ -99,7 +100,7 @@ void CMainWindow::connectJob()
 void CMainWindow::processCommandLine(const QStringList& arguments)
 {
     logger::log(logger::Information, LogSource)
-        << "Try to process command line: " << textPath(quotedArguments(arguments)).native();
+        << "Try to process command line: " << platform::nativeText(textPath(quotedArguments(arguments)));
     const CommandLine line = parseCommandLine(arguments, systemSlashRule(),
                                               [this](const QString& path) { return m_input.isFile(path); });
     QStringList files = line.words;

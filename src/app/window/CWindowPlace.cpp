@@ -1,5 +1,6 @@
 #include "app/window/CWindowPlace.h"
 
+#include "app/desktop/Desktop.h"
 #include "common/settings/CAppSettings.h"
 
 #include <QDir>
@@ -7,7 +8,6 @@
 #include <QGuiApplication>
 #include <QLockFile>
 #include <QScreen>
-#include <QStandardPaths>
 #include <QStyle>
 #include <QWidget>
 
@@ -39,7 +39,7 @@ CWindowPlace::~CWindowPlace() = default;
 
 void CWindowPlace::takeNumber()
 {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    const QDir folder(thisapp::desktop::sessionFolder());
     for (m_number = 0; m_number < MostNumbers; ++m_number) {
         m_turn = std::make_unique<QLockFile>(
             folder.filePath(QStringLiteral("quillet-window-%1.lock").arg(m_number)));

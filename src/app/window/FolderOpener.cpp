@@ -3,6 +3,7 @@
 #include "app/job/RequestFacts.h"
 #include "common/path/PathText.h"
 #include "lib/platform/File.h"
+#include "lib/platform/Path.h"
 
 #include <QByteArray>
 #include <QDesktopServices>
@@ -22,7 +23,7 @@ QUrl folderOf(const QString& text)
     if (text.isEmpty() || error || platform::fileStatus(folder).kind != platform::FileKind::Directory)
         return {};
     // From the bytes, as a name need not be UTF-8.
-    const QByteArray bytes = QByteArray::fromStdString(folder.string());
+    const QByteArray bytes = QByteArray::fromStdString(platform::urlText(folder));
     return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/:@!$&'()*+,;="));
 }
 

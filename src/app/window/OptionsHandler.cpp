@@ -14,6 +14,8 @@
 #include "lib/logger/Log.h"
 #include "ui/algorithms/ICryptoAlgProvider.h"
 
+#include <QDir>
+
 #include <utility>
 
 namespace thisapp {
@@ -58,7 +60,7 @@ std::vector<i18n::Language> OptionsHandler::languages() const
 
 QString OptionsHandler::logFilePath() const
 {
-    return pathText(m_targets.logging.path());
+    return QDir::toNativeSeparators(pathText(m_targets.logging.path()));
 }
 
 QString OptionsHandler::problem() const

@@ -14,7 +14,7 @@ bool CErrMsg::lookup(std::uint32_t category, std::uint32_t code, std::string& te
     if (!ErrorTexts().lookup(category, code, text))
         return false;
     const QString shown = category == err::CategorySystem
-                              ? QString::fromLocal8Bit(text.c_str()).trimmed()
+                              ? QString::fromStdString(text).trimmed()
                               : QCoreApplication::translate("CErrMsg", text.c_str());
     text = shown.toStdString();
     return true;

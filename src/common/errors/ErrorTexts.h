@@ -4,8 +4,8 @@
 
 namespace thisapp {
 
-/// The texts as they stand: the system's message for category 1, in the locale's language and
-/// encoding, and our English sentences for category 5.
+/// The texts as they stand: the system's message for category 1, in the locale's language,
+/// and our English sentences for category 5.
 class ErrorTexts final : public tessaly::err::IErrMsg<char>
 {
 public:

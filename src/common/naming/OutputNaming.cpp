@@ -2,6 +2,7 @@
 
 #include "common/path/PathText.h"
 #include "lib/platform/Folders.h"
+#include "lib/platform/Path.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -80,7 +81,7 @@ QString outputFolder(const QFileInfo& input, const NamingSettings& settings, con
 
 bool makeFolder(const QString& path)
 {
-    return tessaly::platform::createFolders(textPath(path).string()).ok();
+    return tessaly::platform::createFolders(tessaly::platform::nativeText(textPath(path))).ok();
 }
 
 NamingDirection namingDirection(const QString& fileName, const NamingSettings& settings)

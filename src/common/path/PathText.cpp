@@ -9,9 +9,9 @@ using namespace tessaly;
 namespace {
 
 /// A code point beyond the basic plane takes two units of a QString, but one wide character.
-constexpr bool needsPair(wchar_t c)
+constexpr bool needsPair(uint codePoint)
 {
-    return static_cast<unsigned long>(c) > 0xFFFF;
+    return codePoint > 0xFFFF;
 }
 
 } // namespace
@@ -23,9 +23,9 @@ QString pathText(const std::filesystem::path& path)
     text.reserve(static_cast<int>(wide.size()));
     for (const wchar_t c : wide) {
         const auto codePoint = static_cast<uint>(c);
-        if (needsPair(c))
+        if (needsPair(codePoint))
             text += QChar(QChar::highSurrogate(codePoint));
-        text += QChar(needsPair(c) ? QChar::lowSurrogate(codePoint) : static_cast<ushort>(codePoint));
+        text += QChar(needsPair(codePoint) ? QChar::lowSurrogate(codePoint) : static_cast<ushort>(codePoint));
     }
     return text;
 }

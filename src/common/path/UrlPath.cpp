@@ -1,23 +1,17 @@
 #include "common/path/UrlPath.h"
 
 #include "common/path/PathText.h"
-
-#include <QDir>
-#include <QSysInfo>
+#include "lib/platform/Path.h"
 
 namespace thisapp {
 
 QString urlPath(const QUrl& url)
 {
-    const QString host = url.host();
-    const bool isHere =
-        url.isLocalFile() &&
-        (host.isEmpty() || host.compare(QLatin1String("localhost"), Qt::CaseInsensitive) == 0 ||
-         host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
-    if (!isHere)
+    if (!url.isLocalFile())
         return {};
     const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
-    return QDir::toNativeSeparators(pathText(QByteArray::fromPercentEncoding(encoded).toStdString()));
+    return pathText(tessaly::platform::pathFromUrl(url.host().toStdString(),
+                                                   QByteArray::fromPercentEncoding(encoded).toStdString()));
 }
 
 } // namespace thisapp

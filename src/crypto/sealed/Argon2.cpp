@@ -1,10 +1,10 @@
 #include "crypto/sealed/Argon2.h"
 
 #include "crypto/Guard.h"
+#include "lib/platform/Memory.h"
 
 #include <argon2.h>
 
-#include <cerrno>
 #include <string_view>
 #include <utility>
 
@@ -25,7 +25,7 @@ CryptoResult resultOf(int code)
     if (code == ARGON2_OK)
         return {};
     if (code == ARGON2_MEMORY_ALLOCATION_ERROR)
-        return {err::system(ENOMEM), err::library(err::KeyDerivationFailed)};
+        return {platform::outOfMemory(), err::library(err::KeyDerivationFailed)};
     return err::KeyDerivationFailed;
 }
 

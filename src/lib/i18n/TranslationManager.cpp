@@ -5,10 +5,10 @@
 #include "lib/i18n/list/WordTest.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/i18n/resource/LocaleResLoaderFactory.h"
+#include "lib/platform/Folder.h"
 #include "lib/platform/Path.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <iterator>
 #include <utility>
@@ -50,7 +50,7 @@ LoadResult TranslationManager::load()
     for (const Place& place : m_places) {
         LoadResult result = place.list->load(place.listPath);
         loaded |= result.ok();
-        if (result.code == err::system(ENOENT))
+        if (platform::isMissing(result.code))
             missing = std::move(result);
         else if (!result.ok() && wrong.ok())
             wrong = std::move(result);

@@ -1,6 +1,8 @@
 #include "lib/logger/LogAppenderUtf8File.h"
 
+#include "lib/platform/File.h"
 #include "lib/platform/Folders.h"
+#include "lib/platform/Path.h"
 
 #include <exception>
 #include <filesystem>
@@ -130,11 +132,8 @@ void LogAppenderUtf8File::write(const std::vector<internal::LogLine>& lines)
 
 bool LogAppenderUtf8File::isTooBig() const
 {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(m_path, error))
-        return false;
-    const auto size = std::filesystem::file_size(m_path, error);
-    return !error && std::cmp_greater(size, m_maxSize.load());
+    const platform::FileStatus there = platform::fileStatus(platform::pathFromNative(m_path));
+    return there.kind == platform::FileKind::Regular && there.size > m_maxSize.load();
 }
 
 bool LogAppenderUtf8File::openFile()
@@ -145,10 +144,10 @@ bool LogAppenderUtf8File::openFile()
     if (m_file && !m_file->isStillAt(m_path))
         m_file.reset();
     if (!m_file) {
-        std::error_code ignored;
-        std::ignore = platform::createPrivateFolders(std::filesystem::path(m_path).parent_path().string());
+        const std::filesystem::path path = platform::pathFromNative(m_path);
+        std::ignore = platform::createPrivateFolders(platform::nativeText(path.parent_path()));
         if (tooBig)
-            std::filesystem::remove(m_path, ignored);
+            std::ignore = platform::removeFile(path);
         m_file = LogFile::open(m_path, LogFile::Mode::Append);
     } else if (tooBig) {
         m_file.reset();

@@ -23,7 +23,7 @@ struct FileStatus
     bool isLink = false; ///< the path itself names a symbolic link
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
-    std::uint64_t hardLinks = 0;
+    std::uint64_t hardLinks = 0; ///< none for a file that ends with its handle
     std::int64_t size = 0;
     std::int64_t modifiedNs = 0; ///< since the system's epoch, modulo 2^64: only to compare for equality
     /// Who may do what with it, as the system keeps it; for an open file with an access list what its

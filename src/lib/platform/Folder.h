@@ -8,6 +8,7 @@
 namespace tessaly::platform {
 
 // What a failure means, whatever the system's number for it.
+bool isMissing(const ResultCode& result);     ///< nothing stands there
 bool isOccupied(const ResultCode& result);    ///< something stands there already
 bool isUnsupported(const ResultCode& result); ///< the file system has no such thing
 bool isLocked(const ResultCode& result);      ///< somebody else has the lock
@@ -23,7 +24,7 @@ public:
     Folder(Folder&& other) noexcept;
     Folder& operator=(Folder&& other) noexcept;
 
-    /// The folder that holds, or would hold, the file of this path. (1, ENOENT) for a path without a
+    /// The folder that holds, or would hold, the file of this path. isMissing for a path without a
     /// file name.
     ResultCode openParentOf(const std::filesystem::path& path);
     bool isOpen() const { return m_handle >= 0; }
@@ -34,9 +35,10 @@ public:
     FileStatus status(const std::filesystem::path& name) const;
     ResultCode openForReading(const std::filesystem::path& name, File& file) const;
 
-    /// A file that no name leads to and that ends with its handle. Unsupported where the file system
-    /// has no such thing.
-    ResultCode createNameless(const Access& access, File& file) const;
+    /// A file that no name leads to and that ends with its handle, until link gives it one. Unsupported
+    /// where the file system has no such thing. Where every file has a name, it is called `standIn`, which
+    /// nobody can open; only a loss of power leaves it behind.
+    ResultCode createNameless(const std::filesystem::path& standIn, const Access& access, File& file) const;
     /// Fails when anything stands there, a dangling link included.
     ResultCode createNew(const std::filesystem::path& name, const Access& access, File& file) const;
     /// Gives a nameless file a name; fails when anything stands there.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace tessaly::platform {
 
@@ -15,5 +17,8 @@ std::uint32_t threadId();
 /// Keeps this process's memory, and the secrets in it, out of core dumps and debuggers for good.
 /// False when the system refused. Leak checkers, which debug their own process, no longer work.
 bool disableCoreDumps();
+
+/// What main was given, without the program's name, each as the bytes of Path.h.
+std::vector<std::string> programArguments(int argc, char** argv);
 
 } // namespace tessaly::platform

@@ -51,7 +51,7 @@ TEST(Arguments, TheUrlOfAFileIsItsPath)
         {"/e%20f\xe9", "/e%20f\xe9"},
     };
     for (const auto& [argument, path] : cases)
-        EXPECT_EQ(thisapp::textPath(thisapp::argumentTexts({&argument, 1}).front()), path);
+        EXPECT_EQ(thisapp::textPath(thisapp::argumentTexts({argument}).front()), path);
     fs::current_path(before);
 }
 

@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -23,6 +24,15 @@ bool isDisplayThere()
                : platform.startsWith("wayland") ? reachesWayland()
                                                 : true;
     });
+}
+
+void useTerminal()
+{
+}
+
+QString sessionFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
 }
 
 // The toolkit's X plugin loads the graphics driver in case OpenGL should be drawn. The variable is not left

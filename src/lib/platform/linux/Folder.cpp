@@ -56,6 +56,11 @@ ResultCode grant(int handle, mode_t mode, bool forGroup, std::uint32_t group)
 
 } // namespace
 
+bool isMissing(const ResultCode& result)
+{
+    return result == err::system(ENOENT);
+}
+
 bool isOccupied(const ResultCode& result)
 {
     return result == err::system(EEXIST);
@@ -130,7 +135,7 @@ ResultCode Folder::openForReading(const fs::path& name, File& file) const
     return {};
 }
 
-ResultCode Folder::createNameless(const Access& access, File& file) const
+ResultCode Folder::createNameless(const fs::path&, const Access& access, File& file) const
 {
     File created;
     created.m_handle =

@@ -1,5 +1,8 @@
 #include "lib/platform/Memory.h"
 
+#include "lib/err/ErrorCodes.h"
+
+#include <cerrno>
 #include <cstring>
 #include <sys/mman.h>
 
@@ -9,6 +12,11 @@ void wipe(void* data, std::size_t size) noexcept
 {
     if (data != nullptr)
         explicit_bzero(data, size);
+}
+
+ResultCode outOfMemory()
+{
+    return err::system(ENOMEM);
 }
 
 void* mapSecretPages(std::size_t size) noexcept

@@ -29,4 +29,9 @@ bool disableCoreDumps()
     return ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0 && limited;
 }
 
+std::vector<std::string> programArguments(int argc, char** argv)
+{
+    return {argv + (argc > 0 ? 1 : 0), argv + argc};
+}
+
 } // namespace tessaly::platform

@@ -76,6 +76,15 @@ ResultCode closeStandardOutput()
     return outcome(::close(STDOUT_FILENO) == 0 || errno == EINTR);
 }
 
+std::FILE* openBytes(const std::string& path)
+{
+    std::FILE* file = nullptr;
+    do
+        file = std::fopen(path.c_str(), "rb");
+    while (!file && errno == EINTR && !Interrupts::happened());
+    return file;
+}
+
 FileStatus standardInputStatus()
 {
     return statusOf(STDIN_FILENO);
@@ -91,7 +100,7 @@ bool isClosedPipe(ResultCode result)
     return result == err::system(EPIPE);
 }
 
-void holdStandardStreams()
+void prepareStandardStreams()
 {
     // The lowest free number is taken, and it is opened for the wrong direction.
     for (const int handle : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/desktop/linux/shell/ShellCommand.h"
+#include "app/desktop/ShellCommand.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "app/desktop/linux/shell/FileManager.h"
 
+#include "app/desktop/ShellCommand.h"
 #include "app/desktop/linux/shell/EntryFormats.h"
-#include "app/desktop/linux/shell/ShellCommand.h"
 #include "lib/platform/Folders.h"
 
 #include <QFile>

@@ -1,5 +1,6 @@
 #include "app/desktop/ShellIntegration.h"
 
+#include "app/desktop/EntryOwnership.h"
 #include "app/desktop/linux/shell/FileManager.h"
 #include "app/desktop/linux/shell/OwnedFile.h"
 #include "app/desktop/linux/shell/ThunarActions.h"
@@ -9,41 +10,11 @@
 #include <QFile>
 
 #include <algorithm>
-#include <filesystem>
 #include <string>
-#include <system_error>
 
 namespace thisapp::desktop {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-/// A program that was not installed leaves alone what starts another one that can still be started.
-class Ownership
-{
-public:
-    explicit Ownership(std::string program)
-        : m_program(std::move(program)),
-          m_isBuilt(exists(fs::path(m_program).parent_path() / "../CMakeCache.txt"))
-    {
-    }
-
-    bool mayChange(const std::string& startedNow) const
-    {
-        return !m_isBuilt || startedNow.empty() || startedNow == m_program || !exists(startedNow);
-    }
-
-private:
-    static bool exists(const fs::path& path)
-    {
-        std::error_code ignored;
-        return fs::exists(path, ignored);
-    }
-
-    std::string m_program;
-    bool m_isBuilt;
-};
 
 void tell(bool done, const std::string& path)
 {
@@ -51,7 +22,8 @@ void tell(bool done, const std::string& path)
         tessaly::logger::log(tessaly::logger::Warning, "desktop") << "Failed to update shell entry " << path;
 }
 
-void update(const FileManager& manager, const std::string& program, const Ownership& ownership, bool wanted)
+void update(const FileManager& manager, const std::string& program, const EntryOwnership& ownership,
+            bool wanted)
 {
     const std::string base = manager.baseFolder();
     if (base.empty())
@@ -68,7 +40,7 @@ void update(const FileManager& manager, const std::string& program, const Owners
             tell(file.write(entry.content, manager.executable), entry.path);
 }
 
-void updateThunarActions(const std::string& program, const Ownership& ownership, bool wanted)
+void updateThunarActions(const std::string& program, const EntryOwnership& ownership, bool wanted)
 {
     const std::string base = tessaly::platform::configFolder();
     if (const ThunarActions actions(base); !base.empty() && ownership.mayChange(actions.program()))
@@ -80,7 +52,7 @@ void updateThunarActions(const std::string& program, const Ownership& ownership,
 void updateShellIntegration(const QString& program, bool contextMenu, bool sendTo)
 {
     const std::string nativeProgram = QFile::encodeName(program).toStdString();
-    const Ownership ownership(nativeProgram);
+    const EntryOwnership ownership(nativeProgram);
     for (const FileManager& manager : fileManagers()) {
         const bool isOn = manager.menu == Menu::Context ? contextMenu : sendTo;
         update(manager, nativeProgram, ownership, isOn && isFileManagerThere(manager.names));

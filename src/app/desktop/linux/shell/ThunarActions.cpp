@@ -1,8 +1,8 @@
 #include "app/desktop/linux/shell/ThunarActions.h"
 
+#include "app/desktop/ShellCommand.h"
 #include "app/desktop/linux/shell/CommandQuoting.h"
 #include "app/desktop/linux/shell/OwnedFile.h"
-#include "app/desktop/linux/shell/ShellCommand.h"
 
 #include <QDir>
 #include <QFile>

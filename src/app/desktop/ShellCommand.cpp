@@ -1,4 +1,4 @@
-#include "app/desktop/linux/shell/ShellCommand.h"
+#include "app/desktop/ShellCommand.h"
 
 #include <QCoreApplication>
 
