@@ -16,15 +16,6 @@ using namespace cli;
 
 namespace {
 
-ParseOutcome parse(std::vector<std::string> words)
-{
-    words.insert(words.begin(), "quillet-cli");
-    std::vector<char*> argv;
-    for (std::string& word : words)
-        argv.push_back(word.data());
-    return parseCommandLine(static_cast<int>(argv.size()), argv.data());
-}
-
 /// The options in the order of the table, in their long form, then the files.
 std::vector<std::string> said(const Arguments& arguments)
 {
@@ -69,14 +60,14 @@ void checkSense(const Arguments& arguments)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::vector<std::string> arguments = words(text(data, size));
-    const ParseOutcome outcome = parse(arguments);
+    const ParseOutcome outcome = parseCommandLine(arguments);
     require(outcome.arguments.has_value() + !outcome.answer.empty() + !outcome.problem.empty() == 1,
             "one of the three");
     if (!outcome.arguments)
         return 0;
     checkSense(*outcome.arguments);
     const std::vector<std::string> again = said(*outcome.arguments);
-    const ParseOutcome repeated = parse(again);
+    const ParseOutcome repeated = parseCommandLine(again);
     require(repeated.arguments && said(*repeated.arguments) == again, "said again it means the same");
     require(repeated.arguments->algorithmId == outcome.arguments->algorithmId, "with the same algorithm");
     return 0;

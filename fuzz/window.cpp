@@ -78,10 +78,7 @@ void checkRule(const QStringList& arguments, SlashRule rule)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::vector<std::string> given = words(text(data, size));
-    std::vector<const char*> raw;
-    for (const std::string& word : given)
-        raw.push_back(word.c_str());
-    const QStringList arguments = argumentTexts(raw);
+    const QStringList arguments = argumentTexts(given);
     require(arguments.size() == static_cast<int>(given.size()), "as many texts as arguments");
     checkRule(arguments, SlashRule::AnyWord);
     checkRule(arguments, SlashRule::KnownWord);
