@@ -42,7 +42,7 @@ ComPointer<Interface> makeObject(const CLSID& kind)
 
 /// Another interface of the object; empty when it has none such.
 template <class Interface>
-ComPointer<Interface> interfaceOf(IUnknown& object)
+ComPointer<Interface> queryInterface(IUnknown& object)
 {
     void* other = nullptr;
     const HRESULT found = object.QueryInterface(__uuidof(Interface), &other);

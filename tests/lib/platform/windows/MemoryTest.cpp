@@ -36,7 +36,7 @@ TEST(Random, FillsAllBytes)
         EXPECT_LT(std::ranges::count(bytes, value), 64) << value;
 }
 
-TEST(SystemMessage, IsASentenceOnOneLine)
+TEST(SystemMessage, StandsOnOneLine)
 {
     for (std::uint32_t number = 0; number < 2000; ++number)
         if (const auto message = platform::systemMessage(number)) {

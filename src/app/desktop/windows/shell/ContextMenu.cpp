@@ -62,7 +62,7 @@ public:
         return values;
     }
 
-    bool replaceOurs(const Values& values)
+    bool putOurs(const Values& values)
     {
         m_settings.remove(Key);
         m_settings.beginGroup(Key);
@@ -90,13 +90,13 @@ bool ContextMenu::write(const QString& program)
 {
     const Values wanted = wantedValues(QDir::toNativeSeparators(program));
     Menus menus;
-    return menus.ours() == wanted || menus.replaceOurs(wanted);
+    return menus.ours() == wanted || menus.putOurs(wanted);
 }
 
 bool ContextMenu::remove()
 {
     Menus menus;
-    return menus.ours().isEmpty() || menus.replaceOurs({});
+    return menus.ours().isEmpty() || menus.putOurs({});
 }
 
 } // namespace thisapp::desktop

@@ -28,7 +28,7 @@ SendToLink::SendToLink() : m_path(sendToFolder())
 std::filesystem::path SendToLink::program() const
 {
     const auto link = makeObject<IShellLinkW>(CLSID_ShellLink);
-    const auto file = link ? interfaceOf<IPersistFile>(*link) : nullptr;
+    const auto file = link ? queryInterface<IPersistFile>(*link) : nullptr;
     std::array<wchar_t, 32768> target{};
     const bool read = file && SUCCEEDED(file->Load(m_path.c_str(), STGM_READ)) &&
                       SUCCEEDED(link->GetPath(target.data(), static_cast<int>(target.size()), nullptr, 0));
@@ -40,7 +40,7 @@ bool SendToLink::write(const std::filesystem::path& program) const
     if (m_path.empty() || this->program() == program)
         return !m_path.empty();
     const auto link = makeObject<IShellLinkW>(CLSID_ShellLink);
-    const auto file = link ? interfaceOf<IPersistFile>(*link) : nullptr;
+    const auto file = link ? queryInterface<IPersistFile>(*link) : nullptr;
     return file && SUCCEEDED(link->SetPath(program.c_str())) &&
            SUCCEEDED(link->SetWorkingDirectory(program.parent_path().c_str())) &&
            SUCCEEDED(link->SetIconLocation(program.c_str(), 0)) &&
