@@ -1,8 +1,10 @@
 #include "crypto/Way.h"
 #include "support/NewThreads.h"
 
+#include <atomic>
 #include <random>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -35,6 +37,23 @@ TEST(Pipeline, MakesWhatThePlainLoopMakesWithAndWithoutHelpers)
         const Bytes data = noise(length);
         EXPECT_EQ(job.decrypt(job.encrypt(data).bytes).bytes, data) << length;
     }
+}
+
+/// Whose last block the next one needs while it is deciphered. Of four slots.
+TEST(Pipeline, ReadsNothingIntoThePieceBeforeTheFirstUnwrittenOne)
+{
+    Way way("AES-256", false, 1 << 20, 15);
+    std::atomic<int> writing = 0;
+    std::atomic<bool> isTooFar = false;
+    const auto read = [&](int call) { isTooFar = isTooFar || (writing > 0 && call > writing + 2); };
+    const auto write = [&](int call) {
+        writing = call;
+        for (int i = 0; i < 300; ++i) // whoever else may go on does
+            std::this_thread::yield();
+        writing = 0;
+    };
+    EXPECT_EQ(way.run({.onCall = read}, {.onCall = write}).bytes, way.output);
+    EXPECT_FALSE(isTooFar);
 }
 
 /// In pieces of several chunks.
