@@ -2,12 +2,12 @@
 // is ever read.
 
 #include "fuzz/support/Require.h"
-#include "fuzz/support/TempFolder.h"
 #include "fuzz/support/Text.h"
 #include "lib/err/ErrorCodes.h"
 #include "lib/i18n/TranslationManager.h"
 #include "lib/i18n/list/TranslationListLoaderXml.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
+#include "tests/support/TempFolder.h"
 
 #include <cstdint>
 #include <set>
@@ -25,9 +25,9 @@ std::string translationOf(const char* text)
 }
 
 /// The folder of the list between files that are none of its own.
-const TempFolder& place()
+const test::TempFolder& place()
 {
-    static const TempFolder folder;
+    static const test::TempFolder folder;
     [[maybe_unused]] static const bool isMade = [] {
         for (const char* name : {"a.ts", "secret.ts"})
             folder.write(name, translationOf("outside"));

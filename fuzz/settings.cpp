@@ -10,10 +10,10 @@
 #include "crypto/catalogue/Catalogue.h"
 #include "fuzz/support/AllocationWatch.h"
 #include "fuzz/support/Require.h"
-#include "fuzz/support/TempFolder.h"
 #include "fuzz/support/Text.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/logger/Level.h"
+#include "tests/support/TempFolder.h"
 
 #include <cstdint>
 #include <string>
@@ -31,7 +31,7 @@ bool isKnown(std::uint32_t id)
 }
 
 /// A profile of its own for each input: Qt keeps files that it has read, by their paths and times.
-std::string freshProfile(const TempFolder& folder)
+std::string freshProfile(const test::TempFolder& folder)
 {
     static std::uint64_t count = 0;
     const std::string name = std::to_string(count++);
@@ -84,7 +84,7 @@ void checkWriting(const SAppOptions& options)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const TempFolder folder;
+    static const test::TempFolder folder;
     const std::string profile = freshProfile(folder);
     folder.write(profile + "/Tessaly/Quillet.conf", text(data, size));
     SAppOptions options;

@@ -3,8 +3,8 @@
 
 #include "app/desktop/linux/shell/ThunarActions.h"
 #include "fuzz/support/Require.h"
-#include "fuzz/support/TempFolder.h"
 #include "fuzz/support/Text.h"
+#include "tests/support/TempFolder.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -36,24 +36,24 @@ bool mayHoldOurs(const std::string& xml)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const TempFolder folder;
+    static const test::TempFolder folder;
     const std::string before(text(data, size));
     folder.write(File, before);
     const ThunarActions actions((folder.path() / "config").string());
     (void)actions.program();
 
     if (!actions.write(Program)) {
-        require(folder.read(File) == before, "what is not understood stays as it is");
+        require(test::readFile(folder / File) == before, "what is not understood stays as it is");
         require(!actions.remove(), "and nothing can be taken away");
-        require(folder.read(File) == before, "nor is it");
+        require(test::readFile(folder / File) == before, "nor is it");
         return 0;
     }
-    const std::string with = folder.read(File);
+    const std::string with = test::readFile(folder / File);
     require(actions.program() == Program, "our actions start the program");
-    require(actions.write(Program) && folder.read(File) == with, "there is nothing more to add");
+    require(actions.write(Program) && test::readFile(folder / File) == with, "there is nothing more to add");
     require(actions.remove(), "they can be taken away");
     require(actions.program().empty(), "all of them");
-    const std::string after = folder.read(File);
+    const std::string after = test::readFile(folder / File);
     if (!mayHoldOurs(before))
         require(after.empty() || after == before, "what remains is what there was");
     std::filesystem::remove_all(folder.path() / "config");

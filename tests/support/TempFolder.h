@@ -38,9 +38,10 @@ public:
     std::filesystem::path at(std::string_view name) const { return m_path / name; }
     /// The path as the readers take it.
     std::wstring wide(std::string_view name = {}) const { return tessaly::platform::widePath(*this / name); }
-    /// Writes the file anew and gives its path. The name may be a whole path.
+    /// Writes the file anew, in folders that are made, and gives its path. The name may be a whole path.
     std::wstring write(std::string_view name, std::string_view content) const
     {
+        std::filesystem::create_directories((m_path / name).parent_path());
         std::ofstream(*this / name, std::ios::binary) << content;
         return wide(name);
     }
