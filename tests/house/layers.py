@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """layers.py TREE: fails on an include against the layer order app > ui > common > crypto > io > lib (cli stands beside
-app, over common), and on what only some folders may have."""
+app, over common), on what only some folders may have, and on a header that its source does not include first."""
 
 import pathlib
 import re
@@ -37,9 +37,16 @@ def complaints(file, line):
             yield complaint
 
 
+def first_included(text):
+    found = re.search(INCLUDE + '[<"](.+)[>"]', text)
+    return found and found[1]
+
+
 source = pathlib.Path(sys.argv[1], "src")
 files = {path.relative_to(source).as_posix(): path for path in source.rglob("*.*") if path.suffix in (".h", ".cpp")}
 found = [f"{complaint}: {file}: {line}" for file, path in files.items() for line in path.read_text().splitlines()
          if "#" in line for complaint in complaints(file, line)]
+found += [f"own header not first: {file}" for file, path in files.items() if file.endswith(".cpp")
+          if (header := file[:-4] + ".h") in files and first_included(path.read_text()) != header]
 print(f"{len(files)} files", *found, sep="\n")
 sys.exit(bool(found) or not files)

@@ -19,7 +19,7 @@ TEST(LocaleCatalogue, IsTheOneOfItsEra)
     const auto rows = test::dataRows("locales.txt");
     ASSERT_EQ(rows.size(), locales().size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const internal::Locale& locale = locales()[i];
+        const auto& locale = locales()[i];
         EXPECT_EQ((test::Row{std::to_string(locale.lcid), std::to_string(locale.primaryLanguageId),
                              std::to_string(locale.subLanguageId), std::string(locale.tag),
                              std::string(locale.languageName), std::string(locale.countryName)}),

@@ -12,6 +12,8 @@
 namespace {
 
 using namespace tessaly::logger;
+using tessaly::logger::internal::LogAppender;
+using tessaly::logger::internal::LogSender;
 
 TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
 {
@@ -40,10 +42,10 @@ TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
     for (const std::string& line : test::readLines(path))
         logged += line.substr(27, 5) + line.substr(line.find(" [mainwindow] ") + 13) + ", ";
     EXPECT_EQ(logged, "TRACE File logger was started., DEBUG heard, INFRM fine, ERROR on again, ");
-    EXPECT_EQ(internal::LogSender<char>::instance()->level(), 0U);
+    EXPECT_EQ(LogSender<char>::instance()->level(), 0U);
 }
 
-struct Messages final : internal::LogAppender<char>
+struct Messages final : LogAppender<char>
 {
     void append(std::int64_t, std::uint32_t, std::uint32_t, std::uint32_t, std::string_view,
                 std::string_view message, std::uint32_t) override
@@ -64,7 +66,7 @@ TEST(FileLogging, TellsWhyThereIsNoLogFile)
     nowhere.setLogFileUsed(false);
     EXPECT_EQ(nowhere.problem(), "");
 
-    auto& sender = *internal::LogSender<char>::instance();
+    auto& sender = *LogSender<char>::instance();
     sender.setLevel(Trace);
     FileLogging logging(folder / "log",
                         [](tessaly::ResultCode result) { return "number " + std::to_string(result.code); });
