@@ -7,10 +7,21 @@ import subprocess
 import sys
 import threading
 import time
+import uuid
 
 CONFIGURE = ["-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0", "-DQUILLET_WERROR=OFF",
              "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld", "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
 NOT_RUN = {"house.mutations"}  # it would notice every fault
+
+
+def kill_all_of(run):
+    """Kills what a failed test has left running, in sessions of its own, too."""
+    for environment in pathlib.Path("/proc").glob("[0-9]*/environ"):
+        try:
+            if f"MUTATE_RUN={run}".encode() in environment.read_bytes().split(b"\0"):
+                os.kill(int(environment.parent.name), signal.SIGKILL)
+        except OSError:
+            pass  # it has ended, or is another user's
 
 
 class Test:
@@ -25,12 +36,13 @@ class Test:
 
     def passes(self, base_environment, give_up):
         """Whether it passes in many times its time; None when give_up was set first."""
-        limit = 60 + 20 * self.seconds if self.seconds is not None else 600
+        limit = 20 + 20 * self.seconds if self.seconds is not None else 600
         self.ended = True
         end = time.monotonic() + limit
-        process = subprocess.Popen(self.command, cwd=self.folder, env=base_environment | self.environment,
-                                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                   start_new_session=True)
+        run = uuid.uuid4().hex
+        environment = base_environment | self.environment | {"MUTATE_RUN": run}
+        process = subprocess.Popen(self.command, cwd=self.folder, env=environment, start_new_session=True,
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
             while True:
                 try:
@@ -43,10 +55,12 @@ class Test:
                         return False
         finally:
             try:
-                os.killpg(process.pid, signal.SIGKILL)  # what a test left running
+                os.killpg(process.pid, signal.SIGKILL)
             except ProcessLookupError:
                 pass
             process.wait()
+            if process.returncode:
+                kill_all_of(run)
 
 
 class Suite:
