@@ -170,7 +170,7 @@ class Prompt(Case):
                 self.assertTrue(settings[0] & termios.ICRNL and settings[3] & termios.ICANON)
 
     def test_ends_with_the_echo_back(self):
-        for end, code in ((b"\x03", 130), (b"\x1c", -signal.SIGQUIT), (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
+        for end, code in ((b"\x03", 130), (b"\x04", 2), (b"\x1c", -signal.SIGQUIT), (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
             with self.subTest(end):
                 self.start()
                 os.write(self.terminal, end) if isinstance(end, bytes) else os.kill(self.job, end)
@@ -207,6 +207,15 @@ class Interrupt(Case):
             running.send_signal(sent)
             self.assertEqual((running.wait(60), running.communicate()[1]), expected)
             self.assertEqual(sorted(os.listdir()), ["large", "plain", "pw"])
+
+    def test_ends_the_search_for_the_algorithm(self):
+        subprocess.run([*ENCRYPT, "--seal", "-q", "plain"], check=True)
+        os.remove("plain")
+        running = subprocess.Popen([CLI, "decrypt", "--password-file", "pw", "plain.enc"], stderr=subprocess.PIPE)
+        self.wait_until_busy(running)  # with the password's key
+        running.send_signal(signal.SIGINT)
+        self.assertEqual((running.wait(60), running.communicate()[1]), (130, b"quillet-cli: interrupted\n"))
+        self.assertEqual(sorted(os.listdir()), ["large", "plain.enc", "pw"])
 
     def test_at_standard_input_unless_it_was_ignored(self):
         for sent, expected in ((signal.SIGTERM, (130, b"quillet-cli: interrupted\n")), (signal.SIGHUP, (0, b""))):

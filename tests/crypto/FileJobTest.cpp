@@ -64,10 +64,15 @@ TEST_F(FileJob, TheSecretGoesAsSoonAsItCan)
         EXPECT_TRUE(seen.starts_with("sp") && seen.ends_with('w')) << seen;
         expectWiped(used);
     }
+    // However short the work is, the secret is gone while the disk is waited for.
+    FileJobRequest quick = request("encrypted", "plain3");
+    watch.onCall = [&](char call) { EXPECT_EQ(quick.password.empty(), call != 's') << call; };
+    EXPECT_TRUE(run(*job->decryptor, quick).done());
     watch = {};
     password = "wrong";
-    FileJobRequest used = request("encrypted", "plain3");
-    EXPECT_FALSE(run(*job->decryptor, used).done());
+    FileJobRequest used = request("encrypted", "plain4");
+    const FileJobOutcome outcome = run(*job->decryptor, used);
+    EXPECT_FALSE(outcome.done() || outcome.failedAtOutput());
     expectWiped(used);
 }
 

@@ -1,5 +1,6 @@
 #include "crypto/key/KeyMaterial.h"
 #include "crypto/Engine.h"
+#include "crypto/key/Hash.h"
 #include "crypto/key/RandomBytes.h"
 #include "support/DataRows.h"
 
@@ -29,6 +30,9 @@ TEST(KeyMaterial, FailsWithoutAKey)
     for (const std::uint32_t hashId : {0U, 2U, 24U, 1U}) {
         key = {1, 2, 3};
         EXPECT_EQ(deriveKey(key, 32, hashId, "password"), CryptoResult(err::UnknownHash));
+        EXPECT_TRUE(key.empty());
+        key = {1, 2, 3};
+        EXPECT_EQ(tessaly::crypto::hash(hashId, "password", 8, key), CryptoResult(err::UnknownHash));
         EXPECT_TRUE(key.empty());
     }
     EXPECT_EQ(deriveKey(key, 32, 21, nullptr), CryptoResult(err::NullArgument));

@@ -93,6 +93,10 @@ TEST_F(SealedJob, TheSaltMakesEqualFilesDifferAndAnEmptyOneIsSealedToo)
     EXPECT_EQ(fs::file_size(folder / "one"), sealedSize(0));
     EXPECT_TRUE(decrypt("one", "out").done());
     EXPECT_EQ(watch.calls, "sdsw");
+
+    byPassword = false;
+    job->iv.push_back(0);
+    EXPECT_EQ(encrypt("plain", "none").result, CryptoResult(err::IvLengthDiffers));
 }
 
 /// Whatever is changed or cut, nothing of the output is left.

@@ -171,6 +171,13 @@ TEST_F(QueueTest, TakesAPathAsTheSystemDoes)
     EXPECT_EQ(states(), Lines({"x: Done", "o: Done"}));
     EXPECT_EQ(detail("resultMessage"), "") << "there is more than one folder";
     EXPECT_TRUE(exists("A/x.enc") && !exists("B/x.enc"));
+
+    // The folder that is opened is one in which something was made.
+    fs::remove(folder / "o.enc");
+    EXPECT_EQ(encryptAll({"A/x", "o"}), "1 of 2 files encrypted, 1 skipped");
+    const UrlRecorder opened;
+    QTest::keyClick(&link("resultMessage"), Qt::Key_Space);
+    EXPECT_EQ(opened.urls, QList<QUrl>{QUrl("file://" + path("").chopped(1))});
 }
 
 TEST_F(QueueTest, TellsWhatIsLeftOutOfARequest)
