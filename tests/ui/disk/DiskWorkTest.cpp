@@ -3,6 +3,8 @@
 #include "ui/disk/CDiskWork.h"
 
 #include <new>
+#include <optional>
+#include <thread>
 
 namespace {
 
@@ -50,6 +52,17 @@ TEST(DiskWork, AnswersWithoutAThreadAndAfterAnException)
     const auto answer = disk.start<int>([] { return 7; });
     EXPECT_TRUE(isReady(answer) && answer.get() == 7);
     EXPECT_TRUE(comesTrue([&told] { return told == 2; }));
+}
+
+TEST(DiskWork, GivesWhatIsUnderWayAMomentAtTheEnd)
+{
+    std::optional<CDiskWork> disk(std::in_place);
+    const auto answer = disk->start<int>([] {
+        std::this_thread::sleep_for(50ms);
+        return 1;
+    });
+    disk.reset();
+    EXPECT_TRUE(isReady(answer));
 }
 
 } // namespace
