@@ -233,5 +233,6 @@ class Interrupt(Case):
 
 
 if __name__ == "__main__":
-    signal.signal(signal.SIGINT, signal.default_int_handler)  # ignored below a shell that does other work meanwhile
+    for key in signal.SIGINT, signal.SIGQUIT:  # ignored below a shell that does other work meanwhile
+        signal.signal(key, signal.SIG_DFL)
     unittest.main()

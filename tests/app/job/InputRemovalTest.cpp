@@ -24,7 +24,7 @@ void replace(const std::string& path)
     fs::last_write_time(path, fs::last_write_time(path + ".old"));
 }
 
-crypto::JobFile opened(const fs::path& path)
+crypto::JobFile openedFile(const fs::path& path)
 {
     const auto place = std::make_shared<io::FilePlace>();
     EXPECT_TRUE(place->open(path).ok());
@@ -73,7 +73,7 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         {"sealed",
          [&] {
              dir.write("out", std::string(64 + 48, 'x'));
-             data.outcome.output = opened(out);
+             data.outcome.output = openedFile(out);
              data.outcome.sealed = true;
          },
          {}},
@@ -89,8 +89,8 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         dir.write("out", std::string(64, 'x'));
         data = SEncryptData();
         data.selection = DefaultAlgSelection;
-        data.outcome.input = opened(in);
-        data.outcome.output = opened(out);
+        data.outcome.input = openedFile(in);
+        data.outcome.output = openedFile(out);
         c.happens();
         const InputRemoval removal = removeInput(data);
         const bool failed = readOnly.has_value();
