@@ -10,7 +10,7 @@ using namespace tessaly;
 
 namespace {
 
-struct Text
+struct TextOfRefusal
 {
     Q_DECLARE_TR_FUNCTIONS(JobRequest)
 };
@@ -25,7 +25,7 @@ RefusalText inputRefusal(Operation operation, const RequestFacts& facts)
     case io::InputCheck::NotFound:
         return [text = operationTexts(operation).fileNotFound] { return translated(text); };
     case io::InputCheck::NotRegular:
-        return [] { return Text::tr("The input is not a regular file."); };
+        return [] { return TextOfRefusal::tr("The input is not a regular file."); };
     }
     return {};
 }
@@ -38,12 +38,12 @@ RefusalText outputRefusal(const RequestFacts& facts, const std::filesystem::path
         break;
     case io::OutputCheck::NoFolder:
         return [folder = pathText(output.parent_path())] {
-            return Text::tr("The output folder is not found: %1").arg(folder);
+            return TextOfRefusal::tr("The output folder is not found: %1").arg(folder);
         };
     case io::OutputCheck::MatchesInput:
-        return [] { return Text::tr("Output file name matches the name of the input file"); };
+        return [] { return TextOfRefusal::tr("Output file name matches the name of the input file"); };
     case io::OutputCheck::NotRegular:
-        return [] { return Text::tr("The output is not a regular file."); };
+        return [] { return TextOfRefusal::tr("The output is not a regular file."); };
     }
     return {};
 }
@@ -52,7 +52,9 @@ RefusalText existingRefusal(const RequestFacts& facts, bool rewriteOutput)
 {
     if (facts.outputCheck == io::OutputCheck::Free || rewriteOutput)
         return {};
-    return [] { return Text::tr("Output file already exists! A 'not rewrite' option has been selected."); };
+    return [] {
+        return TextOfRefusal::tr("Output file already exists! A 'not rewrite' option has been selected.");
+    };
 }
 
 } // namespace thisapp

@@ -16,7 +16,7 @@ using namespace tessaly;
 
 namespace {
 
-struct Text
+struct RemovalText
 {
     Q_DECLARE_TR_FUNCTIONS(InputRemoval)
 };
@@ -78,15 +78,15 @@ QString keptText(KeepReason reason)
     case KeepReason::NotEncrypted:
         break;
     case KeepReason::SymbolicLink:
-        return Text::tr("The input file has been kept: it is a symbolic link.");
+        return RemovalText::tr("The input file has been kept: it is a symbolic link.");
     case KeepReason::HardLinks:
-        return Text::tr("The input file has been kept: it has another name (hard link).");
+        return RemovalText::tr("The input file has been kept: it has another name (hard link).");
     case KeepReason::Changed:
-        return Text::tr("The input file has been kept: it has changed since it was encrypted.");
+        return RemovalText::tr("The input file has been kept: it has changed since it was encrypted.");
     case KeepReason::OutputDiffers:
-        return Text::tr("The input file has been kept: the output file is not what was written.");
+        return RemovalText::tr("The input file has been kept: the output file is not what was written.");
     }
-    return Text::tr("The input file has been kept.");
+    return RemovalText::tr("The input file has been kept.");
 }
 
 } // namespace thisapp

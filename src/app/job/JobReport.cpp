@@ -22,7 +22,7 @@ namespace {
 
 constexpr char LogSource[] = "mainwindow";
 
-struct Text
+struct ReportText
 {
     Q_DECLARE_TR_FUNCTIONS(JobReport)
 };
@@ -48,8 +48,8 @@ QString successText(const OperationTexts& texts, Operation operation, bool seale
     if (!sealed)
         return translated(texts.succeeded);
     //: Follows "File was encrypted successfully. " or "File was decrypted successfully. "
-    const QString seal = operation == Operation::Encrypt ? Text::tr("It is sealed.")
-                                                         : Text::tr("It was sealed and is unchanged.");
+    const QString seal = operation == Operation::Encrypt ? ReportText::tr("It is sealed.")
+                                                         : ReportText::tr("It was sealed and is unchanged.");
     return translated(texts.succeeded) + QStringLiteral(". ") + seal;
 }
 
@@ -65,13 +65,14 @@ QString advice(const ResultCode& failure, bool passwordMode)
 {
     // The check value can't tell these causes apart, so name them all.
     if (failure == err::library(err::CheckValueDiffers))
-        return passwordMode ? Text::tr("Check the password and the algorithm.")
-                            : Text::tr("Check the key, the IV and the algorithm.");
+        return passwordMode ? ReportText::tr("Check the password and the algorithm.")
+                            : ReportText::tr("Check the key, the IV and the algorithm.");
     // The beginning of the file was as it should be.
     if (failure == err::library(err::SealBroken))
         return passwordMode
-                   ? Text::tr("The password and the algorithm are right. Try another copy of the file.")
-                   : Text::tr("The key, the IV and the algorithm are right. Try another copy of the file.");
+                   ? ReportText::tr("The password and the algorithm are right. Try another copy of the file.")
+                   : ReportText::tr(
+                         "The key, the IV and the algorithm are right. Try another copy of the file.");
     return {};
 }
 
@@ -133,7 +134,7 @@ void reportOutcome(const SEncryptData& data, IMessageAreas& areas, std::function
 
 QString openFolderText()
 {
-    return Text::tr("Open folder");
+    return ReportText::tr("Open folder");
 }
 
 bool hasLostFormerOutput(const SEncryptData& data)
@@ -143,7 +144,7 @@ bool hasLostFormerOutput(const SEncryptData& data)
 
 QString lostOutputText()
 {
-    return Text::tr("Output file has been deleted.");
+    return ReportText::tr("Output file has been deleted.");
 }
 
 QString algorithmName(std::uint32_t id)
@@ -153,7 +154,7 @@ QString algorithmName(std::uint32_t id)
 
 QString fittingAlgorithmText(std::uint32_t id)
 {
-    return Text::tr("This file was encrypted with %1.").arg(algorithmName(id));
+    return ReportText::tr("This file was encrypted with %1.").arg(algorithmName(id));
 }
 
 QString failureText(const SEncryptData& data)
@@ -179,9 +180,9 @@ QString removalText(const InputRemoval& removal)
         return keptText(*removal.kept);
     const QString failure = removal.error.ok() ? QString() : ' ' + errorText(removal.error);
     if (!removal.removed)
-        return Text::tr("The input file could not be deleted.") + failure;
-    return Text::tr("Input file has been deleted after the successfully encryption "
-                    "according to your options") +
+        return ReportText::tr("The input file could not be deleted.") + failure;
+    return ReportText::tr("Input file has been deleted after the successfully encryption "
+                          "according to your options") +
            (failure.isEmpty() ? failure : '.' + failure);
 }
 

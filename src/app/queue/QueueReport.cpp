@@ -12,7 +12,7 @@ namespace thisapp {
 
 namespace {
 
-struct Text
+struct QueueText
 {
     Q_DECLARE_TR_FUNCTIONS(FileQueue)
 };
@@ -20,15 +20,16 @@ struct Text
 QString summary(Operation operation, FileQueue::Count count, std::size_t all, bool isStopped)
 {
     const auto total = static_cast<int>(all);
-    const QString done = operation == Operation::Encrypt ? Text::tr("%1 of %Ln files encrypted", "", total)
-                                                         : Text::tr("%1 of %Ln files decrypted", "", total);
+    const QString done = operation == Operation::Encrypt
+                             ? QueueText::tr("%1 of %Ln files encrypted", "", total)
+                             : QueueText::tr("%1 of %Ln files decrypted", "", total);
     QStringList parts{done.arg(QLocale().toString(static_cast<int>(count.done)))};
     if (const auto failed = static_cast<int>(count.failed))
-        parts += Text::tr("%Ln failed", "after \"9 of 11 files encrypted\"", failed);
+        parts += QueueText::tr("%Ln failed", "after \"9 of 11 files encrypted\"", failed);
     if (const auto skipped = static_cast<int>(count.skipped))
-        parts += Text::tr("%Ln skipped", "after \"9 of 11 files encrypted\"", skipped);
+        parts += QueueText::tr("%Ln skipped", "after \"9 of 11 files encrypted\"", skipped);
     const QString text = parts.join(QStringLiteral(", "));
-    return isStopped ? Text::tr("Stopped: %1").arg(text) : text;
+    return isStopped ? QueueText::tr("Stopped: %1").arg(text) : text;
 }
 
 /// Of the outputs; empty when they stand in more than one.
@@ -61,29 +62,31 @@ Message leftOutMessage(const QueueLook& look)
     return {MessageKind::Warning, [isFolder = look.isFolderLeftOut, missing = look.missing] {
                 QStringList sentences;
                 if (isFolder)
-                    sentences += Text::tr("Folders and devices are left out: only files can be encrypted or "
-                                          "decrypted.");
+                    sentences +=
+                        QueueText::tr("Folders and devices are left out: only files can be encrypted or "
+                                      "decrypted.");
                 if (missing.size() == 1)
-                    sentences += Text::tr("\"%1\" is not found.").arg(missing.front());
+                    sentences += QueueText::tr("\"%1\" is not found.").arg(missing.front());
                 else if (!missing.isEmpty())
                     sentences +=
-                        Text::tr("Not found, and left out: %1").arg(missing.join(QStringLiteral(", ")));
+                        QueueText::tr("Not found, and left out: %1").arg(missing.join(QStringLiteral(", ")));
                 return sentences.join(QLatin1Char(' '));
             }};
 }
 
 Message removalMessage(std::size_t removed, std::size_t kept)
 {
-    return {kept > 0 ? MessageKind::Warning : MessageKind::Success, [removed, kept] {
-                QString text =
-                    Text::tr("Input files deleted after their encryption, according to your options: %1.")
-                        .arg(QLocale().toString(static_cast<int>(removed)));
-                if (kept > 0)
-                    text +=
-                        QLatin1Char(' ') +
-                        Text::tr("Kept: %1, see the list.").arg(QLocale().toString(static_cast<int>(kept)));
-                return text;
-            }};
+    return {
+        kept > 0 ? MessageKind::Warning : MessageKind::Success, [removed, kept] {
+            QString text =
+                QueueText::tr("Input files deleted after their encryption, according to your options: %1.")
+                    .arg(QLocale().toString(static_cast<int>(removed)));
+            if (kept > 0)
+                text +=
+                    QLatin1Char(' ') +
+                    QueueText::tr("Kept: %1, see the list.").arg(QLocale().toString(static_cast<int>(kept)));
+            return text;
+        }};
 }
 
 } // namespace thisapp

@@ -11,7 +11,7 @@ using namespace tessaly;
 
 namespace {
 
-struct Text
+struct DropText
 {
     Q_DECLARE_TR_FUNCTIONS(DroppedFile)
 };
@@ -19,14 +19,14 @@ struct Text
 QString problemText(const DroppedFile& drop, io::InputCheck check)
 {
     if (drop.path.isEmpty())
-        return Text::tr("Only a file on this computer can be dropped here.");
+        return DropText::tr("Only a file on this computer can be dropped here.");
     switch (check) {
     case io::InputCheck::Usable:
         break;
     case io::InputCheck::NotFound:
-        return Text::tr("The dropped file is not found.");
+        return DropText::tr("The dropped file is not found.");
     case io::InputCheck::NotRegular:
-        return Text::tr("Only a single file can be encrypted or decrypted, not a folder or a device.");
+        return DropText::tr("Only a single file can be encrypted or decrypted, not a folder or a device.");
     }
     return {};
 }
@@ -50,7 +50,7 @@ Message dropMessage(const DroppedFile& drop, io::InputCheck check)
     return {MessageKind::Warning, [drop, check] {
                 QStringList sentences{problemText(drop, check)};
                 if (drop.othersLeft)
-                    sentences += Text::tr("Only one of the dropped files was taken.");
+                    sentences += DropText::tr("Only one of the dropped files was taken.");
                 sentences.removeAll(QString());
                 return sentences.join(' ');
             }};

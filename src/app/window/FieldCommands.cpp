@@ -15,7 +15,7 @@ namespace thisapp {
 
 namespace {
 
-struct Text
+struct WindowText
 {
     Q_DECLARE_TR_FUNCTIONS(CMainWindow)
 };
@@ -40,8 +40,8 @@ FieldCommands::FieldCommands(CJobFrame& form, CInputField& input, CDiskWork& dis
 
 void FieldCommands::onUiAddFileItem()
 {
-    const QStringList chosen =
-        askFilesToOpen(m_form.window(), m_disk, Text::tr("Add file to encrypt/decrypt"), m_form.inputText());
+    const QStringList chosen = askFilesToOpen(
+        m_form.window(), m_disk, WindowText::tr("Add file to encrypt/decrypt"), m_form.inputText());
     if (chosen.size() == 1 && !m_form.isQueueShown())
         m_input.set(QDir::toNativeSeparators(chosen.front()));
     else if (!chosen.isEmpty())
@@ -51,7 +51,7 @@ void FieldCommands::onUiAddFileItem()
 void FieldCommands::onUiBrowseOutput()
 {
     const QString near = m_form.outputText().isEmpty() ? m_form.inputText() : m_form.outputText();
-    const QString chosen = askFileToSave(m_form.window(), m_disk, Text::tr("Define output file"), near);
+    const QString chosen = askFileToSave(m_form.window(), m_disk, WindowText::tr("Define output file"), near);
     if (!chosen.isEmpty())
         m_form.setOutputText(QDir::toNativeSeparators(chosen));
 }

@@ -12,7 +12,7 @@ namespace thisapp {
 
 namespace {
 
-struct Text
+struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(FileDialogs)
 };
@@ -20,7 +20,7 @@ struct Text
 /// Shown without its last part, which is what counts: "*.*" would hide names without a dot.
 QString allFiles()
 {
-    return Text::tr("All files") + QStringLiteral(" (*.*)") + QStringLiteral(" (*)");
+    return DialogText::tr("All files") + QStringLiteral(" (*.*)") + QStringLiteral(" (*)");
 }
 
 /// The path of a chosen file that may come as a URL.

@@ -18,7 +18,7 @@ using namespace tessaly;
 
 namespace {
 
-struct Text
+struct OfferText
 {
     Q_DECLARE_TR_FUNCTIONS(InputRemoval)
 };
@@ -39,9 +39,10 @@ Look lookAt(const SEncryptData& ended)
 
 bool confirm(QWidget& window, const QString& inputPath)
 {
-    const QString text = Text::tr("Are you sure you want to delete the input file after encryption?") + '\n' +
-                         Text::tr("File") + QStringLiteral(": '") + inputPath + QStringLiteral("'\n");
-    QMessageBox box(QMessageBox::Question, Text::tr("Deleting the input file"), text,
+    const QString text = OfferText::tr("Are you sure you want to delete the input file after encryption?") +
+                         '\n' + OfferText::tr("File") + QStringLiteral(": '") + inputPath +
+                         QStringLiteral("'\n");
+    QMessageBox box(QMessageBox::Question, OfferText::tr("Deleting the input file"), text,
                     QMessageBox::Yes | QMessageBox::No, &window);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);

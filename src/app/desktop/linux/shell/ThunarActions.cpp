@@ -20,7 +20,7 @@ namespace thisapp::desktop {
 
 namespace {
 
-constexpr qint64 MaxSize = 1 << 20; ///< bytes; the user may have many actions
+constexpr qint64 MostOfActions = 1 << 20; ///< bytes; the user may have many actions
 const QLatin1String FileName("/Thunar/uca.xml");
 const QLatin1String IdKey("unique-id");
 
@@ -149,7 +149,7 @@ QString merged(QString xml, const Document& document, const std::vector<Facts>& 
 std::optional<QString> readText(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > MaxSize)
+    if (!file.open(QIODevice::ReadOnly) || file.size() > MostOfActions)
         return std::nullopt;
     const QByteArray bytes = file.readAll();
     const QString text = QString::fromUtf8(bytes);
