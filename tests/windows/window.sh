@@ -20,6 +20,7 @@ menu="$software\\Classes\\*\\shell\\Quillet"
 fail() { echo "$1" >&2; exit 1; }
 wine() { "$here/../../packaging/windows/wine.sh" "$@"; }
 value() { wine reg query "$1" ${3:-/v} ${2:+"$2"} | tr -d '\r' | sed -nE 's/^ +.* +REG_[A-Z]+ +//p'; }
+windows_path() { wine winepath -w "$1" | tr -d '\r'; }
 is_gone() { ! wine reg query "$1" >/dev/null 2>&1; }
 picture() { [ -z "$pictures" ] || { mkdir -p "$pictures"; sleep 1; import -window root "$pictures/$1.png"; }; }
 
@@ -53,7 +54,9 @@ answer() {
   wait_until test -e "$2"
   picture "done-$1"
   focus 'Quillet$'
-  xdotool key ctrl+q
+  xdotool key alt+f
+  sleep 1
+  xdotool key q
   wait "$pid" || fail "the program ended with $?"
 }
 
@@ -66,12 +69,13 @@ done
   fail "not in the list of programs"
 
 head -c 3000000 /dev/urandom >"$scratch/in"
-wine "$folder/quillet.exe" /encrypt /start /ifile "$scratch/in" /ofile "$scratch/out" /algorithm Serpent-256 &
+wine "$folder/quillet.exe" /encrypt /start /ifile "$(windows_path "$scratch/in")" \
+  /ofile "$(windows_path "$scratch/out.enc")" &
 pid=$!
-answer encrypt "$scratch/out"
-[ "$(stat -c %s "$scratch/out")" = 3000064 ] || fail "the encrypted file has the wrong size"
+answer encrypt "$scratch/out.enc"
+[ "$(stat -c %s "$scratch/out.enc")" = 3000064 ] || fail "the encrypted file has the wrong size"
 
-program=$(wine winepath -w "$folder/quillet.exe" | tr -d '\r')
+program=$(windows_path "$folder/quillet.exe")
 for entry in "1encrypt|\"$program\" /encrypt /start /ifile \"%L\"" "2decrypt|\"$program\" /decrypt /start /ifile \"%L\"" \
   "3open|\"$program\" /ifile \"%L\""; do
   found=$(value "$menu\\shell\\${entry%%|*}\\command" '' /ve)
@@ -83,11 +87,13 @@ grep -qa Quillet "$link" || fail "no entry in the send-to menu"
 wine reg query "$software\\Tessaly\\Quillet" | tr -d '\r' >"$scratch/settings"
 grep -q MainWindowGeometry "$scratch/settings" || fail "the window's place is not among the settings"
 
-eval "set -- $(value "$menu\\shell\\2decrypt\\command" '' /ve | sed -e 's/\\/\\\\/g' -e 's|%L|'"$scratch"'/out|')"
+command=$(value "$menu\\shell\\2decrypt\\command" '' /ve)
+command=${command//'%L'/"$(windows_path "$scratch/out.enc")"}
+eval "set -- ${command//\\/\\\\}"
 wine "$@" &
 pid=$!
-answer decrypt "$scratch/out.dec"
-cmp "$scratch/in" "$scratch/out.dec" || fail "the file has changed on its way"
+answer decrypt "$scratch/out"
+cmp "$scratch/in" "$scratch/out" || fail "the file has changed on its way"
 
 [ -z "$pictures" ] || { wine reg query "$menu" /s; cat "$scratch/settings"; } >"$pictures/registry.txt"
 wine "$folder/uninstall.exe" /S
