@@ -92,8 +92,8 @@ command=${command//'%L'/"$(windows_path "$scratch/out.enc")"}
 eval "set -- ${command//\\/\\\\}"
 wine "$@" &
 pid=$!
-answer decrypt "$scratch/out"
-cmp "$scratch/in" "$scratch/out" || fail "the file has changed on its way"
+answer decrypt "$scratch/out.dec"
+cmp "$scratch/in" "$scratch/out.dec" || fail "the file has changed on its way"
 
 [ -z "$pictures" ] || { wine reg query "$menu" /s; cat "$scratch/settings"; } >"$pictures/registry.txt"
 wine "$folder/uninstall.exe" /S
