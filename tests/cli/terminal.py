@@ -170,7 +170,8 @@ class Prompt(Case):
                 self.assertTrue(settings[0] & termios.ICRNL and settings[3] & termios.ICANON)
 
     def test_ends_with_the_echo_back(self):
-        for end, code in ((b"\x03", 130), (b"\x04", 2), (b"\x1c", -signal.SIGQUIT), (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
+        for end, code in ((b"\x03", 130), (b"\x04", 2), (b"\x1c", -signal.SIGQUIT),
+                          (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
             with self.subTest(end):
                 self.start()
                 os.write(self.terminal, end) if isinstance(end, bytes) else os.kill(self.job, end)
