@@ -1,7 +1,7 @@
 # quillet_layer(NAME SOURCES ... HEADERS ... LINK ...)
 # One static library per layer: quillet_NAME. Every header compiles on its own: its source includes it
-# first (house.layers; `release` precompiles none), and those without a source are a file set that the
-# target all_verify_interface_header_sets compiles one by one.
+# first (house.layers), and those without a source are a file set that the target
+# all_verify_interface_header_sets compiles one by one.
 function(quillet_layer name)
   cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;LINK" ${ARGN})
   set(alone ${ARG_HEADERS})
