@@ -34,6 +34,8 @@ TEST(CErrMsg, KnowsItsTextsAndNoOthers)
     EXPECT_EQ(text, "No such file or directory");
     EXPECT_FALSE(messages.lookup(1, 99999, text));
     EXPECT_FALSE(messages.lookup(0, 0, text));
+    EXPECT_EQ(thisapp::errorText({err::ReadStreamFailed, err::system(EIO)}),
+              "Reading data stream failed (error: 1/5)");
 }
 
 class Shouting final : public QTranslator
@@ -59,12 +61,6 @@ TEST(CErrMsg, TranslatesTheProgramsOwnTextsAlone)
     EXPECT_EQ(text, "FILE NOT FOUND");
     EXPECT_TRUE(thisapp::CErrMsg().lookup(1, ENOENT, text));
     EXPECT_EQ(text, "No such file or directory");
-}
-
-TEST(CErrMsg, AnErrorLineHasTheTextOfTheFirstAndTheCodeOfTheLast)
-{
-    EXPECT_EQ(thisapp::errorText({err::ReadStreamFailed, err::system(EIO)}),
-              "Reading data stream failed (error: 1/5)");
 }
 
 TEST(JobStepText, TellsTheStepAndTheFile)

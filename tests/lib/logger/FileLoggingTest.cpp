@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 namespace {
 
 using namespace tessaly::logger;
@@ -89,18 +87,6 @@ TEST(FileLogging, TellsWhyThereIsNoLogFile)
     logging.setLogFileUsed(true);
     EXPECT_TRUE(logging.isLogFileUsed());
     EXPECT_EQ(logging.problem(), "");
-}
-
-TEST(FileLogging, HasNoDefaultPathWithoutAHome)
-{
-    constexpr uid_t Nobody = 54321; // without an entry among the users, where the test may change to it
-    const auto pathOfNobody = [] {
-        ::unsetenv("XDG_STATE_HOME");
-        ::unsetenv("HOME");
-        const bool changed = ::setuid(Nobody) == 0;
-        std::_Exit(!changed || FileLogging::defaultPath().empty() ? 0 : 1);
-    };
-    EXPECT_EXIT(pathOfNobody(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace
