@@ -1,5 +1,6 @@
 #include "lib/logger/FileLogging.h"
 #include "lib/logger/Log.h"
+#include "lib/logger/LogAppenderUtf8File.h"
 #include "support/Environment.h"
 #include "support/Eventually.h"
 #include "support/NewThreads.h"
@@ -10,7 +11,6 @@
 namespace {
 
 using namespace tessaly::logger;
-using tessaly::logger::internal::LogAppender;
 using tessaly::logger::internal::LogSender;
 
 TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
@@ -43,17 +43,6 @@ TEST(FileLogging, SwitchesLevelAndFileWhileRunning)
     EXPECT_EQ(LogSender<char>::instance()->level(), 0U);
 }
 
-struct Messages final : LogAppender<char>
-{
-    void append(std::int64_t, std::uint32_t, std::uint32_t, std::uint32_t, std::string_view,
-                std::string_view message, std::uint32_t) override
-    {
-        text += message;
-    }
-
-    std::string text;
-};
-
 TEST(FileLogging, TellsWhyThereIsNoLogFile)
 {
     const test::TempFolder folder;
@@ -70,15 +59,16 @@ TEST(FileLogging, TellsWhyThereIsNoLogFile)
                         [](tessaly::ResultCode result) { return "number " + std::to_string(result.code); });
     EXPECT_EQ(sender.level(), 0U) << "nothing is logged until somebody wants it";
     logging.setLevel(Error);
-    const auto elsewhere = std::make_shared<Messages>();
-    EXPECT_TRUE(sender.appenders().add(7, elsewhere).ok());
+    const auto elsewhere = std::make_shared<LogAppenderUtf8File>(7, folder / "elsewhere");
+    EXPECT_TRUE(elsewhere->start().ok() && sender.appenders().add(7, elsewhere).ok());
     {
         const test::NewThreads none([] { return false; });
         logging.setLogFileUsed(true);
     }
     EXPECT_FALSE(logging.isLogFileUsed());
     EXPECT_EQ(logging.problem(), "Failed to start file logger. Error: number 303");
-    EXPECT_EQ(elsewhere->text, logging.problem());
+    EXPECT_TRUE(test::eventually(
+        [&] { return test::readFile(folder / "elsewhere").ends_with("] " + logging.problem() + '\n'); }));
     EXPECT_TRUE(sender.appenders().add(1, elsewhere).ok());
     logging.setLogFileUsed(true);
     EXPECT_EQ(logging.problem(), "Failed to add file logger. Error: number 8");
