@@ -38,24 +38,21 @@ TEST(CErrMsg, KnowsItsTextsAndNoOthers)
               "Reading data stream failed (error: 1/5)");
 }
 
-class Shouting final : public QTranslator
-{
-public:
-    QString translate(const char*, const char* text, const char*, int) const override
-    {
-        return QString(text).toUpper();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 TEST(CErrMsg, TranslatesTheProgramsOwnTextsAlone)
 {
+    struct : QTranslator
+    {
+        QString translate(const char*, const char* text, const char*, int) const override
+        {
+            return QString(text).toUpper();
+        }
+        bool isEmpty() const override { return false; }
+    } shouting;
     int count = 1;
     char name[] = "test";
     char* arguments[] = {name, nullptr};
     const QCoreApplication application(count, arguments);
-    Shouting translator;
-    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    ASSERT_TRUE(QCoreApplication::installTranslator(&shouting));
     std::string text;
     EXPECT_TRUE(thisapp::CErrMsg().lookup(5, 41, text));
     EXPECT_EQ(text, "FILE NOT FOUND");
