@@ -37,12 +37,12 @@ inline std::pair<std::string, std::string> halves(const std::string& text)
     return {text.substr(0, bar), text.substr(bar + 1)};
 }
 
-/// What is done, with a text or without, and what comes of it, a text or nothing.
+/// A function that is given a text, or nothing, and gives one, or nothing.
 class Step
 {
 public:
     template <class Function>
-    Step(Function function) // NOLINT(google-explicit-constructor): a list of steps holds functions
+    Step(Function function)
         : m_run([function](const std::string& text) -> std::string {
               const auto call = [&] {
                   if constexpr (std::is_invocable_v<const Function&, const std::string&>)
