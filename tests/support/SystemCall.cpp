@@ -1,8 +1,10 @@
 #include "support/SystemCall.h"
 
+#include "lib/err/ErrorCodes.h"
 #include "support/NextFunction.h"
 
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <sys/stat.h>
 
@@ -31,6 +33,23 @@ int SystemCall::noted(int handle)
 {
     flushed.push_back(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(handle)));
     return handle;
+}
+
+int SystemCall::way(const std::string& name)
+{
+    for (int number = 1; number < 134; ++number)
+        if (const char* known = ::strerrorname_np(number); known && name == known)
+            return number;
+    return name == "short" ? Short : name == "nothing" ? Nothing : Works;
+}
+
+std::string told(tessaly::ResultCode result)
+{
+    if (result.ok())
+        return "ok";
+    return result.category == tessaly::err::CategorySystem
+               ? ::strerrorname_np(static_cast<int>(result.code))
+               : std::to_string(result.category) + '/' + std::to_string(result.code);
 }
 
 } // namespace test

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lib/err/ResultCode.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <functional>
@@ -21,8 +23,8 @@ public:
     static constexpr int Short = -1;   ///< one byte is read or written
     static constexpr int Nothing = -2; ///< 0 comes back
 
-    SystemCall(std::string_view name, int how, int at = 1, std::function<void()> before = {})
-        : m_name(name), m_how(how), m_at(at), m_before(std::move(before))
+    SystemCall(std::string name, int how, int at = 1, std::function<void()> before = {})
+        : m_name(std::move(name)), m_how(how), m_at(at), m_before(std::move(before))
     {
         active.push_back(this);
     }
@@ -31,6 +33,9 @@ public:
     SystemCall& operator=(const SystemCall&) = delete;
 
     bool happened() const { return m_at <= 0; }
+
+    /// The way that is called "works", "short" or "nothing", or like an error ("EIO").
+    static int way(const std::string& name);
 
     /// What comes back instead of the result of the call that is made now.
     static std::optional<int> instead(std::string_view name);
@@ -43,10 +48,13 @@ private:
     static thread_local std::vector<SystemCall*> active;
     static thread_local bool isShort;
 
-    std::string_view m_name;
+    std::string m_name;
     int m_how;
     int m_at;
     std::function<void()> m_before;
 };
+
+/// The name of a system error, "5/" and the number of one of the library's, "ok".
+std::string told(tessaly::ResultCode result);
 
 } // namespace test

@@ -34,37 +34,30 @@ TEST(CErrMsg, KnowsItsTextsAndNoOthers)
     EXPECT_EQ(text, "No such file or directory");
     EXPECT_FALSE(messages.lookup(1, 99999, text));
     EXPECT_FALSE(messages.lookup(0, 0, text));
+    EXPECT_EQ(thisapp::errorText({err::ReadStreamFailed, err::system(EIO)}),
+              "Reading data stream failed (error: 1/5)");
 }
-
-class Shouting final : public QTranslator
-{
-public:
-    QString translate(const char*, const char* text, const char*, int) const override
-    {
-        return QString(text).toUpper();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 TEST(CErrMsg, TranslatesTheProgramsOwnTextsAlone)
 {
+    struct : QTranslator
+    {
+        QString translate(const char*, const char* text, const char*, int) const override
+        {
+            return QString(text).toUpper();
+        }
+        bool isEmpty() const override { return false; }
+    } shouting;
     int count = 1;
     char name[] = "test";
     char* arguments[] = {name, nullptr};
     const QCoreApplication application(count, arguments);
-    Shouting translator;
-    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    ASSERT_TRUE(QCoreApplication::installTranslator(&shouting));
     std::string text;
     EXPECT_TRUE(thisapp::CErrMsg().lookup(5, 41, text));
     EXPECT_EQ(text, "FILE NOT FOUND");
     EXPECT_TRUE(thisapp::CErrMsg().lookup(1, ENOENT, text));
     EXPECT_EQ(text, "No such file or directory");
-}
-
-TEST(CErrMsg, AnErrorLineHasTheTextOfTheFirstAndTheCodeOfTheLast)
-{
-    EXPECT_EQ(thisapp::errorText({err::ReadStreamFailed, err::system(EIO)}),
-              "Reading data stream failed (error: 1/5)");
 }
 
 TEST(JobStepText, TellsTheStepAndTheFile)

@@ -1,10 +1,9 @@
 #include "io/OutputFile.h"
-#include "lib/err/ErrorCodes.h"
+#include "support/DataRows.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <windows.h>
 
 namespace {
@@ -41,31 +40,18 @@ protected:
 
 TEST_P(OutputFileTest, AppearsWholeOrNotAtAll)
 {
-    const struct
-    {
-        const char* name;
-        const char* former; ///< null for none
-        Existing existing;
-        bool isWanted;
-        ResultCode result;
-        const char* left;
-    } rows[] = {
-        {"new", nullptr, Existing::Keep, true, {}, "data"},
-        {"new, replacing", nullptr, Existing::Replace, true, {}, "data"},
-        {"not wanted", nullptr, Existing::Keep, false, err::library(err::OperationStopped), ""},
-        {"kept", "old", Existing::Keep, true, err::system(ERROR_ALREADY_EXISTS), "old"},
-        {"replaced", "old", Existing::Replace, true, {}, "data"},
-        {"old stays", "old", Existing::Replace, false, err::library(err::OperationStopped), "old"},
-    };
-    for (const auto& row : rows) {
-        if (row.former)
-            folder.write("out", row.former);
+    for (const test::Row& row : test::dataRows("outputs_windows.txt")) {
+        SCOPED_TRACE(testing::PrintToString(row));
+        if (!row.at(0).empty())
+            folder.write("out", row[0]);
         auto file = begin();
-        EXPECT_EQ(file->commit(row.existing, [&row] { return row.isWanted; }), row.result) << row.name;
+        const ResultCode result = file->commit(row.at(1) == "keep" ? Existing::Keep : Existing::Replace,
+                                               [&row] { return row[1] != "none"; });
+        EXPECT_EQ(std::to_string(result.category) + '/' + std::to_string(result.code), row.at(2));
         file.reset();
-        EXPECT_EQ(text("out"), row.left) << row.name;
-        EXPECT_EQ(hidden(), std::vector<fs::path>()) << row.name;
-        EXPECT_EQ(fs::remove(folder / "out"), *row.left != '\0') << row.name;
+        EXPECT_EQ(text("out"), row.at(3));
+        EXPECT_EQ(hidden(), std::vector<fs::path>());
+        EXPECT_EQ(fs::remove(folder / "out"), !row[3].empty());
     }
 }
 

@@ -1,7 +1,5 @@
 #include "lib/err/ErrorCodes.h"
-#include "lib/file/PropertiesFileReader.h"
 #include "lib/file/Utf8FileReader.h"
-#include "support/AppVariable.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -15,58 +13,6 @@ namespace {
 using namespace tessaly;
 using file::Utf8FileReader;
 using Lines = std::vector<std::string>;
-using Pairs = std::vector<std::pair<std::string, std::string>>;
-
-template <class... More>
-Pairs readPairs(const std::wstring& path, const More&... more)
-{
-    Pairs pairs;
-    const auto sink = [&](const auto& key, const auto& value) { pairs.emplace_back(key, value); };
-    EXPECT_TRUE(file::internal::PropertiesFileReader().read(path, sink, more...).ok());
-    return pairs;
-}
-
-TEST(PropertiesFileReader, ReadsPairs)
-{
-    const test::TempFolder folder;
-    const std::pair<const char*, Pairs> rows[] = {
-        // Separators and blanks
-        {"a=b\na:b\na b\n a\t=  b", {{"a", "b"}, {"a", "b"}, {"a", "b"}, {"a", "b"}}},
-        {"a=b  \na==b\na b=c\na", {{"a", "b  "}, {"a", "=b"}, {"a", "b=c"}, {"a", ""}}},
-        {"=b", {{"", "b"}}},
-        {"a=b\r\nc=d\r\r\n", {{"a", "b"}, {"c", "d\r"}}},
-        {"\xC3\xA4=\xC2\xA0\xC3\xB6", {{"\xC3\xA4", "\xC2\xA0\xC3\xB6"}}},
-        // Comments and empty lines
-        {"#a=b\n \t!c=d\n\n   \r\ne=#f\n", {{"e", "#f"}}},
-        // Escapes
-        {"k=line1\\nline2\\r\\t\\\\n\\u0041", {{"k", "line1\nline2\rt\\nu0041"}}},
-        {"a\\ b\\=c\\:d\\\\=e", {{"a b=c:d\\", "e"}}},
-        {"\\#a=\\ b", {{"#a", " b"}}},
-        // Continuations
-        {"a=b\\\n   c\\  \r\nd\ne=f", {{"a", "bcd"}, {"e", "f"}}},
-        {"a=b \\\n c", {{"a", "b c"}}},
-        {"a\\\n=b", {{"a", "b"}}},
-        {"a=b\\\n# still a comment\n\nc", {{"a", "bc"}}},
-        {"a=b\\\\\nc=d", {{"a", "b\\"}, {"c", "d"}}},
-        {"a=b\\\\\\\nc=d", {{"a", "b\\\\"}, {"c", "d"}}},
-        {"\\\na=b", {{"\\", ""}, {"a", "b"}}},
-        {"a=b\\\n\\\nc=d", {{"a", "b\\"}, {"c", "d"}}},
-        {"a=b\\", {{"a", "b"}}},
-    };
-    for (const auto& [text, pairs] : rows)
-        EXPECT_EQ(readPairs(folder.write("p", text)), pairs) << text;
-}
-
-TEST(PropertiesFileReader, FiltersKeysAndExpandsVariables)
-{
-    const test::TempFolder folder;
-    const auto path = folder.write("p", "a=1\nb=${app} ${no} ${x${app}} ${} } ${app\n");
-    const test::AppVariable variables;
-    const auto onlyB = [](const std::string& key) { return key == "b"; };
-    EXPECT_EQ(readPairs(path, onlyB), (Pairs{{"b", "${app} ${no} ${x${app}} ${} } ${app"}}));
-    EXPECT_EQ(readPairs(path, nullptr, &variables),
-              (Pairs{{"a", "1"}, {"b", "${app}! ${no} ${x${app}!} ${} } ${app"}}));
-}
 
 TEST(Utf8FileReader, ReadsByLinesOrWhole)
 {

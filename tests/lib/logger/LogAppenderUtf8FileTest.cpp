@@ -2,115 +2,78 @@
 #include "support/Eventually.h"
 #include "support/SystemCall.h"
 #include "support/TempFolder.h"
+#include "support/Walk.h"
 
-#include <gtest/gtest.h>
-
-#include <map>
-#include <thread>
+#include <optional>
 
 namespace {
 
+using std::string;
 using tessaly::logger::LogAppenderUtf8File;
+using tessaly::platform::LogFile;
 using test::eventually;
 namespace fs = std::filesystem;
 
-class LogAppenderUtf8FileTest : public testing::Test
-{
-protected:
-    static void append(LogAppenderUtf8File& appender, std::string_view message)
-    {
-        appender.append(0, 1, 2, 4, "s", message, 0);
-    }
-    static std::string line(const std::string& message)
-    {
-        return "[INFRM] [00001] [00002] [s] " + message + "\n";
-    }
-    /// Appends and waits until the file ends with the line.
-    void write(LogAppenderUtf8File& appender, const std::string& message) const
-    {
-        append(appender, message);
-        EXPECT_TRUE(eventually([&] { return test::readFile(path).ends_with(line(message)); })) << message;
-    }
+const string Head = "[2024.03.05 14:07:09:042] [INFRM] [00001] [00002] [s] ";
 
-    test::TempFolder folder;
-    std::string path = folder / "a/b/q.log";
-};
-
-TEST_F(LogAppenderUtf8FileTest, CreatesFolderAndFileForTheUserAlone)
+void append(LogAppenderUtf8File& appender, std::string_view message)
 {
-    LogAppenderUtf8File appender(1, path);
-    ASSERT_TRUE(appender.start().ok());
-    EXPECT_FALSE(fs::exists(folder / "a")) << "nothing before the first line";
-    appender.append(133541212290420000, 4312, 988, 4, "mainwindow", "text", 0);
-    append(appender, "two\nlines, \xFF and \u65E5\u672C");
-    write(appender, "third");
-    EXPECT_EQ(test::readFile(path), "[2024.03.05 14:07:09:042] [INFRM] [04312] [00988] [mainwindow] text\n" +
-                                        line("two\\nlines, \\xFF and \u65E5\u672C") + line("third"));
-    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
-    EXPECT_EQ(fs::status(folder / "a").permissions(), fs::perms(0700));
+    appender.append(133541212290420000, 1, 2, 4, "s", message, 0);
 }
 
-TEST_F(LogAppenderUtf8FileTest, BoundsItsQueueAndDiscardsItAtTheStop)
+/// In the table, ">" stands for the head of a line.
+TEST(LogAppenderUtf8File, WritesItsLinesWhateverBecomesOfItsFile)
 {
-    LogAppenderUtf8File appender(1, path);
-    for (int i = 1; i <= 10001; ++i)
-        append(appender, "discarded");
-    EXPECT_EQ(appender.pendingLines(), 10000U);
-    appender.stop();
-    append(appender, "dropped");
-    EXPECT_EQ(appender.pendingLines(), 0U);
-    for (const char* message : {"first", "second"}) {
-        ASSERT_TRUE(appender.start().ok());
-        write(appender, message);
-        appender.stop();
-    }
-    EXPECT_EQ(test::readFile(path), line("first") + line("second"));
+    const test::TempFolder folder;
+    std::optional<LogAppenderUtf8File> appender;
+    string path;
+    const auto create = [&](const string& name) {
+        path = folder / name;
+        appender.emplace(1, path);
+    };
+    const auto appendMany = [&](const string& message) {
+        for (int i = 0; i < 10001; ++i)
+            append(*appender, message);
+    };
+    const auto inTime = [](const std::function<bool()>& condition) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_TRUE(eventually(condition));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8)) << "it slept first";
+    };
+    const auto isWritten = [&](const string& message) {
+        inTime([&] { return test::readFile(path).ends_with(Head + message + '\n'); });
+    };
+    const auto lines = [&] {
+        string text;
+        for (const string& line : test::readLines(path))
+            text += (line.starts_with(Head) ? '>' + line.substr(Head.size()) : line) + '|';
+        return text;
+    };
+    const auto isForItsOwner = [&](const string& name) {
+        const auto access = fs::status(folder / name).permissions();
+        return access == fs::perms(0600) || access == fs::perms(0700) ? "alone" : "and others";
+    };
+    test::walk("log_file.txt",
+               {{"appender", create},
+                {"start", [&] { return test::told(appender->start()); }},
+                {"stop", [&] { appender->stop(); }},
+                {"append", [&](const string& message) { append(*appender, message); }},
+                {"append 10001", appendMany},
+                {"pending", [&] { return std::to_string(appender->pendingLines()); }},
+                {"taken", [&] { inTime([&] { return appender->pendingLines() == 0; }); }},
+                {"written", isWritten},
+                {"file", lines},
+                {"limit", [&](const string& line) { appender->setMaxSize(std::ssize(Head + line + '\n')); }},
+                {"put", [&](const string& name) { folder.write(name, Head + "of an older run\n"); }},
+                {"remove", [&](const string& name) { fs::remove(folder / name); }},
+                {"for its owner", isForItsOwner}});
 }
 
-TEST_F(LogAppenderUtf8FileTest, StartsAfreshPastTheLimitOrWithoutItsFile)
+TEST(LogFile, BeginsALineOfItsOwnAfterATornOne)
 {
-    folder.write("log", line("of an older run"));
-    path = folder / "log";
-    LogAppenderUtf8File appender(1, path);
-    appender.setMaxSize(static_cast<std::int64_t>(line("0").size()));
-    append(appender, "0");
-    const auto start = std::chrono::steady_clock::now();
-    ASSERT_TRUE(appender.start().ok());
-    ASSERT_TRUE(eventually([&] { return test::readFile(path) == line("0"); }));
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8)) << "it slept first";
-    write(appender, "1");
-    EXPECT_EQ(test::readFile(path), line("0") + line("1")) << "a file of the limit goes on";
-    write(appender, "2");
-    EXPECT_EQ(test::readFile(path), line("2"));
-    fs::remove(path);
-    write(appender, "3");
-    EXPECT_EQ(test::readFile(path), line("3"));
-}
-
-TEST_F(LogAppenderUtf8FileTest, LivesWithoutAFile)
-{
-    folder.write("a", "a file where the folder should be");
-    for (const std::string& bad : {folder / "", std::string("/dev/full"), std::string(), path}) {
-        LogAppenderUtf8File appender(1, bad);
-        ASSERT_TRUE(appender.start().ok());
-        // The second line is taken only when the writer has given up the first.
-        for (const char* message : {"lost", "lost too"}) {
-            append(appender, message);
-            ASSERT_TRUE(eventually([&] { return appender.pendingLines() == 0; })) << bad;
-        }
-        if (bad == path) {
-            fs::remove(folder / "a");
-            write(appender, "found");
-        }
-    }
-}
-
-TEST_F(LogAppenderUtf8FileTest, BeginsALineOfItsOwnAfterATornOne)
-{
-    using tessaly::platform::LogFile;
-    const std::string log = folder / "log";
+    const test::TempFolder folder;
     folder.write("log", "of a run that ended here");
-    const auto file = LogFile::open(log, LogFile::Mode::Append);
+    const auto file = LogFile::open(folder / "log", LogFile::Mode::Append);
     {
         const test::SystemCall interrupted("write", EINTR);
         const test::SystemCall shortWrite("write", test::SystemCall::Short, 2);
@@ -124,31 +87,7 @@ TEST_F(LogAppenderUtf8FileTest, BeginsALineOfItsOwnAfterATornOne)
     }
     EXPECT_TRUE(file->write("second\n"));
     EXPECT_TRUE(file->write("third\n"));
-    EXPECT_EQ(test::readFile(log), "of a run that ended here\nfirst\nt\nsecond\nthird\n");
-}
-
-TEST_F(LogAppenderUtf8FileTest, EveryLineOfFourThreadsAndTwoAppendersIsWhole)
-{
-    constexpr int PerThread = 1000;
-    const std::string tail(200, '#');
-    LogAppenderUtf8File appenders[] = {{1, path}, {2, path}};
-    for (auto& appender : appenders)
-        ASSERT_TRUE(appender.start().ok());
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t)
-        threads.emplace_back([&, t] {
-            for (int i = 0; i < PerThread; ++i)
-                append(appenders[t % 2], std::to_string(t) + " " + std::to_string(i) + tail);
-        });
-    for (auto& thread : threads)
-        thread.join();
-
-    ASSERT_TRUE(eventually([&] { return test::readLines(path).size() == 4 * PerThread; }));
-    std::map<char, int> next;
-    for (const std::string& text : test::readLines(path)) {
-        const char thread = text.at(line("").size() - 1);
-        ASSERT_EQ(text + "\n", line(std::string{thread} + " " + std::to_string(next[thread]++) + tail));
-    }
+    EXPECT_EQ(test::readFile(folder / "log"), "of a run that ended here\nfirst\nt\nsecond\nthird\n");
 }
 
 } // namespace

@@ -6,8 +6,7 @@
 #include "lib/platform/windows/SystemCall.h"
 #include "lib/platform/windows/SystemPath.h"
 #include "support/TempFolder.h"
-
-#include <gtest/gtest.h>
+#include "support/Walk.h"
 
 #include <string>
 
@@ -19,35 +18,8 @@ namespace fs = std::filesystem;
 
 TEST(SystemPath, KnowsWhatTheSystemWouldMisread)
 {
-    const struct
-    {
-        const wchar_t* path;
-        bool isMisread;
-    } rows[] = {
-        {LR"(C:\letter.txt)", false},
-        {LR"(C:\..)", false},
-        {LR"(C:\a.b\)", false},
-        {L"console.txt", false},
-        {L"com10", false},
-        {L"a.nul", false},
-        {L"\u65E5\u672C", false},
-        {L"C:letter", false},
-        {LR"(C:\nul)", true},
-        {L"NUL.txt", true},
-        {L"Com1", true},
-        {L"lpt\u00B2.a", true},
-        {L"aux .txt", true},
-        {L"ab:c", true},
-        {L"a.", true},
-        {L"a ", true},
-        {L"a?", true},
-        {L"a*", true},
-        {L"a\tb", true},
-        {L"CONIN$", true},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(isMisread(row.path), row.isMisread) << nativePath(row.path);
-    EXPECT_TRUE(isMisread(std::wstring(L"a\0b", 3)));
+    const auto check = [](const std::string& path) { return isMisread(widePath(path)) ? "misread" : "fine"; };
+    test::walk("misread_paths.txt", {{"path", check}});
     EXPECT_EQ(fileStatus(L"nul").kind, FileKind::Other);
 }
 

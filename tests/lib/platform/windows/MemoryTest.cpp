@@ -1,14 +1,10 @@
 #include "lib/platform/Memory.h"
-#include "lib/err/ErrorCodes.h"
-#include "lib/platform/Random.h"
 #include "lib/platform/SystemMessage.h"
-#include "lib/secret/Secret.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <vector>
 #include <windows.h>
 
 namespace {
@@ -26,14 +22,6 @@ TEST(SecretPages, AreHadBeyondTheFirstLimit)
         EXPECT_TRUE(::VirtualUnlock(pages, Size)) << "it was not locked";
         EXPECT_TRUE(::VirtualFree(pages, 0, MEM_RELEASE));
     }
-}
-
-TEST(Random, FillsAllBytes)
-{
-    std::vector<std::uint8_t> bytes(4096);
-    ASSERT_TRUE(platform::fillRandomly(bytes.data(), bytes.size()).ok());
-    for (int value = 0; value < 256; ++value) // each is expected 16 times
-        EXPECT_LT(std::ranges::count(bytes, value), 64) << value;
 }
 
 TEST(SystemMessage, StandsOnOneLine)
