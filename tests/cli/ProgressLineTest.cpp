@@ -1,11 +1,12 @@
 #include "cli/ProgressLine.h"
 
+#include "support/DataRows.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cstdlib>
 #include <fcntl.h>
-#include <string>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -13,33 +14,16 @@ namespace {
 
 TEST(ProgressLine, TellsPercentSpeedAndTimeLeft)
 {
-    const struct
-    {
-        std::int64_t processed;
-        double percent, seconds;
-        const char* text;
-    } rows[] = {
-        {0, 0, 0, "0.0%  0.0 MB/s"},
-        {512000000, 41.3, 1, "41.3%  512.0 MB/s  1 s left"},
-        {5000000, 25, 2, "25.0%  2.5 MB/s  6 s left"},
-        {100000000, 50, 59.4, "50.0%  1.7 MB/s  59 s left"},
-        {100000000, 50, 59.6, "50.0%  1.7 MB/s  1 min 0 s left"},
-        {100000000, 50, 3599.4, "50.0%  0.0 MB/s  59 min 59 s left"},
-        {100000000, 50, 7890, "50.0%  0.0 MB/s  2 h 11 min left"},
-        {100, 100, 2, "100.0%  0.0 MB/s  0 s left"},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(cli::progressText(row.processed, row.percent, row.seconds), row.text);
+    for (const test::Row& row : test::dataRows("progress.txt"))
+        EXPECT_EQ(cli::progressText(std::stoll(row.at(0)), std::stod(row.at(1)), std::stod(row.at(2))),
+                  row.at(3));
 }
 
 TEST(ProgressLine, ShortensLongNamesBetweenLetters)
 {
+    for (const test::Row& row : test::dataRows("progress_names.txt"))
+        EXPECT_EQ(cli::progressLabel(1, 2, row.at(0)), "1/2 " + row.at(1));
     EXPECT_EQ(cli::progressLabel(2, 11, "/folder/a\nb.txt"), "2/11 a\\nb.txt");
-    const std::string longest(32, 'x');
-    EXPECT_EQ(cli::progressLabel(1, 2, longest), "1/2 " + longest);
-    EXPECT_EQ(cli::progressLabel(1, 2, "xxxxxxxxxxxxxxxxxxxxyyyyyyyyyyyyyyyyyyyy"),
-              "1/2 xxxxxxxxxxxxxxxx...yyyyyyyyyyyyyyyy");
-    EXPECT_EQ(cli::progressLabel(1, 2, "xééééééééééééééééééééy"), "1/2 xééééééé...éééééééy");
 }
 
 /// What comes on a terminal of that width.

@@ -20,6 +20,8 @@ CLI = os.path.abspath(sys.argv.pop(1))
 PROMPT = b"assword: "
 SECRET = b"hunter2"
 ENCRYPT = [CLI, "encrypt", "--password-file", "pw"]
+ROWS = [line.split(" | ") for line in Path(__file__).parent.joinpath("../data/prompts.txt").read_text().splitlines()
+        if line[0] != "#"]
 
 
 def run_as_job(program, in_front, stdin):
@@ -99,11 +101,15 @@ class Prompt(Case):
     def answer(self, *answers, code):
         """To each question; then it ends."""
         for answer in answers[:-1]:
-            os.write(self.terminal, answer + b"\n")
+            self.send(answer + b"\n")
             self.wait_for(PROMPT)
-        os.write(self.terminal, answers[-1] + b"\n")
+        self.send(answers[-1] + b"\n")
         self.wait_for(b"ended with %d." % code)
         self.assertNotIn(SECRET, self.shown)
+
+    def send(self, sent):
+        """Keys, or a signal."""
+        os.write(self.terminal, sent) if isinstance(sent, bytes) else os.kill(self.job, sent)
 
     def has_echo(self):
         return bool(termios.tcgetattr(self.terminal)[3] & termios.ECHO)
@@ -115,19 +121,12 @@ class Prompt(Case):
             time.sleep(0.01)
 
     def test_asks_and_shows_how_far_it_is(self):
-        for line, answers, code, keys_made, shown in (
-                ("encrypt plain", 2 * [SECRET], 0, 0, b"Confirm password: "),
-                ("decrypt plain.enc", [SECRET], 0, 0, b""),
-                ("encrypt --seal --force -q plain", 2 * [SECRET], 0, 0, b""),
-                ("encrypt --seal --force plain", 2 * [SECRET], 0, 1, b""),
-                ("decrypt -fo opened plain.enc", [SECRET], 0, 1, b""),  # which the search for the algorithm has made
-                ("decrypt -o- plain.enc", [SECRET], 0, 0, b"0123456789"),  # which goes to the terminal, too
-                ("encrypt --force plain", [SECRET, b"hunter3"], 1, 0, b"do not match")):
+        for line, answers, code, keys_made, shown in ROWS:
             with self.subTest(line):
                 self.start(*line.split())
-                self.answer(*answers, code=code)
-                self.assertEqual(self.shown.count(b"Making the key of the password"), keys_made)
-                self.assertIn(shown, self.shown)
+                self.answer(*answers.encode().split(), code=int(code))
+                self.assertEqual(self.shown.count(b"Making the key of the password"), int(keys_made))
+                self.assertIn(shown.encode(), self.shown)
         self.assertEqual(Path("plain.dec").read_bytes(), Path("plain").read_bytes())
 
     def test_output_that_appears_during_the_question_stays(self):
@@ -139,32 +138,25 @@ class Prompt(Case):
         self.assertEqual(Path("plain.dec").read_bytes(), b"precious")
 
     def test_is_hidden_again_after_a_stop(self):
-        self.start()
-        for stop, gives_echo_back in ((lambda: os.write(self.terminal, SECRET + b"\x1a"), True),
-                                      (lambda: os.kill(self.job, signal.SIGSTOP), False)):
-            stop()
-            self.wait_for(b"stopped.")
-            self.assert_echo(gives_echo_back)
-            os.kill(self.shell, signal.SIGUSR1)
-            self.wait_for(PROMPT)
-            self.assert_echo(False)
-        self.answer(SECRET, code=3)
-        self.assert_echo(True)
-
-    def test_waits_in_the_background(self):
-        for in_front in (True, False):
-            with self.subTest(in_front=in_front):
-                self.start(in_front=in_front)
-                if in_front:
-                    os.write(self.terminal, b"\x1a")
+        """In the background it stops, until it comes in front."""
+        keys = SECRET + b"\x1a"
+        for stop, in_background in ((keys, False), (signal.SIGSTOP, False), (keys, True), (None, True)):
+            with self.subTest(stop, in_background=in_background):
+                self.start(in_front=stop is not None)
+                if stop:
+                    self.send(stop)
                     self.wait_for(b"stopped.")
-                    os.kill(self.shell, signal.SIGUSR2)
-                self.wait_for(b"stopped.")
+                    self.assert_echo(stop != signal.SIGSTOP)
+                if in_background:
+                    if stop:
+                        os.kill(self.shell, signal.SIGUSR2)
+                    self.wait_for(b"stopped.")
                 os.kill(self.shell, signal.SIGUSR1)
                 self.wait_for(PROMPT)
                 self.assert_echo(False)
-                os.write(self.terminal, SECRET + b"\r")
+                self.send(SECRET + b"\r")
                 self.wait_for(b"ended with 3.")
+                self.assertNotIn(SECRET, self.shown)
                 self.assert_echo(True)
                 settings = termios.tcgetattr(self.terminal)
                 self.assertTrue(settings[0] & termios.ICRNL and settings[3] & termios.ICANON)
@@ -174,7 +166,7 @@ class Prompt(Case):
                           (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
             with self.subTest(end):
                 self.start()
-                os.write(self.terminal, end) if isinstance(end, bytes) else os.kill(self.job, end)
+                self.send(end)
                 self.wait_for(b"ended with %d." % code)
                 self.assert_echo(True)
 
@@ -188,35 +180,24 @@ class Prompt(Case):
 
 
 class Interrupt(Case):
-    def wait_until_busy(self, process):
-        """Until it has worked for a moment; the output has no name by which it could be seen."""
-        while process.poll() is None:
-            fields = Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()
-            if int(fields[11]) > 20:  # user time in 1/100 s
-                return
-            time.sleep(0.01)
-        self.fail("it ended on its own")
-
     def test_leaves_nothing(self):
-        for sent, rest, expected in (
-                (signal.SIGINT, ["plain"], (130, b"quillet-cli: interrupted in large; 1 file not tried\n")),
-                (signal.SIGTERM, ["pw", "plain"], (130, b"quillet-cli: interrupted in large; 2 files not tried\n")),
-                (signal.SIGKILL, [], (-signal.SIGKILL, b""))):
-            running = subprocess.Popen([*ENCRYPT, "large", *rest], stderr=subprocess.PIPE)
-            self.wait_until_busy(running)
+        subprocess.run([*ENCRYPT, "--seal", "-q", "-o", "sealed", "plain"], check=True)
+        there = sorted(os.listdir())
+        for sent, words, code, told in (
+                (signal.SIGINT, "encrypt large plain", 130, "interrupted in large; 1 file not tried"),
+                (signal.SIGTERM, "encrypt large pw plain", 130, "interrupted in large; 2 files not tried"),
+                (signal.SIGINT, "decrypt sealed", 130, "interrupted"),  # while it searches for the algorithm
+                (signal.SIGKILL, "encrypt large", -signal.SIGKILL, "")):
+            running = subprocess.Popen([CLI, *words.split(), "--password-file", "pw"], stderr=subprocess.PIPE, text=True)
+            # For a moment; the output has no name by which it could be seen.
+            while int(Path(f"/proc/{running.pid}/stat").read_text().rpartition(")")[2].split()[11]) <= 20:  # 1/100 s
+                self.assertIsNone(running.poll(), "it ended on its own")
+                time.sleep(0.01)
             self.assertEqual(resource.prlimit(running.pid, resource.RLIMIT_CORE), (0, 0))
             running.send_signal(sent)
-            self.assertEqual((running.wait(60), running.communicate()[1]), expected)
-            self.assertEqual(sorted(os.listdir()), ["large", "plain", "pw"])
-
-    def test_ends_the_search_for_the_algorithm(self):
-        subprocess.run([*ENCRYPT, "--seal", "-q", "plain"], check=True)
-        os.remove("plain")
-        running = subprocess.Popen([CLI, "decrypt", "--password-file", "pw", "plain.enc"], stderr=subprocess.PIPE)
-        self.wait_until_busy(running)  # with the password's key
-        running.send_signal(signal.SIGINT)
-        self.assertEqual((running.wait(60), running.communicate()[1]), (130, b"quillet-cli: interrupted\n"))
-        self.assertEqual(sorted(os.listdir()), ["large", "plain.enc", "pw"])
+            self.assertEqual(running.communicate(timeout=60)[1], told and f"quillet-cli: {told}\n")
+            self.assertEqual(running.returncode, code)
+            self.assertEqual(sorted(os.listdir()), there)
 
     def test_at_standard_input_unless_it_was_ignored(self):
         for sent, expected in ((signal.SIGTERM, (130, b"quillet-cli: interrupted\n")), (signal.SIGHUP, (0, b""))):

@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <ostream>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,11 @@ inline Bytes fromHex(std::string_view hex)
     return {bytes.begin(), bytes.end()};
 }
 
+inline std::string text(const Bytes& bytes)
+{
+    return {bytes.begin(), bytes.end()};
+}
+
 inline SecretBytes secret(const Bytes& bytes)
 {
     return {bytes.begin(), bytes.end()};
@@ -47,11 +53,7 @@ inline SecretBytes secret(const Bytes& bytes)
 inline Bytes noise(std::size_t count, std::uint32_t seed = 1)
 {
     Bytes bytes(count);
-    std::uint32_t state = seed * 2654435761U;
-    for (std::uint8_t& byte : bytes) {
-        state = state * 1664525U + 1013904223U;
-        byte = static_cast<std::uint8_t>(state >> 24);
-    }
+    std::ranges::generate(bytes, [random = std::mt19937(seed)]() mutable { return random() & 0xFF; });
     return bytes;
 }
 
@@ -85,15 +87,14 @@ struct Job
     Outcome encrypt(MemoryInput in, const Faults& outputFaults = {}) const
     {
         MemoryOutput out(outputFaults);
-        const auto result =
-            encryptor->run(&in, &out, key, iv, chunkSize, intervalMs, salt, callback, nullptr);
-        return {result, out.bytes, out.calls};
+        return {encryptor->run(&in, &out, key, iv, chunkSize, intervalMs, salt, callback, nullptr), out.bytes,
+                out.calls};
     }
     Outcome decrypt(MemoryInput in, const Faults& outputFaults = {}) const
     {
         MemoryOutput out(outputFaults);
-        const auto result = decryptor->run(&in, &out, key, iv, chunkSize, intervalMs, callback, nullptr);
-        return {result, out.bytes, out.calls};
+        return {decryptor->run(&in, &out, key, iv, chunkSize, intervalMs, callback, nullptr), out.bytes,
+                out.calls};
     }
 
     const CatalogueEntry& algorithm;

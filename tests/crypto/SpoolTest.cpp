@@ -40,7 +40,7 @@ TEST(Spool, GivesBackWhatTheDiskNeverSees)
             whole += piece;
             ASSERT_TRUE(spool.append(reinterpret_cast<std::uint8_t*>(piece.data()), count).ok());
         }
-        const fs::path way = wayTo(folder.path());
+        const std::string way = wayTo(folder.path());
         EXPECT_NE(::linkat(AT_FDCWD, way.c_str(), AT_FDCWD, (folder / "name").c_str(), AT_SYMLINK_FOLLOW), 0);
         EXPECT_TRUE(fs::is_empty(folder.path()));
         const std::string onDisk = readFile(way);
@@ -65,14 +65,12 @@ TEST(Spool, TellsWhatTheDiskRefusesAndGoesOnAfterARewind)
     const TempFolder folder;
     tessaly::crypto::Spool spool;
     ASSERT_TRUE(spool.open(folder.path()).ok());
-    const auto append = [&] {
+    const auto append = [&](int how) {
+        const SystemCall writing("write", how);
         std::string piece = "piece";
         return spool.append(reinterpret_cast<std::uint8_t*>(piece.data()), piece.size());
     };
-    {
-        const SystemCall shortWrite("write", SystemCall::Short);
-        EXPECT_TRUE(append().ok());
-    }
+    EXPECT_TRUE(append(SystemCall::Short).ok());
     std::string read(100, ' ');
     std::int64_t got = 0;
     for (const auto& [how, error] : {std::pair(EIO, err::system(EIO)),
@@ -85,8 +83,7 @@ TEST(Spool, TellsWhatTheDiskRefusesAndGoesOnAfterARewind)
         EXPECT_TRUE(spool.read(read.data(), 100, got));
         EXPECT_EQ(read.substr(0, static_cast<std::size_t>(got)), "piece");
     }
-    const SystemCall full("write", ENOSPC);
-    EXPECT_EQ(append().first(), err::system(ENOSPC));
+    EXPECT_EQ(append(ENOSPC).first(), err::system(ENOSPC));
 }
 
 } // namespace

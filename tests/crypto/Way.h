@@ -60,10 +60,15 @@ struct Way
         recorder.calls.clear();
         recorder.processed.clear();
         recorder.percents.clear();
+        return process(inputFaults, outputFaults);
+    }
+    Outcome process(const Faults& inputFaults, const Faults& outputFaults) const
+    {
         return isEncryption ? job.encrypt({input, inputFaults}, outputFaults)
                             : job.decrypt({input, inputFaults}, outputFaults);
     }
     void stop() { isEncryption ? job.encryptor->stop() : job.decryptor->stop(); }
+    bool isBusy() const { return job.encryptor->isBusy() || job.decryptor->isBusy(); }
     Bytes outputOf(int most) const
     {
         Bytes start = output;

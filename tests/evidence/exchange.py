@@ -78,12 +78,12 @@ def exchange(program, number, name, key_length, block, iv_length, writer, name_t
         lengths |= {edge + by for edge in (CHUNK, 2 * CHUNK) for by in (-HEADER - 1, -HEADER, -HEADER + 1, -1, 0, 1)}
     plain = {f"{length}": hashlib.shake_128(name.encode()).digest(length) for length in sorted(lengths)}
     key, iv = hashlib.shake_128(b"key of " + name.encode()).digest(key_length), os.urandom(iv_length)
-    files = {"key": key.hex(), "iv": iv.hex(), "password": PASSWORD}
-    for file, data in {**plain, **{file: text.encode() for file, text in files.items()}}.items():
+    secrets = {"key": key.hex().encode(), "iv": iv.hex().encode(), "password": PASSWORD.encode()}
+    for file, data in (plain | secrets).items():
         pathlib.Path(file).write_bytes(data)
 
     def written(data, key, iv):
-        inner = header(number, len(data)) + data if data else b""
+        inner = header(number, len(data)) + data
         return WRITERS[writer](key, iv, block, name_there, inner + bytes(-len(inner) % max(block, 1))) if data else b""
 
     def run(command, *words):
@@ -92,8 +92,8 @@ def exchange(program, number, name, key_length, block, iv_length, writer, name_t
     run("encrypt", "--password-file", "password", *plain)
     for file, data in plain.items():
         path = pathlib.Path(file + ".enc")
-        same = path.read_bytes() == written(data, key_of(PASSWORD.encode(), key_length), bytes(iv_length))
-        assert same, f"{name}: {writer} writes {file} bytes otherwise"
+        by_password = written(data, key_of(PASSWORD.encode(), key_length), bytes(iv_length))
+        assert path.read_bytes() == by_password, f"{name}: {writer} writes {file} bytes otherwise"
         path.write_bytes(written(data, key, iv))
 
     run("decrypt", "--key-file", "key", "--iv-file", "iv", *(file + ".enc" for file in plain))
@@ -114,8 +114,7 @@ def main():
     for _, key, iv, answer in rows(data / "vectors" / "panama.txt"):
         assert panama.key_stream(bytes.fromhex(key), bytes.fromhex(iv), len(answer) // 2).hex() == answer, "panama.py"
 
-    catalogue = {name: (int(number), name, *map(int, sizes[:3]))
-                 for number, name, *sizes in rows(data / "algorithms.txt")}
+    catalogue = {row[1]: (int(row[0]), row[1], *map(int, row[2:5])) for row in rows(data / "algorithms.txt")}
     done = files = 0
     for name, _, writer, name_there in rows(data / "evidence.txt"):
         if writer != "-" and name in (sys.argv[3:] or catalogue):

@@ -15,39 +15,28 @@ def rows(path):
     return [line.split() for line in path.read_text().splitlines() if not line.startswith("#")]
 
 
-def vectors():
-    """For each algorithm: where its answers were published, and who computed the others."""
-    published, computed = collections.defaultdict(dict), collections.defaultdict(set)
-    for path in sorted((data / "vectors").iterdir()):
-        heading = None
-        for line in path.read_text().splitlines():
-            name = line.split()[0]
-            if match := re.match(r"# (Published|Computed): (.+)", line):
-                heading = match.groups()
-            elif name == "#":
-                heading = heading if line.startswith("# algorithm ") else None
-            else:
-                assert heading, f"{path.name}: answers without a source"
-                kind, source = heading
-                if kind == "Computed":
-                    computed[name] |= {who for who in known if who in source}
-                    assert computed[name], f"{path.name}: unknown source of {name}"
-                else:
-                    publisher = re.split("[,;(]", source)[0].strip()
-                    published[name][f"[{publisher}](../tests/data/vectors/{path.name})"] = None
-    return published, computed
-
-
 evidence = {name: (answers.split(",") if answers != "-" else [], reader) for name, answers, reader, _
             in rows(data / "evidence.txt")}
-known = {who for answers, _ in evidence.values() for who in answers}
-published, computed = vectors()
 assert list(evidence) == [name for _, name, *_ in rows(data / "algorithms.txt")], "evidence.txt is not the catalogue"
+known = {who for answers, _ in evidence.values() for who in answers}
+
+published = collections.defaultdict(dict)  # where answers were published
+for path in sorted((data / "vectors").iterdir()):
+    heading = ""
+    for line in path.read_text().splitlines():
+        name = line.split()[0]
+        if name == "#":
+            heading = heading if line.startswith("# algorithm ") else line
+        elif heading.startswith("# Published: "):
+            publisher = re.split("[,;(]", heading.removeprefix("# Published: "))[0].strip()
+            published[name][f"[{publisher}](../tests/data/vectors/{path.name})"] = None
+        else:
+            computers = {who for who in known if who in heading and heading.startswith("# Computed: ")}
+            assert computers and computers <= set(evidence[name][0]), f"{path.name}: no known source of {name}: {heading}"
 
 table = ["| Algorithm | Published answers | The same answers by | Files exchanged with |", "|---|---|---|---|"]
 for name, (answers, reader) in evidence.items():
     assert published[name] or answers, f"{name} has nothing but our word"
-    assert computed[name] <= set(answers), f"{name}: {computed[name]} in vectors, {answers} in evidence.txt"
     cells = [name, *(", ".join(NAMES.get(cell, cell) for cell in column) or "-"
                      for column in (published[name], answers, [reader]))]
     table.append("| " + " | ".join(cells) + " |")

@@ -10,7 +10,8 @@ import resource
 import subprocess
 import sys
 
-from server import FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, Judge, Run, Server, Sweep, read, write
+from server import (FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, WAYS, Judge, Run, Server, Sweep, pairs, read, rows,
+                    write)
 
 SWEEP = Sweep("cli", "library")
 CLI, LIBRARY = SWEEP.arguments.cli, SWEEP.arguments.library
@@ -24,31 +25,13 @@ FORMER = b"precious"
 Job = collections.namedtuple("Job", "words outputs former code stdin without")
 
 
-def rows(name, splits=-1):
-    with open(os.path.join(os.path.dirname(os.path.abspath(__file__)), "../data", name)) as file:
-        return [[field.strip() for field in line.split("|", splits)] for line in file if line[0] != "#"]
-
-
 def job_of(words, outputs, former, code, stdin, without):
-    outputs = dict(pair.split("=") for pair in outputs.split(", ") if pair)
     stdin = os.path.join(SWEEP.folder, stdin or os.devnull)
-    return Job(words.split(), outputs, former.split(), int(code), stdin, without)
+    return Job(words.split(), pairs(outputs), former.split(), int(code), stdin, without)
 
 
 JOBS = {name: job_of(*fields) for name, *fields in rows("fault_jobs.txt")}
 LINES = rows("fault_lines.txt", 1)
-
-# What others do just before the n-th flush, the second of which is that of the folder, and whether that flush then
-# fails. Afterwards these files must have these contents: "new" is the result of the job.
-OTHERS = [
-    ("encrypt --force", 2, "mv other out", errno.EIO, {"out": "other"}),
-    ("encrypt --force", 2, "mv out moved", errno.EIO, {"out": "precious", "moved": "new"}),
-    ("encrypt --force", 2, "$CLI encrypt --password-file pw --output moved --force other", errno.EIO,
-     {"out": "precious"}),
-    ("encrypt", 2, "mv out moved", errno.EIO, {"moved": "new"}),
-    ("encrypt", 2, "mv other out", errno.EIO, {"out": "other"}),
-    ("encrypt --force", 1, "mv plain out", errno.EINTR, {"out": "input"}),
-]
 
 STEP = (r"((The (input|output)? ?file .+ could not be (opened|read|processed|created|written|stored)\.|"
         r"Standard input could not be kept in the folder .+\.|Standard output could not be written)"
@@ -74,11 +57,10 @@ class Files:
     """The files that the jobs work on, and what must be there after each run."""
 
     def __init__(self):
-        for name, text in ("pw", "correct horse"), ("wrong", "incorrect horse"), ("key", "5a" * 32), \
-                ("wrong-key", "5b" * 32), ("iv", "a5" * 16):
-            write(name, text.encode())
-        for name, size in ("plain", SIZE), ("plain-2", 10), ("plain-3", 70000), ("large", 1_500_000):
-            write(name, os.urandom(size))
+        for name, data in (("pw", b"correct horse"), ("wrong", b"incorrect horse"), ("key", b"5a" * 32),
+                           ("wrong-key", b"5b" * 32), ("iv", b"a5" * 16), ("plain", os.urandom(SIZE)),
+                           ("plain-2", os.urandom(10)), ("plain-3", os.urandom(70000)), ("large", os.urandom(1_500_000))):
+            write(name, data)
         for name, source, options in (("encrypted.enc", "plain", PASSWORD), ("sealed", "plain", ["--seal", *KEY]),
                                       ("large-sealed", "large", ["--seal", *KEY]),
                                       *((f"by-key{n}.enc", f"plain{n}", KEY) for n in ("", "-2", "-3"))):
@@ -176,16 +158,16 @@ def sweep_others():
     """What others do to the files is theirs."""
     contents = {"other": b"other", "precious": FORMER, "new": FILES.inputs["encrypted.enc"],
                 "input": FILES.inputs["plain"]}
-    for name, at, command, error, expected in OTHERS:
+    for name, at, command, error, expected in rows("fault_others.txt"):
         with Server(LIBRARY, [CLI, *JOBS[name].words], SWEEP.folder) as server:
             ConsoleJudge(FILES, JOBS[name], server).prepare()
             write("other", b"other")
-            run = server.run("fsync", at, error, "all", f"CLI={CLI}; {command}")
-            left = {file: read(file) for file in expected if os.path.exists(file)}
-            strange = [file for file in os.listdir() if file.startswith(".quillet")]
-            right = run.status == FAILED << 8 and left == {file: contents[what] for file, what in expected.items()}
-            SWEEP.add("among others", "fsync", error, at, run,
-                      None if right and not strange else f"{command}: left {sorted(os.listdir())}")
+            run = server.run("fsync", at, WAYS[error], "all", f"CLI={CLI}; {command}")
+            right = run.status == FAILED << 8 and \
+                all(os.path.exists(file) and read(file) == contents[what] for file, what in pairs(expected).items()) and \
+                not any(file.startswith(".quillet") for file in os.listdir())
+            SWEEP.add("among others", "fsync", WAYS[error], at, run,
+                      None if right else f"{command}: left {sorted(os.listdir())}")
             write("plain", FILES.inputs["plain"])
             FILES.states["plain"] = state("plain")
 

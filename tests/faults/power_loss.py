@@ -28,16 +28,14 @@ class Disk:
     def __init__(self, folder):
         self.folder = folder
         self.names = {name: name for name in os.listdir(folder)}  # the files that are there first are called so
-        self.durable = [dict(self.names)]  # what the folder can hold
-        self.dirty = set()
-        self.open = {}
-        self.made = 0
+        self.durable = [self.names]  # what the folder can hold
+        self.dirty, self.open, self.made = set(), {}, 0
 
     def apply(self, line):
         """One line of strace."""
         if not (match := re.match(r"\d+ +(\w+)\((.*)\) += (\d+)", line)):
             return
-        call, words, result = match[1], match[2], int(match[3])
+        call, words, result = match.groups()
         names = re.findall(r'"((?:[^"\\]|\\.)*)"', words)
         handle = re.match(r"\d+", words)
         if call in ("open", "openat") and f"<{self.folder}" in line.rsplit("=", 1)[1]:
@@ -55,15 +53,15 @@ class Disk:
         name = os.path.basename(path)
         if "O_TMPFILE" in words or "O_CREAT" in words and name not in self.names:
             self.made += 1
-            self.open[str(handle)] = f"new {self.made}"
+            self.open[handle] = f"new {self.made}"
             if "O_TMPFILE" not in words:
                 self.change({**self.names, name: f"new {self.made}"})
         else:
-            self.open[str(handle)] = "folder" if "O_DIRECTORY" in words else self.names.get(name, path)
+            self.open[handle] = "folder" if "O_DIRECTORY" in words else self.names.get(name, path)
 
     def flushed(self, file):
         if file == "folder":
-            self.durable = [dict(self.names)]
+            self.durable = [self.names]
         self.dirty.discard(file)
 
     def renamed(self, call, names, paths, words):

@@ -1,5 +1,5 @@
-"""CALLS: what may fail. Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one
-call failing in each run. Sweep: does so with every call of every job, and counts runs and complaints in a table."""
+"""Server: runs a program again and again by the preloaded library of failing_calls.cpp, with one call failing in each run.
+Sweep: does so with every call of every job, and counts runs and complaints."""
 
 import argparse
 import collections
@@ -10,34 +10,25 @@ import sys
 import tempfile
 
 # What may happen at a call: an error, or one of these, which are those of failing_calls.cpp.
-NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON, DONE = 0, -1, -2, -3, -4, -5
-WAYS = {NOTHING: "nothing done", SHORT: "half done", KILL_BEFORE: "killed before", KILL_AFTER: "killed after",
-        FROM_THERE_ON: "no memory from there on", DONE: "done", **errno.errorcode}
+NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON, DONE = range(0, -6, -1)
+WAYS = dict(zip(("nothing", "short", "killed-before", "killed-after", "from-there-on", "done"), range(0, -6, -1)))
+WAYS |= {name: number for name, number in vars(errno).items() if name[0] == "E"}
+DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../data")
 
-# In what ways each call may fail, and whether it may matter. A call that a signal interrupts is made again.
-CALLS = {
-    "open": {errno.EMFILE: True, errno.EACCES: True, errno.EIO: True, errno.EINTR: False},
-    "read": {errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
-    "write": {errno.ENOSPC: True, errno.EDQUOT: True, errno.EIO: True, NOTHING: True, errno.EINTR: False, SHORT: False},
-    "fsync": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
-    "close": {errno.EIO: True, errno.EINTR: False},
-    "rename": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
-    "link": {errno.EIO: True, errno.ENOSPC: True, errno.EINTR: False},
-    "unlink": {errno.EIO: True, errno.EINTR: False},
-    "stat": {errno.EIO: True, errno.EACCES: True},
-    "lseek": {errno.EIO: True},
-    "mmap": {errno.ENOMEM: True},
-    "getrandom": {errno.EIO: True, errno.EINTR: False},
-    "pthread_create": {errno.EAGAIN: True},
-    "malloc": {errno.ENOMEM: True, FROM_THERE_ON: True},
-    "fallocate": {errno.ENOSPC: True, errno.EOPNOTSUPP: False, errno.EINTR: False},
-    "flock": {errno.ENOLCK: False, errno.EINTR: False},
-    "fchmod": {errno.EPERM: True},
-    "poll": {errno.ENOMEM: True, errno.EINTR: False},
-    "readdir": {NOTHING: False},
-    "any": {KILL_BEFORE: True, KILL_AFTER: True},
-}
 
+def rows(name, splits=-1):
+    """Of a text file in tests/data, fields split at bars."""
+    with open(os.path.join(DATA, name)) as file:
+        return [[field.strip() for field in line.split("|", splits)] for line in file if line[0] != "#"]
+
+
+def pairs(text):
+    return dict(pair.split("=") for pair in text.split(", ") if pair)
+
+
+# In what ways each call may fail, and whether it may matter.
+CALLS = {call: {WAYS[way]: matters for ways, matters in ((matter, True), (other, False)) for way in ways.split()}
+         for call, matter, other in rows("fault_calls.txt")}
 Run = collections.namedtuple("Run", "status calls told out")
 
 
@@ -45,12 +36,10 @@ class Server:
     """The program with these arguments, in a folder of its own below one for its standard streams."""
 
     def __init__(self, library, command, folder, stdin=os.devnull, without="", environment=(), later=False):
-        self.folder = folder
-        streams = os.path.dirname(folder)
-        self.streams = {name: os.path.join(streams, name) for name in ("stdin", "stdout", "stderr")}
-        if os.path.lexists(self.streams["stdin"]):
-            os.remove(self.streams["stdin"])
-        os.symlink(stdin, self.streams["stdin"])
+        self.streams = os.path.dirname(folder)
+        if os.path.lexists(f"{self.streams}/stdin"):
+            os.remove(f"{self.streams}/stdin")
+        os.symlink(stdin, f"{self.streams}/stdin")
         order, orders = os.pipe()
         answers, answer = os.pipe()
         variables = {**os.environ, **dict(environment), "LD_PRELOAD": library, "FAULTS_FROM": str(order),
@@ -73,11 +62,12 @@ class Server:
     def run(self, call="none", at=0, way=NOTHING, threads="all", first=""):
         self.orders.write(f"{call} {at} {way} {threads} {first}\n")
         status, calls = map(int, self.answers.readline().split())
-        return Run(status, calls, read(self.streams["stderr"]).decode(errors="replace"), read(self.streams["stdout"]))
+        told = read(f"{self.streams}/stderr").decode(errors="replace")
+        return Run(status, calls, told, read(f"{self.streams}/stdout"))
 
 
 class Sweep:
-    """A folder for the jobs, and runs and complaints by job and call."""
+    """A folder for the jobs, and runs and complaints by job."""
 
     def __init__(self, *programs):
         parser = argparse.ArgumentParser()
@@ -86,11 +76,9 @@ class Sweep:
         parser.add_argument("--every", type=int, default=1)
         parser.add_argument("--job", dest="jobs", action="append")
         self.arguments = parser.parse_args()
-        self.runs = collections.Counter()
-        self.complaints = collections.Counter()
+        self.runs, self.complaints = collections.Counter(), collections.Counter()
         self.scratch = scratch()
-        self.home = self.scratch.name
-        self.folder = os.path.join(self.home, "work")
+        self.home, self.folder = self.scratch.name, f"{self.scratch.name}/work"
         os.mkdir(self.folder)
         os.chdir(self.folder)
 
@@ -103,7 +91,9 @@ class Sweep:
             other()
         os.chdir("/")
         self.scratch.cleanup()
-        self.show()
+        for name, count in self.runs.items():
+            print(f"{name}: {count} runs, {self.complaints[name]} failures")
+        print(f"{sum(self.runs.values())} runs, {sum(self.complaints.values())} failures")
         sys.exit(any(self.complaints.values()))
 
     def calls(self, job, judge, choose=dict.items, threads="all"):
@@ -122,20 +112,11 @@ class Sweep:
             at += step
 
     def add(self, job, call, way, at, run, problem):
-        self.runs[job, call] += 1
+        self.runs[job] += 1
         if problem:
-            self.complaints[job, call] += 1
-            print(f"{job}: {call} #{at}, {WAYS.get(way, way)}: {problem}: {run.told.strip()}", flush=True)
-
-    def show(self):
-        jobs, calls = (list(dict.fromkeys(names)) for names in zip(*self.runs))
-        width = max(map(len, jobs)) + 1
-        print("runs".ljust(width), *(call[:9].rjust(9) for call in calls), "    total failures")
-        for job in jobs:
-            of_job = [self.runs[job, call] for call in calls]
-            numbers = [*of_job, sum(of_job), sum(self.complaints[job, call] for call in calls)]
-            print(job.ljust(width), *(str(number).rjust(9) for number in numbers))
-        print(f"{sum(self.runs.values())} runs, {sum(self.complaints.values())} failures")
+            self.complaints[job] += 1
+            name = next(name for name, number in WAYS.items() if number == way)
+            print(f"{job}: {call} #{at}, {name}: {problem}: {run.told.strip()}", flush=True)
 
 
 class Judge:

@@ -10,7 +10,7 @@ import errno
 import os
 import subprocess
 
-from server import DONE, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, Judge, Server, Sweep, read, window_at, write
+from server import DONE, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, Judge, Server, Sweep, pairs, read, rows, window_at, write
 
 SWEEP = Sweep("window_job", "cli", "library")
 ARGUMENTS = SWEEP.arguments
@@ -19,24 +19,9 @@ PASSWORD = "secret"
 FORMER = b"precious"
 DELETED = "Input file has been deleted after the successfully encryption according to your options"
 
-# The operation; input and output; outputs that are there before; the password; seal; stop; what is missing.
-Job = collections.namedtuple("Job", "operation files former password seal stop without",
-                             defaults=({"in": "out"}, (), PASSWORD, False, False, ""))
-LIST = {"a": "a.enc", "b": "b.enc", "c": "c.enc"}
-JOBS = {
-    "encrypt": Job("encrypt"),
-    "encrypt, output exists": Job("encrypt", former=["out"]),
-    "encrypt, sealed": Job("encrypt", seal=True),
-    "encrypt, stopped": Job("encrypt", {"large": "out"}, stop=True),
-    "encrypt, no nameless files": Job("encrypt", without="O_TMPFILE noreplace"),
-    "encrypt, list": Job("encrypt", LIST, former=["b.enc"]),
-    "decrypt": Job("decrypt", {"in.enc": "out"}),
-    "decrypt, output exists": Job("decrypt", {"in.enc": "out"}, former=["out"]),
-    "decrypt, sealed": Job("decrypt", {"sealed.enc": "out"}),
-    "decrypt, wrong password": Job("decrypt", {"in.enc": "out"}, password="secrets"),
-    "decrypt, stopped": Job("decrypt", {"large.enc": "out"}, stop=True),
-    "decrypt, list": Job("decrypt", {f"{name}.enc": f"{name}.dec" for name in LIST}),
-}
+Job = collections.namedtuple("Job", "operation files former how without")
+JOBS = {name: Job(operation, pairs(files), former.split(), how, without)
+        for name, operation, files, former, how, without in rows("fault_window_jobs.txt")}
 
 # What others do just before the n-th of these calls, whatever n: a decoy takes the place of a file, or they change it.
 # What they put there must be somewhere afterwards, and where they have not overwritten it what was there before. The
@@ -50,10 +35,12 @@ OTHER_TEXTS = ["Reading data stream failed (error: ", "Input/output error (error
 
 
 def serve(job):
-    environment = window_at(SWEEP.home, RewriteOutputFile=job.former, SealFiles=job.seal)
-    environment |= {"QT_QPA_PLATFORM": "offscreen", "QT_NO_GLIB": "1", **({"QUILLET_STOP": "1"} if job.stop else {})}
+    environment = window_at(SWEEP.home, RewriteOutputFile=job.former, SealFiles=job.how == "seal")
+    environment |= {"QT_QPA_PLATFORM": "offscreen", "QT_NO_GLIB": "1",
+                    **({"QUILLET_STOP": "1"} if job.how == "stop" else {})}
+    password = "secrets" if job.how == "wrong" else PASSWORD
     paths = [os.path.join(SWEEP.folder, name) for name in (*list(job.files.values())[:1], *job.files)]
-    return Server(ARGUMENTS.library, [ARGUMENTS.window_job, job.operation, job.password, *paths], SWEEP.folder,
+    return Server(ARGUMENTS.library, [ARGUMENTS.window_job, job.operation, password, *paths], SWEEP.folder,
                   without=job.without, environment=environment, later=True)
 
 
@@ -88,7 +75,7 @@ class WindowJudge(Judge):
         if not os.path.exists(output):
             return False
         wanted = source.removesuffix(".enc") if self.job.operation == "decrypt" else f"{source}.enc"
-        if self.job.seal:  # no two are alike, and nothing else opens one whose key was as cheap as here
+        if self.job.how == "seal":  # no two are alike, and nothing else opens one whose key was as cheap as here
             return len(read(output)) == len(self.files["sealed.enc"])
         return read(output) == self.files[wanted]
 
@@ -115,8 +102,8 @@ class WindowJudge(Judge):
     def told(self, run, call, way, matters, whole):
         said, usual = self.said(run), self.said(self.normal)
         gone = {source for source in self.job.files if not os.path.exists(source)}
-        if said == usual or self.job.stop and said["resultMessage"].endswith(("canceled", "successfully")):
-            if call == "fsync" and matters and not self.job.stop:
+        if said == usual or self.job.how == "stop" and said["resultMessage"].endswith(("canceled", "successfully")):
+            if call == "fsync" and matters and self.job.how != "stop":
                 return "a failed flush changes nothing"
             expected = "successfully" in said["resultMessage"] or "files " in said["resultMessage"]
             return None if expected == (len(whole) == len(self.job.files)) else "a false success"

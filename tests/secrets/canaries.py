@@ -50,8 +50,8 @@ class Canary:
         self.spread = re.compile(entry.join(re.escape(letters[at:at + 2]) for at in range(0, 16, 2)), re.DOTALL)
 
     def seen_in(self, content):
-        begun = {start: start in content for start in {start for _, start, _ in self.forms}}
-        seen = [name for name, start, form in self.forms if begun[start] and form in content]
+        begun = {start for start in {start for _, start, _ in self.forms} if start in content}
+        seen = [name for name, start, form in self.forms if start in begun and form in content]
         return seen + (["spread over entries"] if self.spread.search(content) else [])
 
 
@@ -66,8 +66,7 @@ def copies(program, canaries):
 
 
 class Report:
-    def __init__(self):
-        self.faults = 0
+    faults = 0
 
     def tell(self, place, found):
         print(f"{place}: {'clean' if not found else ', '.join(found[:8])}", flush=True)
@@ -81,35 +80,14 @@ class Report:
         self.tell(place, found)
 
     def written(self, place, folder, canaries):
-        files = [path for path in pathlib.Path(folder).rglob("*")
-                 if path.is_file() and path.suffix not in (".key", ".password")]
-        self.tell(place, [f"{form} in {path}" for path in files for canary in canaries
-                          for form in canary.seen_in(path.read_bytes())])
+        self.tell(place, [f"{form} in {path}" for path in pathlib.Path(folder).rglob("*")
+                          if path.is_file() and path.suffix != ".secret"
+                          for canary in canaries for form in canary.seen_in(path.read_bytes())])
 
 
 def write(path, text):
     pathlib.Path(path).write_text(text)
     return path
-
-
-def console_cases(home, right, wrong, key, iv):
-    """What is asked of the console, the canaries that it gets, what it is told on its way, and its exit code."""
-    by_right, by_wrong = (["--password-file", write(f"{home}/{name}.password", canary.text + "\n")]
-                          for name, canary in (("right", right), ("wrong", wrong)))
-    by_key = ["--key-file", write(f"{home}/k.key", key.text), "--iv-file", write(f"{home}/iv.key", iv.text)]
-    letter, none = f"{home}/letter", f"{home}/none"
-    for kind, seal in ("plain", []), ("sealed", ["--seal"]):
-        out = f"{home}/{kind}"
-        yield f"{kind} encryption", ["encrypt", *seal, *by_right, "-o", out, letter], [right], None, 0
-        yield f"{kind} decryption", ["decrypt", *by_right, "-o", out + ".d", out], [right], None, 0
-        yield f"{kind}, wrong password", ["decrypt", *by_wrong, "-o", out + ".w", out], [right, wrong], None, 3
-        yield f"{kind}, by key", ["encrypt", *seal, *by_key, "-o", out + ".k", letter], [key, iv], None, 0
-    twice, other, cut = ([right.text + "\n", second] for second in
-                         (right.text + "\n", wrong.text + "\n", right.text[:20] + "\x03"))
-    yield "typed", ["encrypt", "-o", f"{home}/typed", letter], [right], twice, 0
-    yield "typed, other confirmation", ["encrypt", "-o", none, letter], [right, wrong], other, 1
-    yield "stopped while it is typed", ["encrypt", "-o", none, letter], [right], cut, 130
-    yield "stopped at work", ["encrypt", *by_right, "-o", none, f"{home}/zeros"], [right], signal.SIGINT, 130
 
 
 def seconds_of(program):
@@ -119,49 +97,57 @@ def seconds_of(program):
 
 
 def answer_prompts(master, answers):
-    shown = b""
     for answer in answers:
+        shown = b""
         while not re.search(rb"assword: $", shown):
             shown += os.read(master, 1000)
-        shown = b""
         os.write(master, answer.encode())
 
 
 def run_console(report, home):
-    right, wrong, key, iv = password(), password(), Canary(size=32), Canary(size=16)
+    canaries = {"right": password(), "wrong": password(), "key": Canary(size=32), "iv": Canary(size=16)}
+    answers = {name: canary.text + "\n" for name, canary in canaries.items()}
+    answers["cut"] = canaries["right"].text[:20] + "\x03"
+    for name, canary in canaries.items():
+        write(f"{home}/{name}.secret", canary.text)
     pathlib.Path(home, "letter").write_bytes(random.randbytes(300000))
     os.truncate(write(f"{home}/zeros", ""), 8 << 30)
-    for place, arguments, canaries, told, expected in console_cases(home, right, wrong, key, iv):
+    for row in pathlib.Path(sys.path[0], "../data/secret_jobs.txt").read_text().splitlines():
+        if row[0] == "#":
+            continue
+        place, words, given, told, expected = (field.strip() for field in row.split("|"))
+        given = [canaries[name] for name in given.split()]
         master, terminal = pty.openpty()
         settings = termios.tcgetattr(terminal)
         settings[1] &= ~termios.OPOST
         termios.tcsetattr(terminal, termios.TCSANOW, settings)
         with open(f"{home}/messages", "ab") as messages:
-            program = Traced([CLI, *arguments], terminal=terminal, stdin=terminal, stdout=messages, stderr=messages)
-        if isinstance(told, signal.Signals):
+            program = Traced([CLI, *words.replace("~", home).split()], terminal=terminal, stdin=terminal,
+                             stdout=messages, stderr=messages)
+        if told == "stop":
             eventually(lambda: seconds_of(program) > 0.2, "it does not work")
-            report.await_clean(f"console, {place}, before", program, *canaries)
-            os.kill(program.pid, told)
-        elif told:
-            answer_prompts(master, told)
+            report.await_clean(f"console, {place}, before", program, *given)
+            os.kill(program.pid, signal.SIGINT)
+        else:
+            answer_prompts(master, [answers[word] for word in told.split()])
         program.hold_at_end()
-        report.await_clean("console, " + place, program, *canaries)
-        if (code := program.end()) != expected:
+        report.await_clean(f"console, {place}", program, *given)
+        if (code := program.end()) != int(expected):
             report.tell(f"console, {place}", [f"ended with {code}"])
         os.close(master)
         os.close(terminal)
     os.remove(f"{home}/zeros")
-    report.written("console, files and messages", home, [right, wrong, key, iv])
+    report.written("console, files and messages", home, canaries.values())
 
 
 class Window:
     def __init__(self, report, home, screen):
         self.report, self.home, self.screen = report, home, screen
         self.right, self.seen = password(), []
-        write(f"{home}/right.password", self.right.text)
+        write(f"{home}/right.secret", self.right.text)
         letter = write(f"{home}/plain", "x" * 5000)
         for name, seal in (("letter", []), ("sealed", ["--seal"])):
-            subprocess.run([CLI, "encrypt", "-q", *seal, "--password-file", f"{home}/right.password", "-o",
+            subprocess.run([CLI, "encrypt", "-q", *seal, "--password-file", f"{home}/right.secret", "-o",
                             f"{home}/{name}", letter], check=True, timeout=PATIENCE)
 
     def start(self, name):
@@ -208,10 +194,9 @@ class Window:
 
     # What is filled in where
 
-    def encryption(self, shown=False):
+    def encryption(self, *keys):
         dialog, secret = self.open("F5", "Password to encrypt"), password()
-        if shown:
-            self.screen.key("Alt_L+s", "Alt_L+p")
+        self.screen.key(*keys)
         self.screen.type(secret.text, secret.text)
         self.await_typed(secret)
         return dialog, "Password to", [secret]
@@ -244,20 +229,18 @@ class Window:
     # The places
 
     def leave(self):
-        for name, fill in (("encryption", self.encryption), ("shown encryption", lambda: self.encryption(True)),
-                           ("decryption", self.decryption), ("key and IV", self.key_and_iv)):
-            for way in ("Escape", "Cancel", "close"):
-                dialog, title, secrets = fill()
+        ways = "Escape", "Cancel", "close"
+        for name, fill, ways in (("encryption", self.encryption, ways), ("decryption", self.decryption, ways),
+                                 ("shown encryption", lambda: self.encryption("Alt_L+s", "Alt_L+p"), ways),
+                                 ("key and IV", self.key_and_iv, ways),
+                                 ("generator", self.generator, ("Return", "Escape", "close"))):
+            for way in ways:
+                dialog, title, secrets, *behind = fill()
                 self.away(way, dialog, title)
+                for outer in behind:
+                    self.screen.focus(outer)
+                    self.away("Escape", outer, "Password to")
                 self.check(f"{name} left by {way}", *secrets)
-
-    def generate(self):
-        for way in ("Return", "Escape", "close"):
-            dialog, title, secrets, outer = self.generator()
-            self.away(way, dialog, title)
-            self.screen.focus(outer)
-            self.away("Escape", outer, "Password to")
-            self.check(f"generator left by {way}", *secrets)
 
     def accept(self):
         """The output's name is proposed when the window opens, and stays."""
@@ -275,14 +258,12 @@ class Window:
     def stop(self):
         _, title, secrets = self.decryption()
         self.away("Return", None, title)
-        main = eventually(lambda: self.screen.find("% - "), "no job")
-        self.screen.focus(main)
+        self.screen.focus(eventually(lambda: self.screen.find("% - "), "no job"))
         self.screen.key("F8")
         self.await_end()
         self.check("stopped at work", *secrets)
 
     def end(self, place, *canaries):
-        self.seen += canaries
         os.kill(self.program.pid, signal.SIGTERM)
         self.program.hold_at_end()
         self.check(place, *canaries)
@@ -293,7 +274,6 @@ def run_window(report, home):
     window = Window(report, home, Screen())
     window.start("letter")
     window.leave()
-    window.generate()
     window.accept()
     _, _, secrets = window.key_and_iv()
     window.end("ended while a dialog is open", *secrets)
