@@ -8,8 +8,6 @@
 
 namespace {
 
-using thisapp::AlgSelection;
-
 const QString Separator(51, '/');
 
 TEST(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
@@ -55,14 +53,7 @@ TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
 
 TEST(AlgInfoDialog, KnowsNothingOfOtherLibraries)
 {
-    struct : FakeAlgProvider
-    {
-        bool entry(int, AlgSelection& selection, bool& enabled) const override
-        {
-            selection = {2, 252};
-            return enabled = true;
-        }
-    } other;
+    const FakeAlgProvider other(2);
     CAlgInfoDialog dialog;
     dialog.setProvider(other);
     dialog.setSelection({2, 252});
