@@ -12,12 +12,7 @@
 
 namespace {
 
-using Role = QAccessible::Role;
-const QSet<Role> Controls{Role::Button,  Role::CheckBox, Role::ComboBox,   Role::EditableText,
-                          Role::Link,    Role::SpinBox,  Role::List,       Role::ListItem,
-                          Role::PageTab, Role::Table,    Role::ProgressBar};
-
-/// What a screen reader cannot name, by role and object name.
+/// What can have the focus and a screen reader cannot name, by role and object name.
 QString nameless(QAccessibleInterface* parent)
 {
     QString found;
@@ -25,7 +20,9 @@ QString nameless(QAccessibleInterface* parent)
         QAccessibleInterface* child = parent->child(at);
         if (child == nullptr || child->state().invisible)
             continue;
-        if (Controls.contains(child->role()) && child->text(QAccessible::Name).isEmpty())
+        // The tabs have names, not what holds them.
+        const bool focusable = child->state().focusable && child->role() != QAccessible::Client;
+        if (focusable && child->text(QAccessible::Name).isEmpty())
             found += QString("%1 %2, ")
                          .arg(child->role())
                          .arg(child->object() ? child->object()->objectName() : "item");

@@ -44,20 +44,11 @@ void QAccessible::updateAccessibility(QAccessibleEvent* event)
 
 namespace {
 
-/// What a screen reader is told.
-struct Announcement : testing::Test
+TEST(Announcement, TellsTheLastMessageOnceItHasSettled)
 {
-    Announcement()
-    {
-        heard.clear();
-        told.clear();
-        hasReader = true;
-    }
-    ~Announcement() override { hasReader = false; }
-};
-
-TEST_F(Announcement, TellsTheLastMessageOnceItHasSettled)
-{
+    const QScopedValueRollback<bool> reader(hasReader, true);
+    heard.clear();
+    told.clear();
     QWidget window;
     CMessageField field(&window);
     CMessageLabel label(&window);
@@ -85,8 +76,9 @@ TEST_F(Announcement, TellsTheLastMessageOnceItHasSettled)
     EXPECT_NE(QAccessible::accessibleInterface(told.at(2)), nullptr) << "the second one";
 }
 
-TEST_F(Announcement, TellsNoPasswords)
+TEST(Announcement, TellsNoPasswords)
 {
+    const QScopedValueRollback<bool> reader(hasReader, true);
     thisapp::maskTextOfSecretFields();
     QLineEdit field;
     const QString bullets(3, QChar(0x2022));
@@ -96,8 +88,8 @@ TEST_F(Announcement, TellsNoPasswords)
         QAccessibleTextInsertEvent inserted(&field, 0, "abc");
         QAccessibleTextRemoveEvent removed(&field, 0, "abc");
         QAccessibleTextUpdateEvent updated(&field, 0, "abc", "abc");
-        for (QAccessibleEvent* event :
-             std::initializer_list<QAccessibleEvent*>{&inserted, &removed, &updated}) {
+        const std::initializer_list<QAccessibleEvent*> changes{&inserted, &removed, &updated};
+        for (QAccessibleEvent* event : changes) {
             ASSERT_NE(handler, nullptr) << "for every change";
             handler(event);
         }
