@@ -39,10 +39,6 @@ struct Form
         const QString shown = text("lineEditMsg").trimmed();
         return shown.isEmpty() || kind == MessageKind::Plain ? shown : kindName(kind) + ": " + shown;
     }
-    QString ended() const
-    {
-        return dialog.isVisible() ? "" : dialog.result() == QDialog::Accepted ? "accepted" : "rejected";
-    }
     /// Opens the dialog anew.
     void reopen()
     {
@@ -53,7 +49,9 @@ struct Form
     {
         if (answer.isEmpty())
             return ::press(keys);
-        EXPECT_TRUE(answered(answer, [&keys] { ::press(keys); }));
+        const auto waiting = answerModal(answer);
+        ::press(keys);
+        EXPECT_FALSE(std::exchange(*waiting, false)) << "no question was asked";
         QApplication::setActiveWindow(&dialog);
     }
     QString seen(const QString& name)
@@ -101,7 +99,10 @@ struct Form
         {"title", [this] { return dialog.windowTitle(); }},
         {"description", [this] { return dialog.accessibleDescription(); }},
         {"focused", [] { return focusName(); }},
-        {"ended", [this] { return ended(); }},
+        {"ended",
+         [this] {
+             return dialog.isVisible() ? "" : dialog.result() == QDialog::Accepted ? "accepted" : "rejected";
+         }},
     };
 };
 

@@ -132,15 +132,6 @@ inline std::shared_ptr<bool> answerModal(const QString& keys)
     return whenModal([keys](QWidget&) { press(keys); });
 }
 
-/// Answers the question that the steps lead to; false when none was asked.
-template <class Steps>
-bool answered(const QString& keys, Steps steps)
-{
-    const auto waiting = answerModal(keys);
-    steps();
-    return !std::exchange(*waiting, false);
-}
-
 /// A window is minimised, or shown again, by the window manager.
 template <class Event>
 void sendFromOutside(QWidget& window)

@@ -116,20 +116,18 @@ struct SetAlgForm : Form<CSetAlgDialog>
         };
         outcomes["chosen"] = [this] { return QString::number(dialog.selection().algorithm); };
         outcomes["options"] = [this] { return namesOf({{"default", dialog.useAsDefault()}}); };
-        outcomes["list"] = [this] { return shown().mid(0, 5).join(' '); };
+        outcomes["list"] = [this] {
+            QStringList names;
+            for (int row = 0; row < list.count(); ++row)
+                if (!list.item(row)->isHidden())
+                    names += list.item(row)->text();
+            return names.mid(0, 5).join(' ');
+        };
         outcomes["advice"] = [this] {
             return kindName(shownKind(child(dialog, "labelAdvice"))) + ": " + text("labelAdvice");
         };
         outcomes["tip"] = [this] { return list.currentItem()->toolTip(); };
         outcomes["spoken"] = [this] { return list.currentItem()->data(Qt::AccessibleTextRole).toString(); };
-    }
-    QStringList shown() const
-    {
-        QStringList names;
-        for (int row = 0; row < list.count(); ++row)
-            if (!list.item(row)->isHidden())
-                names += list.item(row)->text();
-        return names;
     }
 
     QListWidget& list = child<QListWidget>(dialog, "listWidgetAlg");

@@ -62,7 +62,10 @@ struct OptionsForm : Form<COptionsDialog>, thisapp::IAppOptionsChanged
             problem = row[1];
             inUse = row.value(2);
         };
-        outcomes["samples"] = [this] { return samples(); };
+        outcomes["samples"] = [this] {
+            QString both = text("frameEncryption/editSample") + ' ' + text("frameDecryption/editSample");
+            return both.replace(QDate::currentDate().toString("yyyy_MM_dd"), "TODAY");
+        };
         outcomes["applied"] = [this] { return applied.join(", "); };
         outcomes["taken"] = [this] { return changes(dialog.options()); };
         outcomes["algorithm"] = [this] {
@@ -101,11 +104,6 @@ struct OptionsForm : Form<COptionsDialog>, thisapp::IAppOptionsChanged
         });
         child<QAbstractButton>(dialog, "buttonBrowse").click();
     }
-    QString samples()
-    {
-        QString both = text("frameEncryption/editSample") + ' ' + text("frameDecryption/editSample");
-        return both.replace(QDate::currentDate().toString("yyyy_MM_dd"), "TODAY");
-    }
 
     QStringList applied;
     QString problem, inUse; ///< what the receiver answers
@@ -125,7 +123,7 @@ TEST_F(OptionsDialog, ShowsAndReturnsEveryValue)
     for (const SAppOptions& options : test::eachChanged()) {
         show(options);
         press("Return");
-        EXPECT_EQ(ended(), "accepted");
+        EXPECT_EQ(seen("ended"), "accepted");
         EXPECT_EQ(changes(dialog.options()), changes(options));
         EXPECT_EQ(seen("algorithm"), "0") << "what the window has selected stays";
     }

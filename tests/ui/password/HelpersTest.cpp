@@ -46,7 +46,7 @@ TEST(StrengthBar, FillsAsManyFieldsAsTheLevelFromTheSideOfTheLanguage)
             bar.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
             const QString full(level, '#'), empty(Fields - level, '-');
             const QString wanted = rightToLeft ? empty + full : full + empty;
-            EXPECT_TRUE(comesTrue([&] { return filled() == wanted; })) << filled() << wanted;
+            ASSERT_TRUE(comesTrue([&] { return filled() == wanted; })) << filled() << wanted;
         }
     EXPECT_EQ(bar.accessibleDescription(), "text");
 }

@@ -49,7 +49,7 @@ struct KeyAndIvForm : Form<Dialog>
             EXPECT_EQ(QDir(folder.path().c_str()).count(), 3U) << "a temporary file is left";
             return QString::fromStdString(test::readFile(folder / "saved.txt"));
         };
-        outcomes["texts"] = [this] { return texts(); };
+        outcomes["texts"] = [this] { return iv.toPlainText() + ',' + key.toPlainText(); };
         outcomes["fields"] = [this] {
             return text("labelIvCount") + ' ' + ground(iv) + ", " + text("labelKeyCount") + ' ' + ground(key);
         };
@@ -71,7 +71,6 @@ struct KeyAndIvForm : Form<Dialog>
             {tessaly::SecretText(ivText.toStdString()), tessaly::SecretText(keyText.toStdString())});
         reopen();
     }
-    QString texts() const { return iv.toPlainText() + ',' + key.toPlainText(); }
     static QString hex(const tessaly::SecretBytes& bytes) { return tessaly::encodeHex(bytes).c_str(); }
     QString ground(const QWidget& field) const
     {
