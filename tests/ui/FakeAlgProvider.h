@@ -6,12 +6,13 @@
 class FakeAlgProvider : public thisapp::ICryptoAlgProvider
 {
 public:
+    explicit FakeAlgProvider(std::uint32_t library = 1) : m_library(library) {}
     int count() const override { return 4; }
     bool entry(int index, thisapp::AlgSelection& selection, bool& enabled) const override
     {
         if (index == 2)
             return false;
-        selection = {1, index == 0 ? 252U : static_cast<std::uint32_t>(index)};
+        selection = {m_library, index == 0 ? 252U : static_cast<std::uint32_t>(index)};
         enabled = index != 1;
         return true;
     }
@@ -21,6 +22,9 @@ public:
     }
     bool isValid(const thisapp::AlgSelection& selection) const override
     {
-        return selection.library == 1 && (selection.algorithm == 252 || selection.algorithm == 3);
+        return selection.library == m_library && (selection.algorithm == 252 || selection.algorithm == 3);
     }
+
+private:
+    std::uint32_t m_library;
 };

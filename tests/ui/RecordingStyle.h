@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleOptionButton>
+#include <map>
 #include <vector>
 
 /// A style of the program that remembers what it draws.
@@ -31,15 +32,6 @@ public:
         primitives.clear();
         widget.grab();
     }
-    /// Where such elements were drawn.
-    std::vector<QRect> drawn(PrimitiveElement wanted) const
-    {
-        std::vector<QRect> places;
-        for (const auto& [element, rect] : primitives)
-            if (element == wanted)
-                places.push_back(rect);
-        return places;
-    }
 
     void drawItemText(QPainter* painter, const QRect& rect, int alignment, const QPalette& palette,
                       bool enabled, const QString& text, QPalette::ColorRole role) const override
@@ -50,7 +42,7 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override
     {
-        primitives.emplace_back(element, option->rect);
+        primitives.emplace(element, option->rect);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -62,9 +54,8 @@ public:
     }
 
     mutable std::vector<SText> texts;
+    mutable std::multimap<PrimitiveElement, QRect> primitives; ///< and where
 
 private:
     RecordingStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-    mutable std::vector<std::pair<PrimitiveElement, QRect>> primitives;
 };

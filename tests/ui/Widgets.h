@@ -64,24 +64,6 @@ inline void open(QWidget& window)
     ASSERT_TRUE(comesTrue([&window] { return window.isActiveWindow(); }));
 }
 
-/// A test of one dialog.
-template <class Dialog>
-struct DialogTest : testing::Test
-{
-    QString text(const QString& path) { return ::text(dialog, path); }
-    bool isEnabled(const QString& path) { return child(dialog, path).isEnabled(); }
-    /// The dialog's message, with the kind that its colour stands for: "Error: It failed."
-    QString message()
-    {
-        const MessageKind kind = shownKind(child(dialog, "lineEditMsg"));
-        const QString shown = text("lineEditMsg");
-        return shown.isEmpty() || kind == MessageKind::Plain ? shown : kindName(kind) + ": " + shown;
-    }
-    bool isVisible(const QString& path) { return child(dialog, path).isVisible(); }
-
-    Dialog dialog;
-};
-
 inline QString focusName()
 {
     return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : QString();
@@ -97,9 +79,9 @@ inline QSet<QWidget*> buttonsThatAreDown()
 }
 
 /// Sends keys to whatever has the focus, as a keyboard would: "Tab Alt+G Return".
-inline void press(const char* keys)
+inline void press(const QString& keys)
 {
-    for (const QString& name : QString(keys).split(' ')) {
+    for (const QString& name : keys.split(' ')) {
         ASSERT_NE(QApplication::focusWidget(), nullptr) << qPrintable(name);
         const QSet<QWidget*> before = buttonsThatAreDown();
         const int key = QKeySequence(name)[0];
@@ -111,9 +93,9 @@ inline void press(const char* keys)
 }
 
 /// Types a text; a tab in it leads to the next field, a line feed is the Return key.
-inline void type(const char* text)
+inline void type(const QString& text)
 {
-    for (const QChar c : QString::fromUtf8(text)) {
+    for (const QChar c : text) {
         if (c == '\t' || c == '\n') {
             press(c == '\t' ? "Tab" : "Return");
             continue;
@@ -145,18 +127,9 @@ std::shared_ptr<bool> whenModal(Steps steps, QWidget* present = QApplication::ac
     return waiting;
 }
 
-inline std::shared_ptr<bool> answerModal(const char* keys)
+inline std::shared_ptr<bool> answerModal(const QString& keys)
 {
     return whenModal([keys](QWidget&) { press(keys); });
-}
-
-/// Answers the question that the steps lead to; false when none was asked.
-template <class Steps>
-bool answered(const char* keys, Steps steps)
-{
-    const auto waiting = answerModal(keys);
-    steps();
-    return !std::exchange(*waiting, false);
 }
 
 /// A window is minimised, or shown again, by the window manager.

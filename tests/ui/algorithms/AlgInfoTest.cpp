@@ -8,8 +8,6 @@
 
 namespace {
 
-using thisapp::AlgSelection;
-
 const QString Separator(51, '/');
 
 TEST(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
@@ -23,7 +21,7 @@ TEST(AlgInfoReport, SaysWhatTheAlgorithmHasLineByLine)
     }
 }
 
-TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
+TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsOfItsLibraryInListOrderAfterADelay)
 {
     const thisapp::CCryptoAlgProvider provider;
     CAlgInfoDialog dialog;
@@ -51,24 +49,14 @@ TEST(AlgInfoDialog, PrintsTheSelectedAlgorithmsInListOrderAfterADelay)
     child<QLineEdit>(dialog, "lineEditFilter").setText("sealed by nobody");
     EXPECT_TRUE(comesTrue([&pane] { return pane.toPlainText().isEmpty(); }))
         << "what is hidden is not selected";
-}
 
-TEST(AlgInfoDialog, KnowsNothingOfOtherLibraries)
-{
-    struct : FakeAlgProvider
-    {
-        bool entry(int, AlgSelection& selection, bool& enabled) const override
-        {
-            selection = {2, 252};
-            return enabled = true;
-        }
-    } other;
-    CAlgInfoDialog dialog;
+    const FakeAlgProvider other(2);
     dialog.setProvider(other);
     dialog.setSelection({2, 252});
+    dialog.hide();
     open(dialog);
-    EXPECT_TRUE(text(dialog, "plainTextEditInfo").contains("not defined"));
-    EXPECT_EQ(child<QListWidget>(dialog, "listWidgetAlg").item(0)->toolTip(), "");
+    EXPECT_TRUE(pane.toPlainText().contains("not defined")) << "of another library";
+    EXPECT_EQ(list.item(0)->toolTip(), "");
 }
 
 } // namespace

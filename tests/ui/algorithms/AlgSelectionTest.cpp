@@ -1,8 +1,7 @@
 #include "crypto/catalogue/Catalogue.h"
-#include "support/DataRows.h"
 #include "ui/FakeAlgProvider.h"
+#include "ui/Form.h"
 #include "ui/RecordingStyle.h"
-#include "ui/Widgets.h"
 #include "ui/algorithms/AlgAdviceText.h"
 #include "ui/algorithms/AlgColumns.h"
 #include "ui/algorithms/AlgListFiller.h"
@@ -38,10 +37,8 @@ TEST(CryptoAlgProvider, OffersTheWholeCatalogueAndNothingElse)
     AlgSelection selection;
     bool enabled = false;
     const auto& last = tessaly::crypto::catalogue().back();
-    ASSERT_EQ(Provider.count(), std::ssize(tessaly::crypto::catalogue()));
-    ASSERT_TRUE(Provider.entry(Provider.count() - 1, selection, enabled));
+    EXPECT_TRUE(Provider.entry(Provider.count() - 1, selection, enabled) && enabled);
     EXPECT_EQ(selection, (AlgSelection{1, last.id}));
-    EXPECT_TRUE(enabled);
     EXPECT_EQ(Provider.displayName(selection).toStdString(), last.name);
     EXPECT_FALSE(Provider.entry(Provider.count(), selection, enabled));
     EXPECT_FALSE(Provider.entry(-1, selection, enabled));
@@ -99,177 +96,105 @@ TEST(AlgList, ShowsAsManyColumnsAsThereIsRoomFor)
         EXPECT_LE(metrics.horizontalAdvance(thisapp::algAdvice(entry.advice).remark), widths.back());
 }
 
-struct SetAlgDialog : DialogTest<CSetAlgDialog>
+struct SetAlgForm : Form<CSetAlgDialog>
 {
-    QPoint place(int row) const { return list.visualItemRect(list.item(row)).center(); }
-    QString shown() const
+    SetAlgForm()
     {
-        QStringList names;
-        for (int row = 0; row < list.count(); ++row)
-            if (!list.item(row)->isHidden())
-                names += list.item(row)->text();
-        return names.join(' ');
-    }
-    void reopen(const AlgSelection& selection)
-    {
-        dialog.hide();
-        dialog.setSelection(selection);
-        open(dialog);
+        settings = {{"default", &CSetAlgDialog::setUseAsDefault}};
+        verbs["provider"] = [this](const QStringList& row) {
+            row[1] == "fake" ? dialog.setProvider(Fake) : dialog.setProvider(Provider);
+        };
+        verbs["given"] = [this](const QStringList& row) {
+            dialog.setSelection({1, row[1].toUInt()});
+            reopen();
+        };
+        verbs["pick"] = [this](const QStringList& row) {
+            const QPoint place = list.visualItemRect(list.item(row[1].toInt())).center();
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+            if (row.size() > 2)
+                QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+        };
+        outcomes["chosen"] = [this] { return QString::number(dialog.selection().algorithm); };
+        outcomes["options"] = [this] { return namesOf({{"default", dialog.useAsDefault()}}); };
+        outcomes["list"] = [this] {
+            QStringList names;
+            for (int row = 0; row < list.count(); ++row)
+                if (!list.item(row)->isHidden())
+                    names += list.item(row)->text();
+            return names.mid(0, 5).join(' ');
+        };
+        outcomes["advice"] = [this] {
+            return kindName(shownKind(child(dialog, "labelAdvice"))) + ": " + text("labelAdvice");
+        };
+        outcomes["tip"] = [this] { return list.currentItem()->toolTip(); };
+        outcomes["spoken"] = [this] { return list.currentItem()->data(Qt::AccessibleTextRole).toString(); };
     }
 
     QListWidget& list = child<QListWidget>(dialog, "listWidgetAlg");
-    QLineEdit& filter = child<QLineEdit>(dialog, "lineEditFilter");
 };
 
-TEST_F(SetAlgDialog, ListsADisabledAlgorithmThatNothingCanChooseAndFillsOnceForEachRequest)
+TEST(SetAlgDialog, ListsFiltersAndChoosesAsItSays)
 {
-    dialog.setProvider(Fake);
-    reopen(Disabled);
-    ASSERT_EQ(list.count(), 3) << "the index that yields nothing is skipped";
-    EXPECT_EQ(dialog.selection(), thisapp::DefaultAlgSelection) << "the first row instead";
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place(1));
-    EXPECT_EQ(dialog.selection(), thisapp::DefaultAlgSelection);
-    press("Down");
-    EXPECT_EQ(dialog.selection(), Enabled);
-    EXPECT_EQ(text("labelAlg"), "Algorithm: Alg-3");
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place(2));
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place(2));
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-
-    reopen(Enabled);
-    press("Home");
-    dialog.hide();
-    open(dialog);
-    EXPECT_EQ(dialog.selection(), thisapp::DefaultAlgSelection) << "kept what the user chose";
-    filter.setText("no such");
-    EXPECT_FALSE(isEnabled("buttonOk"));
-    dialog.setUseAsDefault(true);
-    reopen(Enabled);
-    EXPECT_EQ(dialog.selection(), Enabled);
-    EXPECT_EQ(filter.text(), "");
-    auto& box = child<QCheckBox>(dialog, "checkBoxUseAsDefault");
-    EXPECT_TRUE(box.isChecked() && dialog.useAsDefault());
-    box.click();
-    EXPECT_FALSE(dialog.useAsDefault());
+    walk<SetAlgForm>("ui/algorithm_dialog.txt");
 }
 
-TEST_F(SetAlgDialog, FiltersByEveryColumnAndPutsTheRecommendedFirst)
+TEST(SelectAlgFrame, ShowsWhatTheProviderAcceptsAndTellsOnlyOfTheUsersChoices)
 {
-    dialog.setProvider(Provider);
-    reopen(thisapp::DefaultAlgSelection);
-    const std::pair<const char*, const char*> cases[] = {
-        {"SERPENT ", "Serpent-128 Serpent-192 Serpent-256"},
-        {"blocks of 1024", "Threefish-1024"},
-        {" recommended", "AES-256 Twofish-256 Serpent-256 Camellia-256"},
-        {"short key", "Skipjack"},
-        {"no such", ""},
-    };
-    for (const auto& [words, names] : cases) {
-        filter.setText(words);
-        EXPECT_EQ(shown(), names);
-        EXPECT_EQ(isEnabled("buttonOk"), *names != '\0');
-    }
-    filter.setText("serpent");
-    press("Alt+F PgDown"); // in the list, from the field
-    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 452}));
-    press("PgUp Down");
-    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 451}));
-    press("Alt+R");
-    EXPECT_EQ(shown(), "Serpent-256 Serpent-128 Serpent-192");
-    filter.setText("seal");
-    EXPECT_EQ(dialog.selection(), Panama);
-    const QString advice = text("labelAdvice");
-    EXPECT_TRUE(advice.contains("key stream")) << advice;
-    EXPECT_EQ(shownKind(child(dialog, "labelAdvice")), MessageKind::Warning);
-    EXPECT_EQ(list.currentItem()->toolTip(), Qt::convertFromPlainText(advice, Qt::WhiteSpaceNormal));
-    EXPECT_EQ(list.currentItem()->data(Qt::AccessibleTextRole).toString(),
-              "Panama, key 256 bits, Stream, seal needed");
-    reopen({1, 451});
-    EXPECT_TRUE(CSetAlgDialog().findChild<QCheckBox*>("checkBoxRecommendedFirst")->isChecked())
-        << "as chosen before";
-    EXPECT_TRUE(shown().startsWith("AES-256 Twofish-256 Serpent-256 Camellia-256 Panama ")) << shown();
-    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 451}));
-    press("Alt+R");
-    EXPECT_TRUE(shown().startsWith("Panama ")) << "the catalogue's order again";
-}
+    CSelectAlgFrame frame;
+    const QComboBox& box = child<QComboBox>(frame, "comboBoxAlg");
+    EXPECT_FALSE(frame.setSelection(Enabled)) << "no provider yet";
+    frame.setProvider(Refusing);
+    EXPECT_FALSE(frame.setSelection(Enabled));
+    frame.setProvider(Fake);
+    EXPECT_TRUE(frame.setSelection(Enabled));
+    frame.setProvider(OtherFake);
+    for (const AlgSelection& refused : {AlgSelection{}, Disabled, AlgSelection{2, 252}, AlgSelection{1, 7}})
+        EXPECT_FALSE(frame.setSelection(refused));
+    EXPECT_EQ(frame.selection(), Enabled) << "stays, with another provider, too";
+    open(frame);
+    frame.setFocus();
+    press("Up");
+    EXPECT_EQ(frame.selection(), thisapp::DefaultAlgSelection) << "passes over the disabled one";
 
-struct SelectAlgFrame : DialogTest<CSelectAlgFrame>
-{
-    QComboBox& box = child<QComboBox>(dialog, "comboBoxAlg");
-};
-
-TEST_F(SelectAlgFrame, FindsByTypingAndTellsOnlyOfTheUsersChoices)
-{
-    QSignalSpy changes(&dialog, &CSelectAlgFrame::notifyAlgChanged);
-    dialog.setProvider(Provider);
-    EXPECT_EQ(dialog.selection(), AlgSelection());
-    EXPECT_TRUE(dialog.setSelection(Panama));
+    frame.setProvider(Provider);
+    EXPECT_TRUE(frame.setSelection(Panama));
     EXPECT_TRUE(box.toolTip().contains("key stream"));
     EXPECT_EQ(box.accessibleDescription(), thisapp::algAdvice(Panama.algorithm).sentence);
-    EXPECT_TRUE(dialog.setSelection({1, 250}));
+    EXPECT_TRUE(frame.setSelection({1, 250}));
     EXPECT_EQ(box.toolTip(), "");
-    EXPECT_TRUE(dialog.setSelection({1, 200}));
-    dialog.setLabelWidth(321);
-    EXPECT_EQ(child(dialog, "labelAlg").minimumWidth(), 321);
-    {
-        const Capitals translator;
-        EXPECT_EQ(text("labelAlg"), "&ALGORITHM:");
-    }
-    open(dialog);
-    dialog.setFocus();
+    const QSignalSpy changes(&frame, &CSelectAlgFrame::notifyAlgChanged);
+    EXPECT_TRUE(frame.setSelection({1, 200}));
     press("F4 Return"); // opens the list
     EXPECT_EQ(changes.count(), 0) << "still the same algorithm";
     type("serpent-2");
-    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 452}));
-    EXPECT_GE(changes.count(), 1);
+    EXPECT_EQ(frame.selection(), (AlgSelection{1, 452}));
     const int before = changes.count();
+    EXPECT_GE(before, 1);
     press("Up");
-    EXPECT_EQ(dialog.selection(), (AlgSelection{1, 451}));
+    EXPECT_EQ(frame.selection(), (AlgSelection{1, 451}));
     EXPECT_EQ(changes.count(), before + 1);
-}
 
-TEST_F(SelectAlgFrame, RefusesWhatTheProviderDoesNotAccept)
-{
-    EXPECT_FALSE(dialog.setSelection(Enabled)) << "no provider yet";
-    dialog.setProvider(Refusing);
-    EXPECT_FALSE(dialog.setSelection(Enabled));
-    dialog.setProvider(Fake);
-    ASSERT_TRUE(dialog.setSelection(Enabled));
-    dialog.setProvider(OtherFake);
-    EXPECT_EQ(dialog.selection(), Enabled) << "stays with another provider";
-    for (const AlgSelection& refused : {AlgSelection{}, Disabled, AlgSelection{2, 252}, AlgSelection{1, 7}})
-        EXPECT_FALSE(dialog.setSelection(refused));
-    EXPECT_EQ(dialog.selection(), Enabled);
-
-    open(dialog);
-    box.setFocus();
-    press("Up");
-    EXPECT_EQ(dialog.selection(), thisapp::DefaultAlgSelection)
-        << "the keyboard passes over the disabled one";
+    frame.setLabelWidth(321);
+    EXPECT_EQ(child(frame, "labelAlg").minimumWidth(), 321);
+    const Capitals translator;
+    EXPECT_EQ(text(frame, "labelAlg"), "&ALGORITHM:");
 }
 
 TEST(DefaultAlgCommand, OpensOnTheStoredDefaultOrTheBuiltInOneAndStoresUnlessToldOtherwise)
 {
-    using Stored = std::optional<AlgSelection>;
-    const auto ask = [](const char* keys, const Stored& stored, const auto& provider) {
+    const auto ask = [](const char* keys, const std::optional<AlgSelection>& stored, const auto& provider) {
         answerModal(keys);
-        return thisapp::askDefaultAlgorithm(nullptr, provider, stored);
+        const auto outcome = thisapp::askDefaultAlgorithm(nullptr, provider, stored);
+        return !outcome ? ""
+                        : QString::number(outcome->current.algorithm) + (outcome->storeAsDefault ? "!" : "");
     };
-    const std::tuple<const char*, Stored, AlgSelection, bool> rows[] = {
-        {"Return", {}, {1, 252}, true},
-        {"Return", {{2, 400}}, {1, 252}, true},
-        {"Return", {{1, 253}}, {1, 252}, true},
-        {"Return", {{1, 400}}, {1, 400}, true},
-        {"Down Alt+U Return", {{1, 400}}, {1, 401}, false},
-    };
-    for (const auto& [keys, stored, chosen, stores] : rows) {
-        const auto outcome = ask(keys, stored, Provider);
-        ASSERT_TRUE(outcome);
-        EXPECT_EQ(outcome->current, chosen);
-        EXPECT_EQ(outcome->storeAsDefault, stores);
-    }
-    EXPECT_FALSE(ask("Esc", {}, Provider));
-    EXPECT_FALSE(ask("Return", {}, Refusing));
+    for (const AlgSelection& unknown : {AlgSelection{2, 400}, AlgSelection{1, 253}})
+        EXPECT_EQ(ask("Return", unknown, Provider), "252!");
+    EXPECT_EQ(ask("Return", {}, Provider), "252!");
+    EXPECT_EQ(ask("Return", AlgSelection{1, 400}, Provider), "400!");
+    EXPECT_EQ(ask("Down Alt+U Return", AlgSelection{1, 400}, Provider), "401");
+    EXPECT_EQ(ask("Esc", {}, Provider), "");
+    EXPECT_EQ(ask("Return", {}, Refusing), "");
 }
 
 } // namespace

@@ -10,8 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-template <class T>
-bool isReady(const std::shared_future<T>& answer)
+bool isReady(const std::shared_future<int>& answer)
 {
     return answer.wait_for(0ms) == std::future_status::ready;
 }

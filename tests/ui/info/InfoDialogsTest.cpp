@@ -7,26 +7,18 @@
 
 namespace {
 
-QString shownShortcuts()
+TEST(KeyboardShortcutDialog, ListsTheShortcutsInTheCurrentLanguage)
 {
+    const Capitals translator;
+    QApplication::setApplicationName("A <b> & c");
     CkeyboardShortcutInfoDialog dialog;
     dialog.setShortcuts(
         {{Qt::Key_F5, "Start encryption"}, {thisapp::ctrl(Qt::Key_F8), "Clear entered data"}});
     dialog.show();
-    return dialog.findChild<QTextEdit*>()->toPlainText();
-}
-
-TEST(KeyboardShortcutDialog, ListsTheShortcutsInTheCurrentLanguage)
-{
-    EXPECT_EQ(shownShortcuts(), "This is a list of keyboard shortcuts in Quillet.\n\n"
-                                "'F5' - Start encryption\n"
-                                "'Ctrl+F8' (Cmd+F8) - Clear entered data\n");
-    const Capitals translator;
-    QApplication::setApplicationName("A <b> & c");
-    const QString translated = shownShortcuts();
+    EXPECT_EQ(dialog.findChild<QTextEdit*>()->toPlainText(),
+              "THIS IS A LIST OF KEYBOARD SHORTCUTS IN A <b> & c.\n\n"
+              "'F5' - START ENCRYPTION\n'Ctrl+F8' (Cmd+F8) - CLEAR ENTERED DATA\n");
     QApplication::setApplicationName("Quillet");
-    EXPECT_TRUE(translated.startsWith("THIS IS A LIST OF KEYBOARD SHORTCUTS IN A <b> & c.")) << translated;
-    EXPECT_TRUE(translated.contains("'Ctrl+F8' (Cmd+F8) - CLEAR ENTERED DATA\n"));
 }
 
 TEST(AboutDialog, ShowsTheVersionsAndClosesOnEnter)
@@ -63,18 +55,16 @@ TEST(TextViewDialog, RefreshesAndShowsTheEnd)
 
 TEST(TextTail, KeepsOnlyWholeLinesOfTheEnd)
 {
-    const std::tuple<const char*, int, const char*> rows[] = {
-        {"", 10, ""},
-        {"one\ntwo\n", 8, "one\ntwo\n"},
-        {"one\ntwo\n", 7, "two\n"},
-        {"o\xc3\xbc\nt\xc3\xbc\n", 6, "t\xc3\xbc\n"},
-        {"one long line", 4, "line"},
-    };
     const test::TempFolder folder;
-    for (const auto& [content, most, tail] : rows) {
+    const auto tail = [&folder](const char* content, int most) {
         folder.write("log", content);
-        EXPECT_EQ(thisapp::readTextTail((folder / "log").c_str(), most).text, tail);
-    }
+        return thisapp::readTextTail((folder / "log").c_str(), most).text;
+    };
+    EXPECT_EQ(tail("", 10), "");
+    EXPECT_EQ(tail("one\ntwo\n", 8), "one\ntwo\n");
+    EXPECT_EQ(tail("one\ntwo\n", 7), "two\n");
+    EXPECT_EQ(tail("o\u00fc\nt\u00fc\n", 6), "t\u00fc\n");
+    EXPECT_EQ(tail("one long line", 4), "line");
     EXPECT_FALSE(thisapp::readTextTail((folder / "missing").c_str()).ok);
 }
 

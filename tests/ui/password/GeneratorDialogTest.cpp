@@ -1,10 +1,10 @@
 #include "support/SystemCall.h"
-#include "ui/Widgets.h"
+#include "ui/Form.h"
 #include "ui/password/CPasswordGeneratorDialog.h"
 
 namespace {
 
-struct GeneratorDialog : DialogTest<CPasswordGeneratorDialog>
+struct GeneratorDialog : testing::Test, Form<CPasswordGeneratorDialog>
 {
     GeneratorDialog() { open(dialog); }
     /// A copy, as the dialog wipes what it has.
@@ -40,7 +40,7 @@ TEST_F(GeneratorDialog, ShowsAndKeepsNothingBeyondItsEnd)
 {
     press("Alt+C");
     EXPECT_EQ(QApplication::clipboard()->text(), shown());
-    EXPECT_EQ(text("lineEditMsg"), "The password is on the clipboard for 60 seconds.");
+    EXPECT_EQ(message(), "Success: The password is on the clipboard for 60 seconds.");
     sendFromOutside<QHideEvent>(dialog);
     sendFromOutside<QShowEvent>(dialog);
     const QString used = shown();
@@ -62,7 +62,7 @@ TEST_F(GeneratorDialog, OffersNothingWithoutRandomBytes)
     const test::SystemCall none("getrandom", EIO);
     child<QPushButton>(dialog, "buttonAnother").click();
     EXPECT_EQ(field.text(), "");
-    EXPECT_EQ(text("lineEditMsg"), "The system's random generator failed.");
+    EXPECT_EQ(message(), "Error: The system's random generator failed.");
     EXPECT_FALSE(isEnabled("buttonUse") || isEnabled("buttonCopy"));
 }
 

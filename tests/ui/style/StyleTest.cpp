@@ -13,22 +13,13 @@
 #include "ui/style/TextSize.h"
 
 #include <QSignalSpy>
-#include <cmath>
 
 namespace {
 
-/// Contrast ratio as of WCAG 2.1.
-double contrast(const QColor& one, const QColor& other)
+/// Whether the one can be read on the other.
+bool differ(const QColor& one, const QColor& other)
 {
-    const auto linear = [](double c) {
-        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    const auto luminance = [&](const QColor& color) {
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-               0.0722 * linear(color.blueF());
-    };
-    const auto [less, more] = std::minmax({luminance(one), luminance(other)});
-    return (more + 0.05) / (less + 0.05);
+    return std::abs(qGray(one.rgb()) - qGray(other.rgb())) > 110;
 }
 
 TEST(MessageStyle, ColoursCanBeReadAndMeanWhatTheyMeanEverywhere)
@@ -48,15 +39,19 @@ TEST(MessageStyle, ColoursCanBeReadAndMeanWhatTheyMeanEverywhere)
         for (const auto& [color, beside, from, to] : rows) {
             SCOPED_TRACE(testing::Message() << window << color.name());
             EXPECT_TRUE(from <= color.hslHue() && color.hslHue() <= to);
-            EXPECT_TRUE(grey || contrast(color, beside) >= 4.5);
+            EXPECT_TRUE(grey || differ(color, beside));
         }
         EXPECT_EQ(messageColor(MessageKind::Plain, theme), theme.color(QPalette::WindowText));
+        QApplication::setPalette(theme);
+        const QColor eye = thisapp::eyeIcon(false).pixmap(48).toImage().pixelColor(24, 17);
+        EXPECT_GT(eye.alpha(), 0x80);
+        EXPECT_EQ(eye.lightness() > 0x80, text.lightness() > 0x80) << window;
     }
 }
 
 TEST(TextDirection, TextsButtonsAndSelectionsStandAtTheSideOfTheLanguage)
 {
-    const QString hebrew = QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d");
+    const QString hebrew = "\u05e9\u05dc\u05d5\u05dd";
     const RecordingStyle& style = RecordingStyle::use();
     CIconButton button;
     button.setText("text");
@@ -80,9 +75,9 @@ TEST(TextDirection, TextsButtonsAndSelectionsStandAtTheSideOfTheLanguage)
         style.draw(button);
         EXPECT_EQ(style.texts.front().text, rightToLeft ? QChar(0x202b) + QString("text") : "text");
         style.draw(box);
-        const auto arrows = style.drawn(QStyle::PE_IndicatorArrowDown);
-        ASSERT_FALSE(arrows.empty());
-        EXPECT_EQ(arrows[0].center().x() < box.width() / 2, rightToLeft);
+        const auto arrow = style.primitives.find(QStyle::PE_IndicatorArrowDown);
+        ASSERT_NE(arrow, style.primitives.end());
+        EXPECT_EQ(arrow->second.center().x() < box.width() / 2, rightToLeft);
     }
 }
 
@@ -90,19 +85,12 @@ TEST(SubjectLabel, NamesFilesOnOneLineAndWidensNothing)
 {
     CSubjectLabel label;
     EXPECT_TRUE(label.isHidden());
-    for (const auto& [name, others, text] : {std::tuple("a", 0, "a"),
-                                             {"a", 1, "a and 1 more"},
-                                             {"A\nB\xe2\x80\xa8"
-                                              "C\t",
-                                              0,
-                                              "A\xef\xbf\xbd"
-                                              "B\xef\xbf\xbd"
-                                              "C\xef\xbf\xbd"}}) {
-        label.setSubject(QString::fromUtf8(name), others);
-        EXPECT_EQ(label.text(), QString::fromUtf8(text));
-        EXPECT_EQ(label.toolTip(), label.text());
-        EXPECT_FALSE(label.isHidden());
-    }
+    label.setSubject("A\nB\u2028C\t", 1);
+    EXPECT_EQ(label.text(), "A\ufffdB\ufffdC\ufffd and 1 more");
+    EXPECT_EQ(label.toolTip(), label.text());
+    EXPECT_FALSE(label.isHidden());
+    label.setSubject("a", 0);
+    EXPECT_EQ(label.text(), "a");
     label.setSubject("", 0);
     EXPECT_TRUE(label.isHidden());
     EXPECT_EQ(label.sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
@@ -127,7 +115,7 @@ TEST(LinkLabel, ShowsPlainTextAndTheFocusAndFollowsItsKeysAndScreenReaders)
     for (const bool focus : {false, true}) {
         focus ? link.setFocus() : link.clearFocus();
         style.draw(link);
-        EXPECT_EQ(style.drawn(QStyle::PE_FrameFocusRect).size(), focus ? 1U : 0U);
+        EXPECT_EQ(style.primitives.count(QStyle::PE_FrameFocusRect), focus ? 1U : 0U);
     }
     press("Return Enter Space A");
     EXPECT_EQ(followed.count(), 3);
@@ -175,12 +163,11 @@ TEST(FitToScreen, LeavesRoomForTheFrame)
     QWidget dialog;
     const QSize screen = dialog.screen()->availableSize();
     const int title = dialog.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    for (const QSize& wanted : {QSize(200, 100), QSize(20000, 10000)}) {
-        thisapp::fitToScreen(dialog, wanted);
-        EXPECT_EQ(dialog.size() == wanted, wanted.width() < screen.width());
-        EXPECT_LE(dialog.height() + title, screen.height());
-        EXPECT_LT(dialog.width(), screen.width());
-    }
+    thisapp::fitToScreen(dialog, {200, 100});
+    EXPECT_EQ(dialog.size(), QSize(200, 100));
+    thisapp::fitToScreen(dialog, {20000, 10000});
+    EXPECT_LE(dialog.height() + title, screen.height());
+    EXPECT_LT(dialog.width(), screen.width());
     EXPECT_EQ(thisapp::textSize(dialog, 10, 2),
               QSize(10 * dialog.fontMetrics().averageCharWidth(), 2 * dialog.fontMetrics().lineSpacing()));
     EXPECT_EQ(thisapp::textSize(dialog, 10000, 10000), screen * 9 / 10);
@@ -219,16 +206,6 @@ TEST(InfoText, ShowsPlainTextWholeAndIsOnlyRead)
     thisapp::showAsReadOnly(field);
     EXPECT_TRUE(field.isReadOnly());
     EXPECT_EQ(field.palette().color(QPalette::Base).alpha(), 0);
-}
-
-TEST(EyeIcon, HasTheColourOfTheTheme)
-{
-    for (const char* theme : {"#ffffff", "#2a2e32"}) {
-        QApplication::setPalette(QColor(theme));
-        const QColor shown = thisapp::eyeIcon(false).pixmap(48).toImage().pixelColor(24, 17);
-        EXPECT_GT(shown.alpha(), 0x80);
-        EXPECT_EQ(shown.lightness() > 0x80, QApplication::palette().color(QPalette::Text).lightness() > 0x80);
-    }
 }
 
 } // namespace
