@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What quillet-cli.exe leaves behind when the disk is full or it is killed: nothing partial, and nothing lost. Argument: the
+"""What quillet-cli.exe leaves behind when a job fails or is killed: nothing partial, and nothing lost. Argument: the
 program. Runs as root, for the disk of a few megabytes, else it is skipped. Nobody else should use its $WINEPREFIX, all
 of whose processes are killed."""
 import contextlib
@@ -26,6 +26,26 @@ def encrypt(*words, code=0):
 
 def written(name, data):
     pathlib.Path(name).write_bytes(data)
+
+
+def wrong_password():
+    encrypt("-o", "sealed", "-s", "plain")
+    encrypt("-o", "made", "plain")
+    written("wrong", b"wrong")
+    before = wine.files(".")
+    for name in ("made", "sealed"):
+        wine.run(PROGRAM, "decrypt", "--password-file", "wrong", "-o", "opened", name, code=3)
+        assert wine.files(".") == before
+    print("wrong password: 2 files refused, nothing written")
+
+
+def existing_output():
+    written("out", b"precious")
+    encrypt("-o", "out", "plain", code=1)
+    assert pathlib.Path("out").read_bytes() == b"precious"
+    encrypt("-fo", "out", "plain")
+    assert len(pathlib.Path("out").read_bytes()) > len(PLAIN)
+    print("existing output: kept, and replaced when asked to")
 
 
 @contextlib.contextmanager
@@ -142,6 +162,8 @@ with tempfile.TemporaryDirectory() as scratch:
     os.chdir(scratch)
     written("pw", wine.PASSWORD.encode())
     written("plain", PLAIN)
+    wrong_password()
+    existing_output()
     full_disk()
     kills(all_of_wine=False)
     kills(all_of_wine=True)
