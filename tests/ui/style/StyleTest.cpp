@@ -119,10 +119,10 @@ TEST(LinkLabel, ShowsPlainTextAndTheFocusAndFollowsItsKeysAndScreenReaders)
     }
     press("Return Enter Space A");
     EXPECT_EQ(followed.count(), 3);
-    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&link);
-    EXPECT_EQ(told->role(), QAccessible::Link);
-    EXPECT_EQ(told->text(QAccessible::Name), "a < b");
-    told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&link);
+    EXPECT_EQ(accessible->role(), QAccessible::Link);
+    EXPECT_EQ(accessible->text(QAccessible::Name), "a < b");
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(followed.count(), 4);
 
     const std::tuple<const char*, const char*, const char*> themes[] = {
