@@ -82,13 +82,6 @@ public:
     QLineEdit& input() { return find<QLineEdit>("lineEditInput"); }
     QLineEdit& output() { return find<QLineEdit>("lineEditOutput"); }
     QPushButton& button(const char* name) { return find<QPushButton>(name); }
-    QToolButton& toolButton(const char* toolTip)
-    {
-        for (auto* button : form().findChildren<QToolButton*>())
-            if (button->toolTip() == toolTip)
-                return *button;
-        qFatal("no button to %s", toolTip);
-    }
     CProgressBarFrame& progress() { return find<CProgressBarFrame>(); }
     CJobFrame& form() { return find<CJobFrame>(); }
     CDropHint& hint() { return find<CDropHint>(); }
@@ -152,19 +145,6 @@ public:
             child<QPushButton>(dialog, "buttonOk").click();
         });
     }
-    /// Chooses the file in the dialog to come; none leaves it.
-    void answerFile(const char* name)
-    {
-        onDialog<QFileDialog>([this, name](QFileDialog& dialog) {
-            asked = dialog.windowTitle() + '|' + QDir(path("")).relativeFilePath(dialog.directory().path()) +
-                    (dialog.acceptMode() == QFileDialog::AcceptSave ? "|save" : "");
-            if (!name)
-                return dialog.reject();
-            auto& field = child<QLineEdit>(dialog, "fileNameEdit");
-            field.setText(path(name));
-            QTest::keyClick(&field, Qt::Key_Return);
-        });
-    }
 
     /// Runs the event loop until it is so.
     static bool waitFor(const std::function<bool()>& condition)
@@ -179,7 +159,6 @@ public:
         return result();
     }
 
-    QString asked;                                   ///< title and folder of the last dialog for a file
     std::vector<std::pair<bool, bool>> shellUpdates; ///< context menu, "send to"
     std::vector<int> taskbarValues;
     bool isTaskbarShown = false;
