@@ -83,7 +83,7 @@ TEST_F(CommandsTest, AreListedForTheUser)
         text = child<QTextEdit>(dialog).toPlainText().toStdString();
         dialog.reject();
     });
-    trigger("shortcuts");
+    find<QAction>("shortcuts").trigger();
     EXPECT_EQ(text, readFile(TEST_DATA_DIR "/shortcuts.txt"));
 }
 

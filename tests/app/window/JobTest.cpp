@@ -19,7 +19,8 @@ TEST_F(JobTest, TellsThatItCannotStart)
                                      std::pair(Qt::Key_F6, "Failed to start the decryption. ")}) {
         folder.write("out", "former");
         EXPECT_EQ(run(key, "in", "out", Password), start + std::string("(error: 5/303)"));
-        EXPECT_EQ(detail("resultMessage"), "in \u2192 " + (folder / "out"));
+        EXPECT_EQ(find<CMessageLine>("resultMessage").detail().toStdString(),
+                  "in \u2192 " + (folder / "out"));
         EXPECT_FALSE(isRunning() || exists("out") || isInMemory(Password));
     }
     threads = true;
@@ -30,7 +31,7 @@ TEST_F(JobTest, TellsThatItCannotStart)
     });
     ASSERT_TRUE(waitFor([&] { return !threads && !isRunning(); }));
     EXPECT_EQ(text("inputMessage"), "The input file could not be deleted. (error: 5/303)");
-    EXPECT_EQ(kind("inputMessage"), MessageKind::Warning);
+    EXPECT_EQ(find<CMessageLine>("inputMessage").kind(), MessageKind::Warning);
 }
 
 /// At the cost that users have, to be in time, and with offers that end at once.
@@ -54,9 +55,9 @@ TEST_F(TimedTest, StopsWhileTheKeyIsMade)
 TEST_F(TimedTest, EndsAnOfferByItself)
 {
     writeInput("in");
-    encrypt();
+    run(Qt::Key_F5, "in", "out");
     select(452);
-    decrypt();
+    run(Qt::Key_F6, "out", "back");
     EXPECT_NE(text("inputMessage"), "");
     EXPECT_TRUE(waitFor([this] { return !link("inputMessage").isVisible(); }));
 }

@@ -1,10 +1,5 @@
 #include "window/WindowHarness.h"
 
-#include "support/Environment.h"
-#include "ui/algorithms/CAlgInfoDialog.h"
-#include "ui/algorithms/CSetAlgDialog.h"
-#include "ui/options/COptionsDialog.h"
-
 #include <QAccessible>
 
 namespace test {
@@ -56,53 +51,6 @@ TEST_F(MainWindowTest, TellsAScreenReaderWhatIsWhat)
     EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text),
               palette.color(QPalette::Active, QPalette::Text))
         << "names are to be read while a job runs";
-}
-
-TEST_F(MainWindowTest, ChoosesAnAlgorithmForNowOrForGood)
-{
-    for (const auto& [name, forGood] : {std::pair("Serpent-256", false), std::pair("AES-128", true)}) {
-        onDialog<CSetAlgDialog>([name = name, forGood = forGood](CSetAlgDialog& dialog) {
-            auto& list = child<QListWidget>(dialog);
-            list.setCurrentItem(list.findItems(name, Qt::MatchExactly).value(0));
-            child<QCheckBox>(dialog).setChecked(forGood);
-            dialog.accept();
-        });
-        trigger("default-algorithm");
-        EXPECT_EQ(algorithm(), name);
-        EXPECT_EQ(WindowHarness().algorithm(), forGood ? name : "AES-256");
-    }
-    onDialog<CAlgInfoDialog>([](CAlgInfoDialog& dialog) {
-        EXPECT_TRUE(child<QListWidget>(dialog).currentItem()->text().contains("AES-128"));
-        dialog.reject();
-    });
-    trigger("algorithm-info");
-}
-
-TEST_F(MainWindowTest, TellsOfWhatCannotBeSaved)
-{
-    folder.write("file", "");
-    const Environment nowhere("XDG_CONFIG_HOME", (folder / "file").c_str());
-    QStringList messages;
-    onDialog<COptionsDialog>([&](COptionsDialog& dialog) {
-        const auto& message = child<QLineEdit>(dialog, "lineEditMsg");
-        messages += message.text();
-        onDialog<COptionsDialog>([&](COptionsDialog& again) {
-            messages += message.text();
-            again.onUiCancel();
-        });
-        dialog.onUiOk();
-    });
-    trigger("options");
-    ASSERT_EQ(messages.size(), 2);
-    EXPECT_EQ(messages[0], "");
-    EXPECT_TRUE(messages[1].startsWith("The options can't be saved in ")) << messages[1].toStdString();
-
-    onDialog<CSetAlgDialog>([](CSetAlgDialog& dialog) {
-        child<QCheckBox>(dialog).setChecked(true);
-        dialog.accept();
-    });
-    trigger("default-algorithm");
-    EXPECT_EQ(result(), messages[1].toStdString());
 }
 
 } // namespace test

@@ -3,6 +3,7 @@
 #include "app/queue/CQueueList.h"
 #include "app/queue/CQueueModel.h"
 #include "support/DataRows.h"
+#include "support/Environment.h"
 
 namespace test {
 
@@ -138,23 +139,23 @@ private:
             .join('|');
     }
     void tell(const QString& text) { m_asked += (m_asked.isEmpty() ? "" : "|") + text; }
-    /// Sets a property of a child, presses one, tells the text of one, or leaves.
+    /// Sets a property of a child, presses one, tells the first line of a property, or leaves.
     void use(QDialog& dialog, const QString& step)
     {
         if (step == "reject")
             return dialog.reject();
-        const QString name = step.section(QRegularExpression("[.=!?]"), 0, 0);
+        const QString target = step.section(QRegularExpression("[=!?]"), 0, 0);
         const QString value = step.section('=', 1);
-        if (name == "key")
+        if (target == "key")
             return pressOn(dialog, value);
-        auto& widget = child<QWidget>(dialog, name);
+        auto& widget = child<QWidget>(dialog, target.section('.', 0, 0));
+        const QByteArray property = target.section('.', 1).toUtf8();
         if (step.endsWith('!'))
             pressOn(widget, "Space");
         else if (step.endsWith('?'))
-            tell(widget.property("plainText").isValid() ? widget.property("plainText").toString()
-                                                        : widget.property("text").toString());
+            tell(widget.property(property).toString().section('\n', 0, 0));
         else
-            EXPECT_TRUE(widget.setProperty(step.section('=', 0, 0).section('.', 1).toUtf8(), value));
+            EXPECT_TRUE(widget.setProperty(property, value));
     }
     /// In the order in which they are told of.
     void answerDialogs()
@@ -263,6 +264,7 @@ private:
         window.reset();
     }
 
+    std::optional<Environment> m_config; ///< another folder for the settings
     UrlRecorder m_folders;
     QTimer m_timer;
     QList<Words> m_dialogs; ///< to come: their class, and what is done there
@@ -271,6 +273,7 @@ private:
     const std::map<QString, std::function<void(const Words&)>> m_actions{
         {"$", [this](auto& words) { inShell(words); }},
         {"set", [this](auto& words) { setAll(words); }},
+        {"config", [this](auto& words) { m_config.emplace("XDG_CONFIG_HOME", words[0].toUtf8()); }},
         {"apply", [this](auto&) { options.applyAtStart(); }},
         {"options", [this](auto& words) { changeOptions(words); }},
         {"arguments", [this](auto& words) { window->processCommandLine(words); }},

@@ -87,14 +87,11 @@ public:
     CDropHint& hint() { return find<CDropHint>(); }
 
     std::string text(const char* line) { return find<CMessageLine>(line).text().toStdString(); }
-    std::string detail(const char* line) { return find<CMessageLine>(line).detail().toStdString(); }
-    MessageKind kind(const char* line) { return find<CMessageLine>(line).kind(); }
     std::string result() { return text("resultMessage"); }
     CLinkLabel& link(const char* line) { return child<CLinkLabel>(find<CMessageLine>(line)); }
 
     void select(std::uint32_t algorithm) { ASSERT_TRUE(form().algFrame().setSelection({1, algorithm})); }
     std::string algorithm() { return algorithms.displayName(form().algFrame().selection()).toStdString(); }
-    void trigger(const char* action) { find<QAction>(action).trigger(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(window.get(), key, modifiers);
@@ -105,7 +102,6 @@ public:
     QString path(const char* name) const { return QString::fromStdString(folder / name); }
     std::string read(const char* name) const { return readFile(folder / name); }
     bool exists(const char* name) const { return fs::exists(folder / name); }
-    void makeFolder(const char* name) const { fs::create_directories(folder / name); }
     /// A file of this many bytes that no two chunks of are alike.
     void writeInput(const char* name, std::size_t size = 10) const
     {
@@ -218,8 +214,6 @@ protected:
         start(key, in, out, password);
         return waitForEnd();
     }
-    std::string encrypt() { return run(Qt::Key_F5, "in", "out"); }
-    std::string decrypt() { return run(Qt::Key_F6, "out", "back"); }
 
     /// Whether they were taken.
     static bool drop(QWidget& target, const QMimeData& data)
