@@ -6,7 +6,7 @@ namespace test {
 
 using MainWindowTest = WindowTest;
 
-TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
+TEST_F(MainWindowTest, FitsTheScreenAndComesBackAsItWas)
 {
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()));
     EXPECT_LE(window->minimumSizeHint().height(), 300);
@@ -30,7 +30,10 @@ TEST_F(MainWindowTest, FitsTheScreenAndComesBackWhereItWas)
         other.window->close(); // and does not take its place
     }
     window.reset();
-    EXPECT_EQ(WindowHarness().window->geometry(), QRect(70, 60, 420, 380));
+    ASSERT_TRUE(options.storeDefaultAlgorithm({1, 452}));
+    WindowHarness next;
+    EXPECT_EQ(next.window->geometry(), QRect(70, 60, 420, 380));
+    EXPECT_EQ(next.algorithm(), "Serpent-256");
 }
 
 TEST_F(MainWindowTest, TellsAScreenReaderWhatIsWhat)

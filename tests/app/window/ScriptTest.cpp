@@ -232,13 +232,13 @@ private:
                 names += name;
         return names.join(' ');
     }
-    /// Its value, the greatest that it had, and whether it is shown.
+    /// Whether it is shown, its value, and the greatest that it had.
     QString taskbar() const
     {
         return QString("%1|%2|%3")
+            .arg(isTaskbarShown ? "shown" : "")
             .arg(taskbarValues.back())
-            .arg(std::ranges::max(taskbarValues))
-            .arg(isTaskbarShown ? "shown" : "");
+            .arg(std::ranges::max(taskbarValues));
     }
     /// How those of the desktop were brought up to date: the context menu, and "send to".
     QString menus()
@@ -315,7 +315,8 @@ private:
         {"fields-open", [this] { return input().isEnabled() || form().acceptDrops() ? "yes" : "no"; }},
         {"offered", [this] { return offered(); }},
         {"taskbar", [this] { return taskbar(); }},
-        {"title", [this] { return window->windowHandle()->title().remove(QRegularExpression("^\\d+% - ")); }},
+        {"title",
+         [this] { return window->windowHandle()->title().replace(QRegularExpression("^\\d+%"), "N%"); }},
         {"default", [this] { return button("buttonDecrypt").isDefault() ? "decrypt" : "encrypt"; }},
         {"algorithm", [this] { return QString::fromStdString(algorithm()); }},
         {"hint", [this] { return hint().accessibleName(); }},
