@@ -111,9 +111,7 @@ private:
         QList<QUrl> urls;
         for (const QString& file : files)
             urls += QUrl::fromLocalFile(file);
-        QMimeData data;
-        data.setUrls(urls);
-        drop(form(), data);
+        window->filesDropped(DropOnWindow, urls);
     }
     /// Of a dialog for a secret also file, algorithm, and what it shows and, if it is a switch, has on.
     static QString summary(QDialog& dialog)
