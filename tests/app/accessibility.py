@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""accessibility.py QUILLET: walks the main window and every dialog of the program as a screen reader does, and
-prints each control with its role, name and actions. Fails on a control without a name, or without an action
-where its role has one, and on a dialog that doesn't come. Needs an X server and a bus of its own."""
+"""accessibility.py QUILLET: walks the main window and every dialog of the program as a screen reader does. Fails on a control
+without a name, or without an action where its role has one, and on a dialog that doesn't come. Needs an X server and a
+bus of its own."""
 import os
 import subprocess
 import sys
@@ -56,9 +56,7 @@ def name_of(node):
 
 class Walk:
     def __init__(self, application):
-        self.application = application
-        self.faults = []
-        self.count = 0
+        self.application, self.faults, self.count = application, [], 0
 
     def expect(self, right, fault):
         if not right:
@@ -66,31 +64,25 @@ class Walk:
         return right
 
     def window(self, window):
-        print(f"== {window.name or '(no name)'}")
         self.expect(window.name, "a window without a title")
-        self.node(window, 0, False)
+        self.node(window)
         for tab in list(find_all(window, lambda n: n.getRole() == pyatspi.ROLE_PAGE_TAB))[1:]:
             before = shown(tab.parent.parent)
             do(tab, "Press")
             self.expect(eventually(lambda: shown(tab.parent.parent) != before), f"the tab {tab.name} shows nothing")
-            self.node(tab.parent.parent, 1, False)
+            self.node(tab.parent.parent)
 
-    def node(self, node, depth, within):
+    def node(self, node, within=False):
         role = node.getRole()
         is_reached = states(node, pyatspi.STATE_FOCUSABLE, pyatspi.STATE_SHOWING) and role not in PASSING
-        shown = states(node, pyatspi.STATE_VISIBLE) or node.parent.getRole() == pyatspi.ROLE_POPUP_MENU
-        if shown and not within and (role in NAMED or is_reached):
-            self.control(node, role, depth)
+        is_shown = states(node, pyatspi.STATE_VISIBLE) or node.parent.getRole() == pyatspi.ROLE_POPUP_MENU
+        if is_shown and not within and (role in NAMED or is_reached):
+            self.count += 1
+            self.expect(name_of(node) or role == pyatspi.ROLE_SEPARATOR, "no name: " + path_to(node))
+            can_act = role in ACTIVE and states(node, pyatspi.STATE_ENABLED, pyatspi.STATE_FOCUSABLE)
+            self.expect(actions_of(node) or not can_act, "no action: " + path_to(node))
         for child in children(node):
-            self.node(child, depth + 1, within or role in WITHIN)
-
-    def control(self, node, role, depth):
-        name, actions = name_of(node), actions_of(node)
-        self.count += 1
-        print(f"{'  ' * depth}{node.getRoleName()} \"{name}\" {', '.join(actions)}")
-        self.expect(name or role == pyatspi.ROLE_SEPARATOR, "no name: " + path_to(node))
-        can_act = role in ACTIVE and states(node, pyatspi.STATE_ENABLED, pyatspi.STATE_FOCUSABLE)
-        self.expect(actions or not can_act, "no action: " + path_to(node))
+            self.node(child, within or role in WITHIN)
 
     def dialog(self, parent, name, inner=()):
         """Opens it, walks it and what it opens, and closes it."""
@@ -205,8 +197,7 @@ def walk(quillet, home):
     try:
         application = eventually(lambda: next((a for a in pyatspi.Registry.getDesktop(0) if a is not None and len(a) > 0 and
                                                a.get_process_id() == process.pid), None))
-        if application is None:
-            sys.exit(f"the program has not come to the bus, and ended with {process.poll()}")
+        assert application, f"the program has not come to the bus, and ended with {process.poll()}"
         walk = Walk(application)
         main = eventually(lambda: application[0])
         eventually(lambda: "letter.txt" in main.name)
@@ -218,11 +209,8 @@ def walk(quillet, home):
     finally:
         process.terminate()
         process.wait(PATIENCE)
-    print(f"controls: {walk.count}, faults: {len(walk.faults)}")
-    for fault in walk.faults:
-        print("FAULT", fault)
-    return 1 if walk.faults else 0
+    sys.exit("\n".join(walk.faults) if walk.faults or not walk.count else 0)
 
 
 with tempfile.TemporaryDirectory() as home:
-    sys.exit(walk(sys.argv[1], home))
+    walk(sys.argv[1], home)

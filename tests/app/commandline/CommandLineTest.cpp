@@ -41,16 +41,13 @@ TEST(CommandLineTest, ReadsEveryFormOfTheArguments)
 
 TEST(CommandLineTest, TakesTheNamesAsAPair)
 {
-    const std::tuple<const char*, const char*, AlgSelection> cases[] = {
-        {"AES-128", "", {1, 250}},       {"aes-128", "crypto++", {1, 250}}, {"AES-128", "nobody's", {1, 250}},
-        {"AES-128", "1", {1, 250}},      {"AES-128", "10", {10, 250}}, // which provides nothing
-        {"no such", "Crypto++", {1, 0}},
-    };
-    for (const auto& [algorithm, library, pair] : cases) {
+    for (const auto& row : test::dataRows("command_line_names.txt")) {
         CommandLine line;
-        line.algorithm = algorithm;
-        line.library = library;
-        EXPECT_EQ(namedSelection(line), pair) << algorithm << ' ' << library;
+        line.algorithm = QString::fromStdString(row[0]);
+        line.library = QString::fromStdString(row[1]);
+        const AlgSelection pair = namedSelection(line);
+        EXPECT_EQ(std::to_string(pair.library) + ' ' + std::to_string(pair.algorithm), row[2])
+            << row[0] << ' ' << row[1];
     }
 }
 

@@ -3,6 +3,7 @@
 #include "app/i18n/SystemLanguage.h"
 #include "app/i18n/TranslationFolders.h"
 #include "lib/i18n/TranslationManager.h"
+#include "support/DataRows.h"
 #include "support/Environment.h"
 #include "support/TempFolder.h"
 
@@ -80,16 +81,13 @@ TEST(Translators, GetEveryTextOfTheSources)
 
 TEST(SystemLanguage, IsTheFirstThatWeHave)
 {
-    const std::vector<tessaly::i18n::Language> offered{{English, ""},    {Swiss, ""},   {German, ""},
-                                                       {Portuguese, ""}, {Chinese, ""}, {Arabic, ""}};
-    const std::pair<QStringList, std::uint32_t> rows[] = {
-        {{"de-DE"}, German},      {{"de-AT"}, Swiss},   {{"de"}, German},
-        {{"zh-CN"}, Chinese},     {{"zh-TW"}, English}, {{"zh-Hans-SG"}, Chinese},
-        {{"ar-EG"}, Arabic},      {{"C"}, English},     {{"en-GB", "de-DE"}, English},
-        {{"", "xx-YY"}, English}, {{}, English},        {{"sv-SE", "pt-PT", "de-DE"}, Portuguese},
-    };
-    for (const auto& [wanted, lcid] : rows)
-        EXPECT_EQ(thisapp::firstOffered(wanted, offered), lcid) << wanted.join(',').toStdString();
+    std::vector<tessaly::i18n::Language> offered;
+    for (const std::uint32_t lcid : {English, Swiss, German, Portuguese, Chinese, Arabic})
+        offered.push_back({lcid, ""});
+    for (const auto& row : test::dataRows("user_languages.txt")) {
+        const QStringList wanted = QString::fromStdString(row[0]).split(' ', Qt::SkipEmptyParts);
+        EXPECT_EQ(thisapp::firstOffered(wanted, offered), std::stoul(row[1])) << row[0];
+    }
 }
 
 TEST(TranslationFolders, AreTheUsersAndThatOfTheProgram)

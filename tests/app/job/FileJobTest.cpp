@@ -130,7 +130,7 @@ TEST_P(FileJobTest, TellsWhyItCouldNotDoIt)
 }
 
 /// On the worker's thread, whatever its owner is busy with.
-TEST_F(FileJobTest, TellsOfEveryPhaseAndLosesNoNews)
+TEST_F(FileJobTest, TellsOfEveryPhaseUpToTheRemovalAndLosesNoNews)
 {
     std::vector<JobPhase> phases;
     std::vector<std::int64_t> processed;
@@ -155,21 +155,17 @@ TEST_F(FileJobTest, TellsOfEveryPhaseAndLosesNoNews)
     EXPECT_EQ(processed.front(), 0);
     EXPECT_EQ(processed.back(), Size);
 
+    ASSERT_TRUE(job.startInputRemoval().ok());
+    EXPECT_TRUE(job.isRunning() && !job.isStoppable()) << "a removal heeds no stop";
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(job.inputRemoval().removed);
+    EXPECT_FALSE(fs::exists(folder / "plain"));
+
     SEncryptData wrong = request(Operation::Decrypt, "sealed", "out");
     wrong.selection = DefaultAlgSelection;
     EXPECT_FALSE(run(std::move(wrong)).root.bytes.empty()) << "for the algorithm that fits";
     job.clear();
     EXPECT_TRUE(job.data().outcome.root.bytes.empty());
-}
-
-TEST_F(FileJobTest, RemovesAnInputWithoutHeedingAStop)
-{
-    ASSERT_TRUE(run(request(Operation::Encrypt, "plain", "out")).done());
-    ASSERT_TRUE(job.startInputRemoval().ok());
-    EXPECT_TRUE(job.isRunning() && !job.isStoppable());
-    ASSERT_TRUE(waitForEnd());
-    EXPECT_TRUE(job.inputRemoval().removed);
-    EXPECT_FALSE(fs::exists(folder / "plain"));
 }
 
 } // namespace

@@ -71,18 +71,20 @@ TEST(FileQueueTest, ShowsHowFarAFileIs)
     using enum EntryState;
     FileQueue queue;
     const CQueueModel model(queue);
-    queue.add({file("/a", 200)});
+    queue.add({file("/<a>", 200)});
     queue.begin(true);
     queue.startNext();
     queue.setProcessed(0, 50);
     const QModelIndex state = model.index(0, CQueueModel::State);
     EXPECT_EQ(state.data().toString(), "Running, 25%");
+    const QModelIndex name = model.index(0, CQueueModel::Name);
+    EXPECT_EQ(name.data(Qt::ToolTipRole).toString(), "<p>/&lt;a&gt;</p>") << "a name is no markup";
 
     EXPECT_NE(painted(Running, 50), painted(Running, 150)) << "a bar";
     EXPECT_EQ(painted(Waiting, 50), painted(Waiting, 150)) << "a text";
     EXPECT_NE(painted(Waiting), painted(Done));
-    const std::string name = "/" + std::string(100, 'x');
-    EXPECT_NE(painted(Waiting, 0, (name + ".enc").c_str()), painted(Waiting, 0, (name + ".dec").c_str()))
+    const std::string stem = "/" + std::string(100, 'x');
+    EXPECT_NE(painted(Waiting, 0, (stem + ".enc").c_str()), painted(Waiting, 0, (stem + ".dec").c_str()))
         << "the end of a long name tells files apart";
     const auto glyph = [&](EntryState now) {
         queue.end(0, now, {});

@@ -53,6 +53,7 @@ TEST(WidgetsTest, ALongDetailKeepsTheEndsOfBothNames)
     label.setWholeText(whole);
     for (const char* part : {"begin", "end", "this", "that", "\u2026"})
         EXPECT_TRUE(label.text().contains(part)) << label.text().toStdString();
+    EXPECT_TRUE(label.toolTip().contains(whole));
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), 400);
     label.setWholeText("short");
     EXPECT_TRUE(label.text().contains("short"));
@@ -69,9 +70,6 @@ TEST(WidgetsTest, TheDropAreaShowsWhatItHasRoomFor)
     };
     for (const auto& [lines, count] : {std::pair(8, 3), std::pair(5, 2), std::pair(2, 1)})
         EXPECT_EQ(shown(lines), count);
-    const QImage idle = hint.grab().toImage();
-    hint.setHighlighted(true);
-    EXPECT_NE(hint.grab().toImage(), idle);
 }
 
 TEST(WidgetsTest, WhatWaitsForTheFirstPaintComesBehindItAndOnce)

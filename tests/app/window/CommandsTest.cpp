@@ -76,13 +76,6 @@ TEST_F(CommandsTest, EachDoesAndSaysWhatItShould)
         EXPECT_EQ(commandOf(key), "") << key;
 }
 
-TEST_F(CommandsTest, FilesAreAskedForWhereverTheUserClicks)
-{
-    for (auto* button : std::initializer_list<QAbstractButton*>{&hint(), &toolButton("Choose the input file"),
-                                                                &button("buttonAddToList")})
-        EXPECT_EQ(dialogOf([button] { button->click(); }), "QFileDialog");
-}
-
 TEST_F(CommandsTest, AreListedForTheUser)
 {
     std::string text;
@@ -90,26 +83,8 @@ TEST_F(CommandsTest, AreListedForTheUser)
         text = child<QTextEdit>(dialog).toPlainText().toStdString();
         dialog.reject();
     });
-    trigger("shortcuts");
+    find<QAction>("shortcuts").trigger();
     EXPECT_EQ(text, readFile(TEST_DATA_DIR "/shortcuts.txt"));
-}
-
-/// A combo box would take Ctrl+O as a search for "O".
-TEST_F(CommandsTest, KeysWorkWhereverTheFocusIs)
-{
-    const auto& list = child<QComboBox>(form().algFrame());
-    for (QWidget* focus : window->findChildren<QWidget*>()) {
-        if (focus->focusPolicy() == Qt::NoFocus || !focus->isVisible() || focus->window() != window.get())
-            continue;
-        SCOPED_TRACE(focus->metaObject()->className());
-        const int current = list.currentIndex();
-        for (const Qt::Key key : {Qt::Key_O, Qt::Key_N})
-            EXPECT_EQ(dialogOf([&] { QTest::keyClick(focus, key, Qt::ControlModifier); }), "QFileDialog");
-        output().setText("x");
-        QTest::keyClick(focus, Qt::Key_F8, Qt::ControlModifier);
-        EXPECT_EQ(output().text(), "");
-        EXPECT_EQ(list.currentIndex(), current);
-    }
 }
 
 } // namespace test

@@ -34,14 +34,10 @@ private:
     int m_least = 0;
 };
 
-struct Mounted
+class SlowFileSystemTest : protected SlowMount, public WindowTest
 {
-    SlowMount mount;
-};
-
-struct SlowFileSystemTest : Mounted, WindowTest
-{
-    SlowFileSystemTest() : WindowTest(std::ref(mount)) {}
+protected:
+    SlowFileSystemTest() : WindowTest(std::ref(static_cast<SlowMount&>(*this))) {}
 };
 
 /// The newest answer comes first.
@@ -50,48 +46,48 @@ TEST_F(SlowFileSystemTest, IsLookedAtOnceForEachChangeWithoutStalling)
     for (const char* name : {"a", "ab", "abc"})
         folder.write(name, "");
     input().setText(path(""));
-    ASSERT_TRUE(waitFor([this] { return mount.answers == 1; }));
-    mount.looks = mount.answers = 0;
-    mount.answerFrom(INT_MAX);
+    ASSERT_TRUE(waitFor([this] { return answers == 1; }));
+    looks = answers = 0;
+    answerFrom(INT_MAX);
     for (const char letter : {'a', 'b', 'c'}) {
         QTest::keyClick(&input(), letter);
         QCoreApplication::processEvents();
     }
-    ASSERT_TRUE(waitFor([this] { return mount.looks == 3; }));
-    EXPECT_EQ(mount.answers, 0) << "and the window has not waited for them";
-    mount.answerFrom(path("abc").size());
+    ASSERT_TRUE(waitFor([this] { return looks == 3; }));
+    EXPECT_EQ(answers, 0) << "and the window has not waited for them";
+    answerFrom(path("abc").size());
     ASSERT_TRUE(waitFor([this] { return !output().text().isEmpty(); }));
     EXPECT_EQ(output().text(), path("abc.enc"));
-    mount.answerFrom(0);
-    ASSERT_TRUE(waitFor([this] { return mount.answers == 3; })); // which nobody wants any more
+    answerFrom(0);
+    ASSERT_TRUE(waitFor([this] { return answers == 3; })); // which nobody wants any more
     EXPECT_EQ(hint().accessibleName(), "abc");
     QTest::keyClick(&input(), 'd');
     ASSERT_TRUE(waitFor([this] { return hint().accessibleName() == "Drop files here"; }));
     EXPECT_EQ(output().text(), path("abc.enc"));
-    EXPECT_EQ(mount.looks, 4);
+    EXPECT_EQ(looks, 4);
 
     // A drop that the user has typed over has nothing to say any more.
-    mount.answerFrom(INT_MAX);
+    answerFrom(INT_MAX);
     window->filesDropped(DropOnWindow, {QUrl::fromLocalFile(path("a")), QUrl("https://example.org/x")});
     QTest::keyClick(&input(), 'b');
-    mount.answerFrom(0);
+    answerFrom(0);
     ASSERT_TRUE(waitFor([this] { return hint().accessibleName() == "ab"; }));
     EXPECT_EQ(text("inputMessage"), "");
 
     // A command that can't do without the answer waits for it; an output given meanwhile stays.
     for (const char* given : {"", "mine"}) {
         output().clear();
-        mount.answerFrom(INT_MAX);
-        mount.looks = 0;
+        answerFrom(INT_MAX);
+        looks = 0;
         window->processCommandLine({"-ifile", path("ab")});
         if (*given)
             output().setText(path(given));
         answerPassword("");
-        QTimer::singleShot(0, window.get(), [this] { mount.answerFrom(0); });
+        QTimer::singleShot(0, window.get(), [this] { answerFrom(0); });
         press(Qt::Key_F5);
         EXPECT_EQ(result(), "Password not defined");
         EXPECT_EQ(output().text(), path(*given ? given : "ab.enc"));
-        EXPECT_EQ(mount.looks, 1);
+        EXPECT_EQ(looks, 1);
     }
 }
 

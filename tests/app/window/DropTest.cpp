@@ -29,7 +29,7 @@ TEST_F(DropTest, LightsTheHintAndTakesNoText)
 TEST_F(DropTest, TakesDroppedFiles)
 {
     writeInput("in");
-    makeFolder("sub");
+    fs::create_directory(folder / "sub");
     folder.write("n\xff", "");
     folder.write("in ", "");
     for (const auto& row : dataRows("drops.txt")) {

@@ -82,26 +82,16 @@ public:
     QLineEdit& input() { return find<QLineEdit>("lineEditInput"); }
     QLineEdit& output() { return find<QLineEdit>("lineEditOutput"); }
     QPushButton& button(const char* name) { return find<QPushButton>(name); }
-    QToolButton& toolButton(const char* toolTip)
-    {
-        for (auto* button : form().findChildren<QToolButton*>())
-            if (button->toolTip() == toolTip)
-                return *button;
-        qFatal("no button to %s", toolTip);
-    }
     CProgressBarFrame& progress() { return find<CProgressBarFrame>(); }
     CJobFrame& form() { return find<CJobFrame>(); }
     CDropHint& hint() { return find<CDropHint>(); }
 
     std::string text(const char* line) { return find<CMessageLine>(line).text().toStdString(); }
-    std::string detail(const char* line) { return find<CMessageLine>(line).detail().toStdString(); }
-    MessageKind kind(const char* line) { return find<CMessageLine>(line).kind(); }
     std::string result() { return text("resultMessage"); }
     CLinkLabel& link(const char* line) { return child<CLinkLabel>(find<CMessageLine>(line)); }
 
     void select(std::uint32_t algorithm) { ASSERT_TRUE(form().algFrame().setSelection({1, algorithm})); }
     std::string algorithm() { return algorithms.displayName(form().algFrame().selection()).toStdString(); }
-    void trigger(const char* action) { find<QAction>(action).trigger(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(window.get(), key, modifiers);
@@ -112,7 +102,6 @@ public:
     QString path(const char* name) const { return QString::fromStdString(folder / name); }
     std::string read(const char* name) const { return readFile(folder / name); }
     bool exists(const char* name) const { return fs::exists(folder / name); }
-    void makeFolder(const char* name) const { fs::create_directories(folder / name); }
     /// A file of this many bytes that no two chunks of are alike.
     void writeInput(const char* name, std::size_t size = 10) const
     {
@@ -152,19 +141,6 @@ public:
             child<QPushButton>(dialog, "buttonOk").click();
         });
     }
-    /// Chooses the file in the dialog to come; none leaves it.
-    void answerFile(const char* name)
-    {
-        onDialog<QFileDialog>([this, name](QFileDialog& dialog) {
-            asked = dialog.windowTitle() + '|' + QDir(path("")).relativeFilePath(dialog.directory().path()) +
-                    (dialog.acceptMode() == QFileDialog::AcceptSave ? "|save" : "");
-            if (!name)
-                return dialog.reject();
-            auto& field = child<QLineEdit>(dialog, "fileNameEdit");
-            field.setText(path(name));
-            QTest::keyClick(&field, Qt::Key_Return);
-        });
-    }
 
     /// Runs the event loop until it is so.
     static bool waitFor(const std::function<bool()>& condition)
@@ -179,7 +155,6 @@ public:
         return result();
     }
 
-    QString asked;                                   ///< title and folder of the last dialog for a file
     std::vector<std::pair<bool, bool>> shellUpdates; ///< context menu, "send to"
     std::vector<int> taskbarValues;
     bool isTaskbarShown = false;
@@ -239,8 +214,6 @@ protected:
         start(key, in, out, password);
         return waitForEnd();
     }
-    std::string encrypt() { return run(Qt::Key_F5, "in", "out"); }
-    std::string decrypt() { return run(Qt::Key_F6, "out", "back"); }
 
     /// Whether they were taken.
     static bool drop(QWidget& target, const QMimeData& data)
