@@ -188,6 +188,7 @@ class Interrupt(Case):
                 (signal.SIGTERM, "encrypt large pw plain", 130, "interrupted in large; 2 files not tried"),
                 (signal.SIGINT, "decrypt sealed", 130, "interrupted"),  # while it searches for the algorithm
                 (signal.SIGKILL, "encrypt large", -signal.SIGKILL, "")):
+            before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
             running = subprocess.Popen([CLI, *words.split(), "--password-file", "pw"], stderr=subprocess.PIPE, text=True)
             # For a moment; the output has no name by which it could be seen.
             while int(Path(f"/proc/{running.pid}/stat").read_text().rpartition(")")[2].split()[11]) <= 20:  # 1/100 s
@@ -197,6 +198,7 @@ class Interrupt(Case):
             running.send_signal(sent)
             self.assertEqual(running.communicate(timeout=60)[1], told and f"quillet-cli: {told}\n")
             self.assertEqual(running.returncode, code)
+            self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime, before + 4, "it goes on to the end")
             self.assertEqual(sorted(os.listdir()), there)
 
     def test_at_standard_input_unless_it_was_ignored(self):

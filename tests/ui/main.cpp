@@ -32,7 +32,7 @@ int main(int argc, char** argv)
          {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
         qputenv(folder, profile.path().toLocal8Bit());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", QPA_PLATFORM);
 
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);

@@ -179,7 +179,7 @@ TEST(ScrollPage, AsksForItsContentsAndScrollsInLess)
     auto* contents = new QWidget;
     contents->setMinimumSize(5000, 10);
     page.setWidget(contents);
-    EXPECT_LT(page.minimumSizeHint().width(), 1000);
+    EXPECT_LT(page.minimumSizeHint().width(), 2500);
     EXPECT_EQ(page.minimumSizeHint().height(), 10);
     contents->setMinimumSize(100, 700);
     EXPECT_EQ(page.sizeHint(), QSize(100, 700));
