@@ -54,15 +54,16 @@ TEST(Pipeline, ReadsNothingIntoThePieceBeforeTheFirstUnwrittenOne)
     EXPECT_FALSE(isTooFar);
 }
 
-/// In pieces of several chunks.
-TEST(Pipeline, WholeChunksBeforeAFailedReadAreWritten)
+/// In pieces of several chunks, the last one, too.
+TEST(Pipeline, WholeChunksBeforeAFailedReadAreWrittenAndTheFailureIsTold)
 {
     for (const bool isEncryption : {true, false}) {
         Way way("XSalsa20", isEncryption, 4096, 80);
         for (std::size_t size = 0; size < way.input.size(); size += 10007) {
             const auto chunks = static_cast<int>((size + (isEncryption ? 56 : 0)) / way.chunk);
-            EXPECT_EQ(way.run({.endsAt = static_cast<std::int64_t>(size)}).bytes, way.outputOf(chunks))
-                << size;
+            const Outcome cut = way.run({.endsAt = static_cast<std::int64_t>(size)});
+            EXPECT_EQ(cut.bytes, way.outputOf(chunks)) << size;
+            EXPECT_FALSE(cut.result.ok()) << size;
         }
     }
 }

@@ -10,7 +10,7 @@ import resource
 import subprocess
 import sys
 
-from server import (FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, NOTHING, WAYS, Judge, Run, Server, Sweep, pairs, read, rows,
+from server import (KILL_AFTER, KILL_BEFORE, NOTHING, WAYS, Judge, Run, Server, Sweep, error_of, pairs, read, rows,
                     write)
 
 SWEEP = Sweep("cli", "library")
@@ -39,9 +39,9 @@ STEP = (r"((The (input|output)? ?file .+ could not be (opened|read|processed|cre
 
 
 def is_expected(line, call, way):
-    number = errno.ENOMEM if way == FROM_THERE_ON else way
+    number = error_of(way)
     for calls, text in LINES:
-        text = text.replace("{error}", re.escape(os.strerror(max(number, 0)))).replace("{number}", str(number))
+        text = text.replace("{error}", re.escape(os.strerror(number))).replace("{number}", str(number))
         pattern = "quillet-cli: " + text + (STEP if text.endswith(r"\s") else "")
         if (calls == "any" or call in calls.split()) and re.fullmatch(pattern, line):
             return True

@@ -6,6 +6,7 @@
 // The functions that FAULTS_WITHOUT names are not there at all: "O_TMPFILE", "exchange", "noreplace", "link".
 // With that alone the program runs as usual.
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
@@ -26,7 +27,15 @@
 namespace {
 
 /// What happens at the call instead of, or beside, an error of that number.
-enum Way { Nothing = 0, Short = -1, KillBefore = -2, KillAfter = -3, FromThereOn = -4, Done = -5 };
+enum Way {
+    Nothing = 0,
+    Short = -1,
+    KillBefore = -2,
+    KillAfter = -3,
+    FromThereOn = -4,
+    Done = -5,
+    ShortThenError = -6 ///< as of a disk with a bad place: the call after it is to go on there
+};
 
 /// In words: "CALL AT ERROR THREADS COMMAND". The AT-th call of the group CALL ("any" is each of them) ends
 /// with the error number ERROR, or in that Way. Allocations count on all THREADS, or on the "workers" only.
@@ -66,7 +75,8 @@ bool isDue(const char* call)
     if (!isCounted(call))
         return false;
     const long number = __atomic_add_fetch(calls, 1, __ATOMIC_RELAXED);
-    if (order.error == FromThereOn && number > order.at)
+    if ((order.error == FromThereOn && number > order.at) ||
+        (order.error == ShortThenError && number == order.at + 1))
         return true;
     if (number != order.at)
         return false;
@@ -103,6 +113,8 @@ int dueError()
 {
     if (order.error == KillAfter)
         die();
+    if (order.error == ShortThenError)
+        return EIO;
     return order.error == FromThereOn ? ENOMEM : order.error;
 }
 
@@ -132,10 +144,13 @@ ssize_t moving(const char* name, int fd, std::size_t size, Call real)
 {
     if (isOn && isEvent(fd))
         return real(size);
-    if (order.error != Short)
+    static std::atomic<bool> wasShort = false;
+    if (order.error != Short && (order.error != ShortThenError || wasShort))
         return failing(
             name, [&] { return real(size); }, -1);
-    return real(isDue(name) && size > 1 ? size / 2 : size);
+    const bool isShort = isDue(name) && size > 1;
+    wasShort = wasShort || isShort;
+    return real(isShort ? size / 2 : size);
 }
 
 bool readOrder(std::FILE* from)

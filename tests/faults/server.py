@@ -10,8 +10,9 @@ import sys
 import tempfile
 
 # What may happen at a call: an error, or one of these, which are those of failing_calls.cpp.
-NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON, DONE = range(0, -6, -1)
-WAYS = dict(zip(("nothing", "short", "killed-before", "killed-after", "from-there-on", "done"), range(0, -6, -1)))
+NOTHING, SHORT, KILL_BEFORE, KILL_AFTER, FROM_THERE_ON, DONE, SHORT_THEN_ERROR = range(0, -7, -1)
+WAYS = {"nothing": NOTHING, "short": SHORT, "killed-before": KILL_BEFORE, "killed-after": KILL_AFTER,
+        "from-there-on": FROM_THERE_ON, "done": DONE, "short-then-EIO": SHORT_THEN_ERROR}
 WAYS |= {name: number for name, number in vars(errno).items() if name[0] == "E"}
 DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../data")
 
@@ -30,6 +31,10 @@ def pairs(text):
 CALLS = {call: {WAYS[way]: matters for ways, matters in ((matter, True), (other, False)) for way in ways.split()}
          for call, matter, other in rows("fault_calls.txt")}
 Run = collections.namedtuple("Run", "status calls told out")
+
+
+def error_of(way):
+    return {FROM_THERE_ON: errno.ENOMEM, SHORT_THEN_ERROR: errno.EIO}.get(way, max(way, 0))
 
 
 class Server:

@@ -10,7 +10,8 @@ import errno
 import os
 import subprocess
 
-from server import DONE, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, Judge, Server, Sweep, pairs, read, rows, window_at, write
+from server import (DONE, FROM_THERE_ON, KILL_AFTER, KILL_BEFORE, Judge, Server, Sweep, error_of, pairs, read, rows, window_at,
+                    write)
 
 SWEEP = Sweep("window_job", "cli", "library")
 ARGUMENTS = SWEEP.arguments
@@ -110,7 +111,7 @@ class WindowJudge(Judge):
         if not matters:
             return f"a failure of no matter: {said}"
         lines = " ".join(said.values())
-        number = errno.ENOMEM if way == FROM_THERE_ON else max(way, 0)
+        number = error_of(way)
         if call in ("open", "read", "stat") and whole and not gone and not said["inputMessage"]:
             return None  # the settings or a file cannot be looked at, and so nothing is deleted
         if os.strerror(number) not in lines and not any(text in lines for text in OTHER_TEXTS):

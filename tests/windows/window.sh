@@ -44,6 +44,21 @@ focus() {
   wait_until has_focus "$window"
 }
 
+# choose MENU COMMAND: by their keys.
+choose() {
+  focus 'Quillet$'
+  xdotool key "alt+$1"
+  sleep 1
+  xdotool key "$2"
+}
+
+look_at_options() {
+  choose s o
+  focus '^Options$'
+  picture options
+  xdotool key Escape
+}
+
 # answer DIRECTION FILE: gives the password, waits for the file, and closes the window.
 answer() {
   focus "Password to $1"
@@ -51,12 +66,11 @@ answer() {
   [ "$1" = decrypt ] || { xdotool key Tab; xdotool type --delay 50 "$secret"; }
   picture "password-$1"
   xdotool key Return
+  picture "run-$1"
   wait_until test -e "$2"
   picture "done-$1"
-  focus 'Quillet$'
-  xdotool key alt+f
-  sleep 1
-  xdotool key q
+  [ -z "$pictures" ] || look_at_options
+  choose f q
   wait "$pid" || fail "the program ended with $?"
 }
 
@@ -68,12 +82,12 @@ done
 [ "$(value "$software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Quillet" DisplayName)" = Quillet ] ||
   fail "not in the list of programs"
 
-head -c 3000000 /dev/urandom >"$scratch/in"
+head -c 600000000 /dev/urandom >"$scratch/in"
 wine "$folder/quillet.exe" /encrypt /start /ifile "$(windows_path "$scratch/in")" \
   /ofile "$(windows_path "$scratch/out.enc")" &
 pid=$!
 answer encrypt "$scratch/out.enc"
-[ "$(stat -c %s "$scratch/out.enc")" = 3000064 ] || fail "the encrypted file has the wrong size"
+[ "$(stat -c %s "$scratch/out.enc")" = 600000064 ] || fail "the encrypted file has the wrong size"
 
 program=$(windows_path "$folder/quillet.exe")
 for entry in "1encrypt|\"$program\" /encrypt /start /ifile \"%L\"" "2decrypt|\"$program\" /decrypt /start /ifile \"%L\"" \

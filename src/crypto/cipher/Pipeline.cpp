@@ -142,10 +142,12 @@ void Pipeline::settle(const Task& task, const CryptoResult& result)
     m_changed.notify_all();
 }
 
+/// Also behind the last piece: its whole chunks may have been read before the failure.
 void Pipeline::endAt(std::uint64_t piece, const CryptoResult& result)
 {
-    if (piece >= m_end)
+    if (m_isEndKnown && piece >= m_end)
         return;
+    m_isEndKnown = true;
     m_end = piece;
     m_result = result;
     m_changed.notify_all();

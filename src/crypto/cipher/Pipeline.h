@@ -86,7 +86,8 @@ private:
     std::condition_variable m_changed;
     std::vector<Slot> m_slots;
     std::uint64_t m_end;              ///< the first piece that is not written
-    CryptoResult m_result;            ///< why it is not
+    bool m_isEndKnown = false;        ///< a failure or a stop has set it
+    CryptoResult m_result;            ///< of the whole: why it ends there
     std::uint64_t m_read = 0;         ///< pieces that are read
     std::uint64_t m_taken = 0;        ///< pieces whose processing has begun
     std::uint64_t m_written = 0;      ///< pieces that are written
