@@ -26,12 +26,16 @@ def run(program, *words, code=0):
 @contextlib.contextmanager
 def kept_ready():
     """Without a program that runs, Wine starts anew for each one."""
-    waiting = subprocess.Popen([RUNNER, "cmd.exe", "/c", "pause"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
-                               stderr=subprocess.DEVNULL, env={**os.environ, "QUILLET_WINE_SECONDS": "3600"})
+    waiting = subprocess.Popen([RUNNER, "cmd.exe", "/c", "echo ready & pause"], stdin=subprocess.PIPE,
+                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                               env={**os.environ, "QUILLET_WINE_SECONDS": "3600"})
+    waiting.stdout.readline()  # its server is there, and holds none of the pipes that others read to their end
     try:
         yield
     finally:
-        waiting.communicate(b"\r\n")
+        waiting.stdin.write(b"\r\n")
+        waiting.stdin.close()
+        waiting.wait()
 
 
 def files(folder):
