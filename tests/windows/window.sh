@@ -36,6 +36,8 @@ wait_until() {
 
 has_focus() { [ "$(xdotool getwindowfocus)" = "$1" ]; }
 
+is_closed() { ! xdotool search --onlyvisible --name "$1"; }
+
 focus() {
   local window
   wait_until xdotool search --onlyvisible --name "$1"
@@ -53,7 +55,7 @@ choose() {
 }
 
 look_at_options() {
-  choose s o
+  choose o o
   focus '^Options$'
   picture options
   xdotool key Escape
@@ -66,6 +68,7 @@ answer() {
   [ "$1" = decrypt ] || { xdotool key Tab; xdotool type --delay 50 "$secret"; }
   picture "password-$1"
   xdotool key Return
+  wait_until is_closed "Password to $1"
   picture "run-$1"
   wait_until test -e "$2"
   picture "done-$1"
@@ -82,12 +85,13 @@ done
 [ "$(value "$software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Quillet" DisplayName)" = Quillet ] ||
   fail "not in the list of programs"
 
-head -c 600000000 /dev/urandom >"$scratch/in"
+head -c 3000000 /dev/urandom >"$scratch/in"
+truncate -s 3G "$scratch/in" # time for a look at the progress
 wine "$folder/quillet.exe" /encrypt /start /ifile "$(windows_path "$scratch/in")" \
   /ofile "$(windows_path "$scratch/out.enc")" &
 pid=$!
 answer encrypt "$scratch/out.enc"
-[ "$(stat -c %s "$scratch/out.enc")" = 600000064 ] || fail "the encrypted file has the wrong size"
+[ "$(stat -c %s "$scratch/out.enc")" = $((3 * 1024 ** 3 + 64)) ] || fail "the encrypted file has the wrong size"
 
 program=$(windows_path "$folder/quillet.exe")
 for entry in "1encrypt|\"$program\" /encrypt /start /ifile \"%L\"" "2decrypt|\"$program\" /decrypt /start /ifile \"%L\"" \
