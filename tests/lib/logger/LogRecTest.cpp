@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <future>
 #include <memory>
 
 namespace {
@@ -96,6 +97,21 @@ TEST_F(LogRecTest, DispatchesToEnabledAppendersInOrder)
     appenders.remove(2);
     log(Fatal, "test") << 3;
     EXPECT_EQ(notes, "a:1:1 b:1:1 b:1:2 a:1:3 ");
+}
+
+TEST(LogSender, EndsItsAppendersOutsideItsLock)
+{
+    std::string notes;
+    std::future<std::uint32_t> asked; // by another thread
+    const auto end = [&asked](LogAppender<char>* appender) {
+        delete appender;
+        asked = std::async(std::launch::async, [] { return LogSender<char>::instance()->level(); });
+        EXPECT_EQ(asked.wait_for(std::chrono::seconds(2)), std::future_status::ready);
+    };
+    LogSender<char>& sender = *LogSender<char>::instance();
+    ASSERT_TRUE(sender.appenders().add(1, {new NotingAppender("a", notes), end}).ok());
+    EXPECT_EQ(sender.release(), 0U);
+    EXPECT_TRUE(asked.valid());
 }
 
 } // namespace

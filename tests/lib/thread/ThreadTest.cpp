@@ -100,4 +100,19 @@ TEST_F(ThreadTest, EndsWithItsJobThoughAnotherThreadWaitsForItToo)
     other.join();
 }
 
+TEST_F(ThreadTest, ConcurrentStartsLaunchOneJob)
+{
+    for (int round = 0; round < 500; ++round) {
+        ASSERT_TRUE(job.go.reset().ok());
+        ResultCode results[2];
+        std::thread other([&] { results[0] = thread->start(); });
+        results[1] = thread->start();
+        other.join();
+        ASSERT_TRUE(job.go.set().ok());
+        ASSERT_NE(results[0].ok(), results[1].ok());
+        ASSERT_EQ(results[results[0].ok() ? 1 : 0], err::library(err::Busy));
+        thread->wait();
+    }
+}
+
 } // namespace
