@@ -1,7 +1,10 @@
 #include "crypto/Way.h"
 #include "support/NewThreads.h"
 
+#include <algorithm>
 #include <atomic>
+#include <random>
+#include <stdexcept>
 #include <thread>
 
 namespace {
@@ -65,6 +68,36 @@ TEST(Pipeline, WholeChunksBeforeAFailedReadAreWrittenAndTheFailureIsTold)
             EXPECT_EQ(cut.bytes, way.outputOf(chunks)) << size;
             EXPECT_FALSE(cut.result.ok()) << size;
         }
+    }
+}
+
+/// Short jobs with a failure, an exception or a stop at any moment: each ends once, in order, with the
+/// start of the right output.
+TEST(Pipeline, EndsInOrderWhateverHappens)
+{
+    std::mt19937 random(1);
+    const auto upTo = [&random](int most) { return std::uniform_int_distribution(0, most)(random); };
+    std::vector<Way> ways;
+    for (const char* name : {"AES-256", "Salsa20-128", "Sosemanuk-128"})
+        for (const bool isEncryption : {true, false})
+            ways.emplace_back(name, isEncryption, Chunk, 10);
+    for (int round = 0; round < 1000; ++round) {
+        Way& way = ways[static_cast<std::size_t>(round) % ways.size()];
+        way.job.callback = &way.recorder;
+        const int raising = upTo(25);
+        const auto raise = [raising](int call) { call == raising ? throw std::runtime_error("") : void(); };
+        const Faults in{.failAtCall = upTo(20), .mostAtOnce = 20000 + upTo(100000), .onCall = raise};
+        const int stopping = upTo(40); // or never
+        const auto stop = [&way, stopping](int call) { call == stopping ? way.stop() : void(); };
+        const Faults out{.failAtCall = upTo(20), .onCall = stop};
+        const Outcome outcome = way.run(in, out);
+        const std::string& calls = way.recorder.calls;
+        ASSERT_TRUE(way.output.size() >= outcome.bytes.size() &&
+                    std::equal(outcome.bytes.begin(), outcome.bytes.end(), way.output.begin()));
+        ASSERT_EQ(calls.find_first_not_of('p', 1), calls.size() - 1);
+        ASSERT_TRUE(outcome.result != CryptoResult() || calls.back() == 'F' || outcome.bytes == way.output);
+        ASSERT_TRUE(std::ranges::is_sorted(way.recorder.processed));
+        ASSERT_FALSE(way.isBusy());
     }
 }
 
