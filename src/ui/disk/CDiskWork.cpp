@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -20,6 +21,18 @@ constexpr auto PatienceAtEnd = 500ms;
 bool isDone(const std::future<void>& work)
 {
     return work.wait_for(0ms) == std::future_status::ready;
+}
+
+/// On a thread that nobody joins. It may not end before it is detached: winpthreads would hand its record to
+/// the next thread, and the end then clear it under that one's feet.
+void runAlone(std::packaged_task<void()> work)
+{
+    std::promise<void> detached;
+    std::thread([work = std::move(work), mayEnd = detached.get_future()]() mutable {
+        work();
+        mayEnd.wait();
+    }).detach();
+    detached.set_value();
 }
 
 } // namespace
@@ -40,12 +53,12 @@ void CDiskWork::run(const std::function<void()>& work)
 {
     try {
         std::erase_if(m_running, isDone);
-        auto task = std::make_shared<std::packaged_task<void()>>([work, news = m_news] {
+        std::packaged_task<void()> task([work, news = m_news] {
             work();
             tessaly::thread::deliver([&news] { emit news->notifyAnswered(); });
         });
-        m_running.push_back(task->get_future());
-        std::thread([task] { (*task)(); }).detach();
+        m_running.push_back(task.get_future());
+        runAlone(std::move(task));
     } catch (const std::exception&) { // no thread, or no memory for one
         work();
         emit m_news->notifyAnswered();
