@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""console.py QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of each job fail once, in every
+"""console.py QUILLET_CLI LIBRARY [--every N] [--job PATTERN]...: lets each system call of each job fail once, in every
 way that it can, and looks at exit code, line and files. Of the allocations each N-th."""
 
 import collections

@@ -4,6 +4,7 @@ Sweep: does so with every call of every job, and counts runs and complaints."""
 import argparse
 import collections
 import errno
+import fnmatch
 import os
 import subprocess
 import sys
@@ -88,18 +89,18 @@ class Sweep:
         os.chdir(self.folder)
 
     def all(self, jobs, sweep_job, *others):
-        """Sweeps the jobs, and does what else there is, or sweeps only those that were named; ends the program."""
-        for name, job in jobs.items():
-            if name in (self.arguments.jobs or jobs):
-                sweep_job(name, job)
-        for other in others if not self.arguments.jobs else ():
-            other()
+        """Sweeps the jobs, and does what else there is, or what of it fits the names given; ends the program."""
+        sweeps = {name: lambda name=name, job=job: sweep_job(name, job) for name, job in jobs.items()}
+        sweeps |= {other.__name__: other for other in others}
+        for name, sweep in sweeps.items():
+            if any(fnmatch.fnmatch(name, wanted) for wanted in self.arguments.jobs or "*"):
+                sweep()
         os.chdir("/")
         self.scratch.cleanup()
         for name, count in self.runs.items():
             print(f"{name}: {count} runs, {self.complaints[name]} failures")
         print(f"{sum(self.runs.values())} runs, {sum(self.complaints.values())} failures")
-        sys.exit(any(self.complaints.values()))
+        sys.exit(any(self.complaints.values()) or not self.runs)
 
     def calls(self, job, judge, choose=dict.items, threads="all"):
         """Lets each call fail, on whatever thread, and of the allocations on these threads each N-th."""

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""window.py WINDOW_JOB QUILLET_CLI LIBRARY [--every N] [--job NAME]...: lets each system call of the window's jobs
+"""window.py WINDOW_JOB QUILLET_CLI LIBRARY [--every N] [--job PATTERN]...: lets each system call of the window's jobs
 fail once, in every way that it can, from the password on, with the deletion of encrypted inputs on, and looks at what
 the window says and at the files. Of the allocations each N-th; on the window's own thread, where the toolkit makes
 most of them and does not survive all, each 20 N-th, and only the files count. With N above 1, two ways of each
