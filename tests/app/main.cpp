@@ -5,8 +5,6 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 /// LeakSanitizer's: the offscreen platform never frees its screen.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions()
@@ -20,9 +18,9 @@ int main(int argc, char** argv)
     ::testing::InitGoogleTest(&argc, argv);
     const test::TempFolder home;
     for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "XDG_STATE_HOME"})
-        ::setenv(variable, (home / variable).c_str(), 1);
-    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    ::setenv("LANGUAGE", "en_US", 1);
+        qputenv(variable, (home / variable).c_str());
+    qputenv("QT_QPA_PLATFORM", QPA_PLATFORM);
+    qputenv("LANGUAGE", "en_US");
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(tessaly::QuilletName);
     CAppSettings::setApplicationProductId(tessaly::QuilletProductId);
