@@ -162,10 +162,12 @@ TEST_P(JobRequestTest, AsksOnceForAList)
 TEST_P(JobRequestTest, TakesATextThatNamesAFileAsItStands)
 {
     const auto before = fs::current_path();
-    fs::current_path(folder.path());
     host.password = [](PasswordEntry& entry) { return entry.rewriteOutput = enterSecret(entry); };
     for (const char* name : {"  ", "in.txt ", "out.txt "})
         folder.write(name, "");
+    if (test::readFile(folder / "in.txt").empty())
+        GTEST_SKIP() << "the system cuts blanks off";
+    fs::current_path(folder.path());
     const std::array<const char*, 4> cases[] = {
         // the fields; the files
         {"in.txt ", "out.txt ", "in.txt ", "out.txt "},

@@ -88,7 +88,9 @@ FileStatus fileStatus(const std::filesystem::path& path)
     if (path.empty())
         return status;
     if (isMisread(path)) {
-        status.kind = FileKind::Other;
+        // No file has a name that ends in a blank: texts are tried as they stand before theirs are cut off.
+        if (!path.native().ends_with(L' '))
+            status.kind = FileKind::Other;
         return status;
     }
     const std::wstring name = systemPath(path);
