@@ -6,6 +6,7 @@
 #include "ui/style/CRoundedComboBox.h"
 #include "ui/style/CScrollPage.h"
 #include "ui/style/CSubjectLabel.h"
+#include "ui/style/DarkPalette.h"
 #include "ui/style/EyeIcon.h"
 #include "ui/style/FitToScreen.h"
 #include "ui/style/ReadOnlyField.h"
@@ -47,6 +48,27 @@ TEST(MessageStyle, ColoursCanBeReadAndMeanWhatTheyMeanEverywhere)
         EXPECT_GT(eye.alpha(), 0x80);
         EXPECT_EQ(eye.lightness() > 0x80, text.lightness() > 0x80) << window;
     }
+}
+
+TEST(DarkPalette, EveryTextCanBeReadOnItsGround)
+{
+    const QPalette dark = thisapp::darkPalette();
+    const std::tuple<QPalette::ColorRole, QPalette::ColorRole> rows[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::Link, QPalette::Window},
+        {QPalette::LinkVisited, QPalette::Window},
+        {QPalette::ToolTipText, QPalette::ToolTipBase}};
+    for (const auto& [text, ground] : rows) {
+        EXPECT_TRUE(differ(dark.color(text), dark.color(ground))) << text;
+        EXPECT_NE(dark.color(QPalette::Disabled, text), dark.color(QPalette::Disabled, ground)) << text;
+    }
+    for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Button})
+        EXPECT_LT(dark.color(ground).lightness(), 0x60) << ground;
 }
 
 TEST(TextDirection, TextsButtonsAndSelectionsStandAtTheSideOfTheLanguage)
