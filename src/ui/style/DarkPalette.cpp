@@ -1,5 +1,7 @@
 #include "ui/style/DarkPalette.h"
 
+#include <utility>
+
 namespace thisapp {
 
 QPalette darkPalette()
