@@ -16,8 +16,15 @@ from screen import Screen, eventually  # noqa: E402
 QUILLET, CLI = map(os.path.abspath, sys.argv[1:3])
 SIZE = int(sys.argv[3]) if len(sys.argv) > 3 else 150_000_000
 PASSWORD = "secret"
+
+
+def close_connection(window):
+    window.kill_client()
+    window.display.flush()
+
+
 ENDS = {"SIGTERM": lambda process, server, window: process.terminate(),
-        "its connection is closed": lambda process, server, window: window.kill_client(),
+        "its connection is closed": lambda process, server, window: close_connection(window),
         "the display goes": lambda process, server, window: server.kill()}
 
 
@@ -37,7 +44,6 @@ def end_at_work(home, end, operation, former):
     screen.type(PASSWORD)
     screen.key("Return")
     ENDS[end](process, server, eventually(lambda: screen.find("% - "), "no job"))
-    screen.display.flush()
     process.wait(60)
     server.kill()
     server.wait()

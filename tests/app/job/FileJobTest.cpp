@@ -16,7 +16,7 @@ namespace {
 
 constexpr AlgSelection Serpent{1, 452};
 constexpr crypto::Argon2Cost Cheap{1, 32, 4};
-constexpr std::int64_t Size = 4 << 20; ///< many chunks
+constexpr std::int64_t ManyChunks = 4 << 20;
 
 /// Takes what is written, and holds its writer up from the first write until it is opened.
 class Gate final : public io::OStreamBytes
@@ -45,7 +45,7 @@ class FileJobTest : public ::testing::TestWithParam<Operation>
 protected:
     FileJobTest()
     {
-        folder.write("plain", std::string(Size, 'x'));
+        folder.write("plain", std::string(ManyChunks, 'x'));
         for (const auto news :
              {&CMsgDispatcher::notifyEncryptFinished, &CMsgDispatcher::notifyInputRemovalFinished}) {
             QObject::connect(
@@ -110,7 +110,7 @@ TEST_P(FileJobTest, StopsOnceAndTheNextOneRuns)
     gate.open();
     ASSERT_TRUE(waitForEnd());
     EXPECT_TRUE(job.data().outcome.cancelled);
-    EXPECT_LT(gate.written, Size);
+    EXPECT_LT(gate.written, ManyChunks);
     EXPECT_FALSE(job.isRunning() || job.isStoppable());
     EXPECT_TRUE(job.end(0));
 
@@ -153,7 +153,7 @@ TEST_F(FileJobTest, TellsOfEveryPhaseUpToTheRemovalAndLosesNoNews)
     using enum JobPhase;
     EXPECT_EQ(phases, (std::vector{DerivingKey, Processing, Flushing}));
     EXPECT_EQ(processed.front(), 0);
-    EXPECT_EQ(processed.back(), Size);
+    EXPECT_EQ(processed.back(), ManyChunks);
 
     ASSERT_TRUE(job.startInputRemoval().ok());
     EXPECT_TRUE(job.isRunning() && !job.isStoppable()) << "a removal heeds no stop";
