@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# sweep.sh [BUILD]: all that can fail, each allocation too. Takes a quarter of an hour.
+# sweep.sh [BUILD]: all that can fail, each allocation too. Takes a few minutes.
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 build=$(realpath "${1:-$here/../../build/dev}")
