@@ -21,7 +21,8 @@ QPalette darkPalette()
     QPalette palette;
     for (const auto& [role, color] : colors)
         palette.setColor(role, color);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
         palette.setColor(QPalette::Disabled, role, 0x9a9a9a);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, 0x505050);
     return palette;
