@@ -68,7 +68,7 @@ private:
     ResultCode publish(Existing existing);
     ResultCode replaceFormer(const ResultCode& occupied);
     ResultCode nameHidden();
-    ResultCode verify() const;
+    ResultCode verify();
     void withdraw();
     bool isNameless() const;
 
