@@ -99,13 +99,20 @@ void CFileJob::finish()
 void CFileJob::clear()
 {
     m_engines.set({});
-    m_data.with([](SEncryptData& data) { data.outcome.root = {}; });
+    m_data.with([](SEncryptData& data) {
+        data.outcome.root = {};
+        data.outcome.input.place = data.outcome.output.place = nullptr;
+    });
 }
 
-ResultCode CFileJob::startInputRemoval()
+ResultCode CFileJob::startInputRemoval(const SEncryptData& ended)
 {
+    m_data.set(ended);
     m_progress.set({JobPhase::RemovingInput});
-    return startThread(RemoveInput);
+    const ResultCode started = startThread(RemoveInput);
+    if (!started.ok())
+        clear();
+    return started;
 }
 
 ResultCode CFileJob::startThread(std::uintptr_t task)
@@ -137,6 +144,7 @@ void CFileJob::removeJobInput()
         removal.error = err::library(err::RunnableThrew);
     }
     m_inputRemoval.set(removal);
+    clear();
 }
 
 /// No exception leaves it: whatever happens, the outcome says how the job ended.

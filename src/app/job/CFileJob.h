@@ -61,11 +61,13 @@ public:
     void stop();
     /// To be called on the signal of the end, which is the worker's last act.
     void finish();
-    /// Lets go of the engines, and of the secret in the outcome.
+    /// Lets go of the engines, of the secret in the outcome, and of the folders, which cannot be unmounted or
+    /// ejected as long as they are held.
     void clear();
 
-    /// Deletes the input of the finished job if that is safe; ends with notifyInputRemovalFinished.
-    tessaly::ResultCode startInputRemoval();
+    /// Deletes the input of a job that has ended, as its data were before they were cleared, if that is safe;
+    /// ends with notifyInputRemovalFinished.
+    tessaly::ResultCode startInputRemoval(const SEncryptData& ended);
 
     /// The request, without its secrets once the worker has them, and its outcome.
     SEncryptData data() const { return m_data.get(); }

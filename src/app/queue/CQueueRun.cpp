@@ -99,10 +99,8 @@ void CQueueRun::takeJobEnd()
     if (!m_current)
         return;
     m_job.finish();
+    m_job.clear(); // there may be thousands of files
     SEncryptData ended = m_job.data();
-    m_job.clear();
-    ended.outcome.root = {};
-    ended.outcome.input.place = ended.outcome.output.place = nullptr; // there may be thousands of files
     if (ended.outcome.cancelled) {
         if (hasLostFormerOutput(ended))
             m_queue.end(*m_current, EntryState::Skipped,

@@ -235,7 +235,7 @@ void CMainWindow::onUiEncryptFinished()
     m_job.clear();
     if (!isInputRemovalWanted(*this, ended, m_disk, *m_form))
         return;
-    if (const ResultCode started = m_job.startInputRemoval(); !started.ok())
+    if (const ResultCode started = m_job.startInputRemoval(ended); !started.ok())
         reportInputRemoval({{}, started}, ended, *m_form);
     refresh();
 }

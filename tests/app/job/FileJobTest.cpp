@@ -155,10 +155,14 @@ TEST_F(FileJobTest, TellsOfEveryPhaseUpToTheRemovalAndLosesNoNews)
     EXPECT_EQ(processed.front(), 0);
     EXPECT_EQ(processed.back(), ManyChunks);
 
-    ASSERT_TRUE(job.startInputRemoval().ok());
+    const SEncryptData ended = job.data();
+    job.clear();
+    EXPECT_EQ(job.data().outcome.output.place, nullptr) << "its folder cannot be ejected";
+    ASSERT_TRUE(job.startInputRemoval(ended).ok());
     EXPECT_TRUE(job.isRunning() && !job.isStoppable()) << "a removal heeds no stop";
     ASSERT_TRUE(waitForEnd());
     EXPECT_TRUE(job.inputRemoval().removed);
+    EXPECT_EQ(job.data().outcome.input.place, nullptr);
     EXPECT_FALSE(fs::exists(folder / "plain"));
 
     SEncryptData wrong = request(Operation::Decrypt, "sealed", "out");
