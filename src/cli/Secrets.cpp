@@ -7,6 +7,7 @@
 #include "lib/platform/StandardStreams.h"
 #include "lib/platform/Terminal.h"
 #include "lib/secret/Hex.h"
+#include "lib/text/Utf8.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -23,6 +24,14 @@ namespace {
 
 /// Far beyond any password, key or IV; a wrong file name must not fill the memory.
 constexpr std::size_t SecretFileLimit = 1 << 20;
+
+/// That of UTF-8, which some editors and shells put before every text, and which nobody types.
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view textOf(const SecretBytes& bytes)
+{
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
 
 /// A file, a pipe or standard input, byte by byte, so that no copy stays behind in the runtime.
 class SecretSource
@@ -72,20 +81,39 @@ bool readSecretFile(const std::string& path, bool firstLineOnly, SecretBytes& by
     }
     if (firstLineOnly && bytes.size() > 0 && bytes.data()[bytes.size() - 1] == '\r')
         bytes.resize(bytes.size() - 1);
+    if (textOf(bytes).starts_with(ByteOrderMark))
+        bytes = SecretBytes(bytes.begin() + ByteOrderMark.size(), bytes.end());
     return source.isGood();
 }
 
-/// `source` begins the problem: where the password came from.
-bool acceptPassword(const SecretBytes& bytes, const std::string& source, SecretText& password,
-                    std::string& problem)
+bool isUtf8(std::string_view text)
+{
+    unsigned codePoint = 0;
+    while (!text.empty()) {
+        const std::size_t length = tessaly::text::decodeUtf8(text, codePoint);
+        if (length == 0)
+            return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+/// `source` begins the problem: where the password came from. What has been encrypted with bytes that no
+/// field gives can still be decrypted with them.
+bool acceptPassword(Command command, const SecretBytes& bytes, const std::string& source,
+                    SecretText& password, std::string& problem)
 {
     if (bytes.size() == 0) {
         problem = source + "the password is empty";
         return false;
     }
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    const std::string_view text = textOf(bytes);
     if (const char* found = thisapp::passwordProblem(text)) {
         problem = source + found;
+        return false;
+    }
+    if (command == Command::Encrypt && !isUtf8(text)) {
+        problem = source + "the password is not UTF-8";
         return false;
     }
     password = SecretText(text);
@@ -107,7 +135,7 @@ bool readKeyAndIv(const std::string& path, const char* what, SKeyAndIv& read, st
         problem = "cannot read the " + std::string(what) + " file " + path;
         return false;
     }
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    const std::string_view text = textOf(bytes);
     if (auto saved = thisapp::parseKeyFile(text))
         read = {std::move(saved->key), std::move(saved->iv), true};
     else
@@ -117,8 +145,9 @@ bool readKeyAndIv(const std::string& path, const char* what, SKeyAndIv& read, st
     return problem.empty();
 }
 
-SecretOutcome askForPassword(bool twice, SecretText& password, std::string& problem)
+SecretOutcome askForPassword(Command command, SecretText& password, std::string& problem)
 {
+    const bool twice = command == Command::Encrypt;
     using tessaly::platform::readHiddenLine;
     if (!tessaly::platform::canAsk())
         return SecretOutcome::NotAsked;
@@ -131,7 +160,8 @@ SecretOutcome askForPassword(bool twice, SecretText& password, std::string& prob
         problem = "the passwords do not match";
         return SecretOutcome::Unusable;
     }
-    return acceptPassword(first, "", password, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
+    return acceptPassword(command, first, "", password, problem) ? SecretOutcome::Ready
+                                                                 : SecretOutcome::Unusable;
 }
 
 /// With an algorithm they have its lengths, else those that some algorithm takes.
@@ -184,15 +214,16 @@ SecretOutcome gatherSecret(const Arguments& arguments, tessaly::crypto::FileJobR
     if (arguments.keyFile)
         return readKeyFiles(arguments, request, problem) ? SecretOutcome::Ready : SecretOutcome::Unusable;
     if (!arguments.passwordFile)
-        return askForPassword(arguments.command == Command::Encrypt, request.password, problem);
+        return askForPassword(arguments.command, request.password, problem);
     SecretBytes line;
     if (!readSecretFile(*arguments.passwordFile, true, line)) {
         problem = "cannot read the password file " + *arguments.passwordFile;
         return SecretOutcome::Unusable;
     }
     const std::string source = "password file " + *arguments.passwordFile + ": ";
-    return acceptPassword(line, source, request.password, problem) ? SecretOutcome::Ready
-                                                                   : SecretOutcome::Unusable;
+    return acceptPassword(arguments.command, line, source, request.password, problem)
+               ? SecretOutcome::Ready
+               : SecretOutcome::Unusable;
 }
 
 } // namespace cli
