@@ -6,6 +6,7 @@ SetCompressor /SOLID lzma
 RequestExecutionLevel user
 ManifestDPIAware true
 !include MUI2.nsh
+!include FileFunc.nsh
 !include LogicLib.nsh
 !include Sections.nsh
 
@@ -44,8 +45,38 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
   WriteRegStr HKCU "${SETTINGS}" "AddToSendMenu" "${VALUE}"
 !macroend
 
+; A program that runs can be neither replaced nor removed, and so the rest is left as it is, too.
+!macro AwaitEnd FUNCTION
+Function ${FUNCTION}
+  ${If} ${FileExists} "$INSTDIR\quillet.exe"
+  again:
+    ClearErrors
+    FileOpen $0 "$INSTDIR\quillet.exe" a
+    ${If} ${Errors}
+      MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(StillRuns)" /SD IDCANCEL IDRETRY again
+      SetErrorLevel 1
+      Quit
+    ${EndIf}
+    FileClose $0
+  ${EndIf}
+FunctionEnd
+!macroend
+!insertmacro AwaitEnd awaitEnd
+!insertmacro AwaitEnd un.awaitEnd
+
+; Into a folder with other things goes one of our own, which the uninstaller can empty.
+Function chooseOwnFolder
+  ${DirState} "$INSTDIR" $0
+  ${If} $0 = 1
+  ${AndIfNot} ${FileExists} "$INSTDIR\quillet.exe"
+    StrCpy $INSTDIR "$INSTDIR\Quillet"
+  ${EndIf}
+FunctionEnd
+
 Section "Quillet" Program
   SectionIn RO
+  Call chooseOwnFolder
+  Call awaitEnd
   SetOutPath "$INSTDIR"
   File /r "${FOLDER}/*"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -64,9 +95,22 @@ Section "$(StartMenu)" StartMenu
   CreateShortcut "$SMPROGRAMS\Quillet.lnk" "$INSTDIR\quillet.exe"
 SectionEnd
 
+; What the user has chosen before holds, as long as it is some of them.
 Section "$(FileMenus)" FileMenus
-  !insertmacro SetMenus "true"
+  ReadRegStr $0 HKCU "${SETTINGS}" "IntegrateToShellContextMenu"
+  ReadRegStr $1 HKCU "${SETTINGS}" "AddToSendMenu"
+  ${If} $0 == $1
+    !insertmacro SetMenus "true"
+  ${EndIf}
 SectionEnd
+
+Function .onInit
+  ReadRegStr $0 HKCU "${SETTINGS}" "IntegrateToShellContextMenu"
+  ReadRegStr $1 HKCU "${SETTINGS}" "AddToSendMenu"
+  ${If} "$0$1" == "falsefalse"
+    !insertmacro UnselectSection ${FileMenus}
+  ${EndIf}
+FunctionEnd
 
 Function .onInstSuccess
   ${IfNot} ${SectionIsSelected} ${FileMenus}
@@ -75,6 +119,7 @@ Function .onInstSuccess
 FunctionEnd
 
 Section "Uninstall"
+  Call un.awaitEnd
   Delete "$SMPROGRAMS\Quillet.lnk"
   Delete "${LINK}"
   DeleteRegKey HKCU "${MENU}"

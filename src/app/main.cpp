@@ -121,7 +121,7 @@ int runApplication(int& argc, char** argv)
     CMainWindow window(
         {encryptors, decryptors, algorithms, options, desktop.taskbarProgress(), desktop.notifier()});
 
-    // The application object has taken its own arguments out. Its list of the rest would lose bytes.
+    // On Linux the application object has taken its own arguments out. Its list of the rest would lose bytes.
     const QStringList arguments = argumentTexts(platform::programArguments(argc, argv));
     new CFirstPaint(window, [&] {
         leanStart.reset();

@@ -97,12 +97,16 @@ ResultCode OutputFile::commit(Existing existing, const std::function<bool()>& is
 
 ResultCode OutputFile::verify()
 {
-    // On FAT a file's identity is the place of its name, and so not always the one from before.
-    if (const ResultCode known = m_stream.file().status(m_status); !known.ok())
-        return known;
     if (const ResultCode synced = m_place->folder().sync(); !synced.ok())
         return synced;
-    return m_place->names(m_status) ? ResultCode{} : err::library(err::OutputNotFound);
+    if (m_place->names(m_status))
+        return {};
+    // On FAT a file's identity is the place of its name, and so not always the one from before.
+    platform::FileStatus renamed;
+    if (!m_stream.file().status(renamed).ok() || !m_place->names(renamed))
+        return err::library(err::OutputNotFound);
+    m_status = renamed;
+    return {};
 }
 
 ResultCode OutputFile::publish(Existing existing)

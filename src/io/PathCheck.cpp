@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
 
 namespace tessaly::io {
 
@@ -56,9 +55,7 @@ bool samePath(const std::filesystem::path& first, const std::filesystem::path& s
 
 std::wstring pathKey(const std::filesystem::path& path)
 {
-    std::error_code error;
-    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-    std::wstring key = platform::wideText((error ? path : absolute).lexically_normal());
+    std::wstring key = platform::wideText(platform::absolutePath(path).lexically_normal());
     std::ranges::transform(key, key.begin(), platform::lowerCase);
     return key;
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""What quillet-cli.exe leaves behind when a job fails or is killed: nothing partial, and nothing lost. Argument: the
-program. Runs as root, for the disk of a few megabytes, else it is skipped. Nobody else should use its $WINEPREFIX, all
-of whose processes are killed."""
+"""What quillet-cli.exe makes of patterns, and leaves behind when a job fails or is killed: nothing partial, and nothing
+lost. Argument: the program. Runs as root, for the disk of a few megabytes, else it is skipped. Nobody else should use
+its $WINEPREFIX, all of whose processes are killed."""
 import contextlib
 import os
 import pathlib
@@ -26,6 +26,19 @@ def encrypt(*words, code=0):
 
 def written(name, data):
     pathlib.Path(name).write_bytes(data)
+
+
+def patterns():
+    for name in ("a.txt", "ä b.txt", "a.bin", "folder.txt/c.txt"):
+        path = pathlib.Path("many", name)
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(PLAIN)
+    encrypt("many\\*.txt")
+    encrypt("many/?.bin")
+    made = {os.path.relpath(path, "many") for path in pathlib.Path("many").rglob("*.enc")}
+    assert made == {"a.txt.enc", "ä b.txt.enc", "a.bin.enc"}, made
+    encrypt("none*", code=1)
+    print("patterns: the files that fit, and no folder")
 
 
 def wrong_password():
@@ -162,6 +175,7 @@ with tempfile.TemporaryDirectory() as scratch:
     os.chdir(scratch)
     written("pw", wine.PASSWORD.encode())
     written("plain", PLAIN)
+    patterns()
     wrong_password()
     existing_output()
     full_disk()

@@ -2,10 +2,9 @@
 
 #include "common/naming/OutputNaming.h"
 #include "common/path/PathText.h"
+#include "lib/platform/Path.h"
 
 #include <QDate>
-
-#include <system_error>
 
 namespace thisapp {
 
@@ -17,10 +16,8 @@ namespace {
 /// leads to where the system says.
 std::filesystem::path onePath(const std::filesystem::path& named)
 {
-    std::error_code error;
-    const std::filesystem::path whole = std::filesystem::absolute(named, error);
-    const std::filesystem::path folder = std::filesystem::canonical(whole.parent_path(), error);
-    return error ? whole : folder / whole.filename();
+    const std::filesystem::path whole = platform::absolutePath(named);
+    return platform::realFolder(whole.parent_path()) / whole.filename();
 }
 
 } // namespace

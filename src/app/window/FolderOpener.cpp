@@ -9,7 +9,6 @@
 #include <QDesktopServices>
 
 #include <filesystem>
-#include <system_error>
 
 namespace thisapp {
 
@@ -17,10 +16,8 @@ using namespace tessaly;
 
 QUrl folderOf(const QString& text)
 {
-    std::error_code error;
-    const auto file = std::filesystem::absolute(textPath(meantPath(text)), error);
-    const std::filesystem::path folder = file.parent_path();
-    if (text.isEmpty() || error || platform::fileStatus(folder).kind != platform::FileKind::Directory)
+    const std::filesystem::path folder = platform::absolutePath(textPath(meantPath(text))).parent_path();
+    if (platform::fileStatus(folder).kind != platform::FileKind::Directory)
         return {};
     // From the bytes, as a name need not be UTF-8.
     const QByteArray bytes = QByteArray::fromStdString(platform::urlText(folder));

@@ -20,6 +20,11 @@ std::wstring wideText(const std::filesystem::path& path);
 std::filesystem::path pathFromNative(std::string_view native);
 std::string nativeText(const std::filesystem::path& path);
 
+/// From the root on; as given where the system cannot tell.
+std::filesystem::path absolutePath(const std::filesystem::path& path);
+/// The one path of a folder, whatever links lead to it, and otherwise as absolutePath.
+std::filesystem::path realFolder(const std::filesystem::path& folder);
+
 /// The path of a file URL, of which `host` is the name of the computer and `path` what follows it, with its
 /// escapes resolved. Empty when such a file cannot be opened from here.
 std::filesystem::path pathFromUrl(std::string_view host, std::string_view path);

@@ -18,7 +18,8 @@ std::uint32_t threadId();
 /// False when the system refused. Leak checkers, which debug their own process, no longer work.
 bool disableCoreDumps();
 
-/// What main was given, without the program's name, each as the bytes of Path.h.
+/// What main was given, without the program's name, each as the bytes of Path.h. Patterns of file names have
+/// been expanded, by the shell or here.
 std::vector<std::string> programArguments(int argc, char** argv);
 
 } // namespace tessaly::platform

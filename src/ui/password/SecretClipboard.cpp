@@ -9,11 +9,30 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <array>
+#include <string_view>
+
 namespace thisapp {
 
 using tessaly::SecretText;
 
 namespace {
+
+struct Hint
+{
+    const char* format;
+    std::string_view value;
+};
+
+/// What asks those who keep a history of the clipboard, on this computer or another, to leave the text out:
+/// KDE's Klipper, and Windows ("Cloud Clipboard and Clipboard History Formats"; numbers of four bytes).
+constexpr std::string_view No("\0\0\0\0", 4);
+constexpr std::array<Hint, 4> Hints{{
+    {"x-kde-passwordManagerHint", "secret"},
+    {"ExcludeClipboardContentFromMonitorProcessing", No},
+    {"CanIncludeInClipboardHistory", No},
+    {"CanUploadToCloudClipboard", No},
+}};
 
 /// Keeps the text where it is wiped, and hands out copies when asked.
 class SecretMimeData final : public QMimeData
@@ -21,13 +40,20 @@ class SecretMimeData final : public QMimeData
 public:
     explicit SecretMimeData(SecretText text) : m_text(std::move(text)) {}
 
-    QStringList formats() const override { return {QStringLiteral("text/plain"), hintFormat()}; }
+    QStringList formats() const override
+    {
+        QStringList formats{QStringLiteral("text/plain")};
+        for (const Hint& hint : Hints)
+            formats += QLatin1String(hint.format);
+        return formats;
+    }
 
 protected:
     QVariant retrieveData(const QString& format, QVariant::Type type) const override
     {
-        if (format == hintFormat())
-            return QByteArrayLiteral("secret");
+        for (const Hint& hint : Hints)
+            if (format == QLatin1String(hint.format))
+                return QByteArray(hint.value.data(), static_cast<int>(hint.value.size()));
         if (!format.startsWith(QLatin1String("text/plain")))
             return {};
         const QByteArray bytes(m_text.c_str(), static_cast<int>(m_text.size()));
@@ -35,8 +61,6 @@ protected:
     }
 
 private:
-    static QString hintFormat() { return QStringLiteral("x-kde-passwordManagerHint"); }
-
     SecretText m_text;
 };
 

@@ -120,6 +120,9 @@ TEST(SecretClipboard, ForgetsWhatItPutThereAndNothingElse)
             EXPECT_EQ(clipboard.text(), secret);
             EXPECT_EQ(clipboard.mimeData()->data("text/plain"), secret.toUtf8());
             EXPECT_EQ(clipboard.mimeData()->data("x-kde-passwordManagerHint"), "secret");
+            for (const char* allowed : {"ExcludeClipboardContentFromMonitorProcessing",
+                                        "CanIncludeInClipboardHistory", "CanUploadToCloudClipboard"})
+                EXPECT_EQ(clipboard.mimeData()->data(allowed), QByteArray(4, '\0')) << allowed;
             EXPECT_FALSE(clipboard.mimeData()->hasFormat("text/html"));
             if (!copiedSince.isNull())
                 clipboard.setText(copiedSince);

@@ -70,6 +70,20 @@ std::string nativeText(const std::filesystem::path& path)
     return path.native();
 }
 
+std::filesystem::path absolutePath(const std::filesystem::path& path)
+{
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute;
+}
+
+std::filesystem::path realFolder(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(folder, error);
+    return error ? absolutePath(folder) : real;
+}
+
 std::filesystem::path pathFromUrl(std::string_view host, std::string_view path)
 {
     std::array<char, HOST_NAME_MAX + 1> here{};

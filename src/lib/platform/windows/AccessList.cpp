@@ -64,10 +64,16 @@ std::uint32_t hashOf(PACL list)
 
 } // namespace
 
+bool knowsOurUsers(HANDLE folder)
+{
+    FILE_REMOTE_PROTOCOL_INFO remote = {};
+    return !::GetFileInformationByHandleEx(folder, FileRemoteProtocolInfo, &remote, sizeof remote);
+}
+
 PrivateAccess::PrivateAccess()
 {
     const std::wstring user = userSid();
-    const std::wstring text = L"D:P(A;OICI;FA;;;SY)(A;OICI;FA;;;" + user + L")";
+    const std::wstring text = L"D:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;FA;;;" + user + L")";
     PSECURITY_DESCRIPTOR made = nullptr;
     if (user.empty() || !::ConvertStringSecurityDescriptorToSecurityDescriptorW(text.c_str(), SDDL_REVISION_1,
                                                                                 &made, nullptr))

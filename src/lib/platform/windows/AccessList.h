@@ -10,8 +10,13 @@
 /// Who may use what: the system's access lists.
 namespace tessaly::platform {
 
-/// Access for this user (and the system itself) alone, for a file or folder that is created, and for all that
-/// will be created in such a folder.
+/// Whether the computer that has this folder means the same users by their identifiers. Another one need not:
+/// what it keeps for one of ours alone, nobody might ever open again.
+bool knowsOurUsers(HANDLE folder);
+
+/// Access for this user alone, for a file or folder that is created, and for all that will be created in such
+/// a folder. The system and administrators have it as well: they could take it, and where the disk is carried
+/// to another computer, nobody else can.
 class PrivateAccess
 {
 public:

@@ -7,6 +7,7 @@
 #include "lib/platform/windows/SystemCall.h"
 #include "lib/platform/windows/SystemPath.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -41,16 +42,44 @@ OwnHandle openedEntry(HANDLE folder, const fs::path& name, const EntryOpening& o
     return entry;
 }
 
+/// A virus scanner, a preview or the index of the search holds a file for a moment, and it would be a pity to
+/// fail at the last step of a long job.
+ResultCode patiently(DWORD held, const std::function<ResultCode()>& attempt)
+{
+    constexpr int Attempts = 10;
+    constexpr DWORD PauseMs = 100;
+    ResultCode result = attempt();
+    for (int i = 1; i < Attempts && result == systemError(held); ++i) {
+        ::Sleep(PauseMs);
+        result = attempt();
+    }
+    return result;
+}
+
+/// To rename or remove it; of a link, the link itself.
+ResultCode openToMove(HANDLE folder, const fs::path& name, OwnHandle& entry)
+{
+    EntryOpening moving;
+    moving.access = DELETE;
+    moving.followsLinks = false;
+    return patiently(ERROR_SHARING_VIOLATION, [&] { return openEntry(folder, name, moving, entry); });
+}
+
 ResultCode renamed(HANDLE folder, const fs::path& from, const fs::path& to, bool replaces)
 {
     if (to.empty() || isMisread(to))
         return systemError(ERROR_INVALID_NAME);
-    EntryOpening renaming;
-    renaming.access = DELETE;
-    renaming.followsLinks = false;
     OwnHandle entry;
-    const ResultCode opened = openEntry(folder, from, renaming, entry);
-    return opened.ok() ? renameEntry(entry.get(), folder, to, replaces) : opened;
+    if (const ResultCode opened = openToMove(folder, from, entry); !opened.ok())
+        return opened;
+    const auto rename = [&] { return renameEntry(entry.get(), folder, to, replaces); };
+    return replaces ? patiently(ERROR_ACCESS_DENIED, rename) : rename();
+}
+
+/// To this user, or altogether.
+bool isReadOnly(DWORD error)
+{
+    return error == ERROR_ACCESS_DENIED || error == ERROR_WRITE_PROTECT;
 }
 
 /// Files of an administrator may belong to the group of them.
@@ -119,7 +148,7 @@ ResultCode Folder::openParentOf(const fs::path& path)
     Folder held;
     OwnHandle folder = openFolder(parent, FILE_LIST_DIRECTORY | FILE_ADD_FILE | FILE_READ_ATTRIBUTES);
     held.m_readable = static_cast<bool>(folder); // it can be flushed as well
-    if (!folder && ::GetLastError() == ERROR_ACCESS_DENIED)
+    if (!folder && isReadOnly(::GetLastError()))
         folder = openFolder(parent, FILE_TRAVERSE | FILE_READ_ATTRIBUTES);
     FileStatus status;
     if (!folder)
@@ -173,7 +202,9 @@ ResultCode Folder::createNew(const fs::path& name, const Access& access, File& f
     if (name.empty() || isMisread(name))
         return systemError(ERROR_INVALID_NAME);
     PrivateAccess userOnly;
-    const bool isInherited = !access.m_forGroup && access.m_mode != 0;
+    const bool isOurs = knowsOurUsers(toHandle(m_handle));
+    const bool isInherited = !isOurs || (!access.m_forGroup && access.m_mode != 0);
+    const bool isGranted = isOurs && access.m_forGroup;
     if (!isInherited && !userOnly.attributes())
         return systemError(ERROR_INVALID_SECURITY_DESCR);
     OwnHandle created;
@@ -182,10 +213,10 @@ ResultCode Folder::createNew(const fs::path& name, const Access& access, File& f
                                    isInherited ? nullptr : userOnly.attributes()};
         return openEntry(toHandle(m_handle), name, opening, created);
     };
-    ResultCode result = create(access.m_forGroup ? NewFileAccess | WRITE_DAC : NewFileAccess);
-    const bool mayGrant = access.m_forGroup && result.ok();
-    if (access.m_forGroup && result == systemError(ERROR_ACCESS_DENIED))
-        result = create(NewFileAccess); // a network share may refuse more
+    ResultCode result = create(isGranted ? NewFileAccess | WRITE_DAC : NewFileAccess);
+    const bool mayGrant = isGranted && result.ok();
+    if (isGranted && result == systemError(ERROR_ACCESS_DENIED))
+        result = create(NewFileAccess); // a folder may allow no more
     if (!result.ok())
         return result;
     if (mayGrant)
@@ -247,11 +278,8 @@ ResultCode Folder::remove(const fs::path& name) const
 {
     if (name.empty() || isMisread(name))
         return systemError(ERROR_FILE_NOT_FOUND);
-    EntryOpening removal;
-    removal.access = DELETE;
-    removal.followsLinks = false;
     OwnHandle entry;
-    const ResultCode opened = openEntry(toHandle(m_handle), name, removal, entry);
+    const ResultCode opened = openToMove(toHandle(m_handle), name, entry);
     return opened.ok() ? removeOpened(entry.get()) : opened;
 }
 

@@ -1,8 +1,10 @@
 #include "lib/platform/Path.h"
 
+#include "lib/platform/windows/SystemPath.h"
 #include "lib/text/Utf8.h"
 
 #include <cstddef>
+#include <system_error>
 #include <windows.h>
 
 namespace tessaly::platform {
@@ -78,6 +80,22 @@ std::filesystem::path pathFromNative(std::string_view native)
 std::string nativeText(const std::filesystem::path& path)
 {
     return nativePath(path.native());
+}
+
+std::filesystem::path absolutePath(const std::filesystem::path& path)
+{
+    // The standard library takes a share for a folder of the drive.
+    const std::wstring start = path.native().substr(0, 2);
+    if (start.find_first_not_of(L"\\/") == std::wstring::npos && start.size() == 2)
+        return path;
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute;
+}
+
+std::filesystem::path realFolder(const std::filesystem::path& folder)
+{
+    return fullPath(folder);
 }
 
 std::filesystem::path pathFromUrl(std::string_view host, std::string_view path)

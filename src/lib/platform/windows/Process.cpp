@@ -6,10 +6,12 @@
 #include "lib/platform/windows/SystemFunction.h"
 
 #include <aclapi.h>
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <sddl.h>
 #include <shellapi.h>
+#include <string>
 
 namespace tessaly::platform {
 
@@ -37,6 +39,27 @@ bool keepHeapOutOfReports()
     constexpr DWORD NoHeap = 1;
     auto* const setFlags = systemFunction<SetFlags>(L"kernel32.dll", "WerSetFlags");
     return setFlags != nullptr && SUCCEEDED(setFlags(NoHeap));
+}
+
+/// The files of a pattern, which the shells here leave to the programs; a word that is none, or that nothing
+/// fits, as it is.
+std::vector<std::wstring> expanded(const std::wstring& word)
+{
+    const std::size_t name = word.find_last_of(L"\\/:") + 1; // 0 when there is no folder
+    if (word.find_first_of(L"*?", name) == std::wstring::npos)
+        return {word};
+    std::vector<std::wstring> files;
+    WIN32_FIND_DATAW found = {};
+    const HANDLE search = ::FindFirstFileW(word.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return {word};
+    do {
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+            files.push_back(word.substr(0, name) + found.cFileName);
+    } while (::FindNextFileW(search, &found));
+    ::FindClose(search);
+    std::ranges::sort(files);
+    return files.empty() ? std::vector{word} : files;
 }
 
 } // namespace
@@ -73,7 +96,8 @@ std::vector<std::string> programArguments(int, char**)
         throw std::bad_alloc();
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i)
-        arguments.push_back(nativePath(words.get()[i]));
+        for (const std::wstring& word : expanded(words.get()[i]))
+            arguments.push_back(nativePath(word));
     return arguments;
 }
 

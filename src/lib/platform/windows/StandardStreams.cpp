@@ -25,6 +25,12 @@ bool isTerminal(DWORD stream)
     return ::GetConsoleMode(::GetStdHandle(stream), &mode) != FALSE;
 }
 
+/// The end of a pipe is an error. That nothing was read from it means that its writer wrote nothing, once.
+bool isPipe(HANDLE stream)
+{
+    return ::GetNamedPipeInfo(stream, nullptr, nullptr, nullptr, nullptr) != FALSE;
+}
+
 UINT formerOutputCodePage = 0;
 
 /// A console shows bytes in the code page that it is set to, and stays set for the programs after this one.
@@ -43,15 +49,23 @@ ResultCode readStandardInput(void* buffer, std::size_t count, std::size_t& count
 {
     const Wait wait;
     countRead = 0;
-    if (Interrupts::happened())
-        return interruptedWait();
+    const HANDLE input = ::GetStdHandle(STD_INPUT_HANDLE);
     DWORD got = 0;
-    const BOOL done = ::ReadFile(::GetStdHandle(STD_INPUT_HANDLE), buffer,
-                                 static_cast<DWORD>(std::min(count, MostAtOnce)), &got, nullptr);
-    const DWORD error = done ? ERROR_SUCCESS : ::GetLastError();
+    DWORD error = ERROR_SUCCESS;
+    do {
+        if (Interrupts::happened())
+            return interruptedWait();
+        ::SetLastError(ERROR_SUCCESS);
+        const BOOL done =
+            ::ReadFile(input, buffer, static_cast<DWORD>(std::min(count, MostAtOnce)), &got, nullptr);
+        // Of a console that Ctrl-C has interrupted, nothing is read without a failure.
+        error = done && got > 0 ? ERROR_SUCCESS : ::GetLastError();
+    } while (got == 0 && error == ERROR_SUCCESS && count > 0 && isPipe(input));
     countRead = got;
     const bool isEnd = error == ERROR_BROKEN_PIPE || error == ERROR_HANDLE_EOF;
-    return done || isEnd ? ResultCode{} : systemError(error);
+    if (error == ERROR_OPERATION_ABORTED)
+        return interruptedWait();
+    return error == ERROR_SUCCESS || isEnd ? ResultCode{} : systemError(error);
 }
 
 ResultCode writeStandardOutput(const void* buffer, std::size_t count, std::size_t& countWritten)

@@ -37,7 +37,7 @@ bool isSpecialCharacter(wchar_t c)
 
 } // namespace
 
-std::wstring systemPath(const std::filesystem::path& path)
+std::wstring fullPath(const std::filesystem::path& path)
 {
     const std::wstring& given = path.native();
     std::wstring full(MAX_PATH, L'\0');
@@ -47,7 +47,14 @@ std::wstring systemPath(const std::filesystem::path& path)
         length = ::GetFullPathNameW(given.c_str(), length, full.data(), nullptr);
     }
     full.resize(length);
-    if (length < LongPath || full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)"))
+    return full;
+}
+
+std::wstring systemPath(const std::filesystem::path& path)
+{
+    const std::wstring& given = path.native();
+    const std::wstring full = fullPath(path);
+    if (full.size() < LongPath || full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)"))
         return given;
     return full.starts_with(LR"(\\)") ? LR"(\\?\UNC)" + full.substr(1) : LR"(\\?\)" + full;
 }

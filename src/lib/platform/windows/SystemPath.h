@@ -9,6 +9,9 @@ namespace tessaly::platform {
 /// Everybody may do with an open file what they could before.
 inline constexpr unsigned long ShareAll = 7; // FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE
 
+/// From the root on, of a drive or a share; empty where the system cannot tell.
+std::wstring fullPath(const std::filesystem::path& path);
+
 /// The path as it is, or, when it is too long for that, absolute and marked as a long one.
 std::wstring systemPath(const std::filesystem::path& path);
 

@@ -19,6 +19,12 @@ OwnHandle openConsole(const wchar_t* name)
         ::CreateFileW(name, GENERIC_READ | GENERIC_WRITE, ShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
+bool isConsole(DWORD stream)
+{
+    DWORD mode = 0;
+    return ::GetConsoleMode(::GetStdHandle(stream), &mode) != FALSE;
+}
+
 void show(HANDLE console, std::wstring_view text)
 {
     DWORD shown = 0;
@@ -114,13 +120,14 @@ void append(SecretBytes& line, const Piece& piece)
 
 bool canAsk()
 {
-    return static_cast<bool>(openConsole(L"CONIN$"));
+    // A program that has no console to be seen may have a hidden one, as under a terminal of another system.
+    return (isConsole(STD_ERROR_HANDLE) || isConsole(STD_OUTPUT_HANDLE) || isConsole(STD_INPUT_HANDLE)) &&
+           openConsole(L"CONIN$");
 }
 
 bool isErrorTerminal()
 {
-    DWORD mode = 0;
-    return ::GetConsoleMode(::GetStdHandle(STD_ERROR_HANDLE), &mode) != FALSE;
+    return isConsole(STD_ERROR_HANDLE);
 }
 
 unsigned errorTerminalWidth()

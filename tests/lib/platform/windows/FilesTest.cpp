@@ -50,6 +50,14 @@ TEST(WindowsPath, EveryNameSurvives)
     EXPECT_EQ(widePath("caf\xE9!\xF0\x9F"), L"caf\uFFFD!\uFFFD\uFFFD");
 }
 
+TEST(WindowsPath, AShareIsNoFolderOfTheDrive)
+{
+    const fs::path folder = LR"(\\server\share\a)";
+    EXPECT_EQ(absolutePath(folder / L"b"), folder / L"b");
+    EXPECT_EQ(realFolder(L"//server/share/x/../a"), folder);
+    EXPECT_EQ(absolutePath(L"b"), fs::current_path() / L"b");
+}
+
 /// A folder with two files, held open.
 class FolderTest : public testing::Test
 {
