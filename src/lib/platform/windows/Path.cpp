@@ -95,7 +95,8 @@ std::filesystem::path absolutePath(const std::filesystem::path& path)
 
 std::filesystem::path realFolder(const std::filesystem::path& folder)
 {
-    return fullPath(folder);
+    const std::wstring full = fullPath(folder);
+    return full.empty() ? folder : std::filesystem::path(full);
 }
 
 std::filesystem::path pathFromUrl(std::string_view host, std::string_view path)

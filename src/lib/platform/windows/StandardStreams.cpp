@@ -58,13 +58,13 @@ ResultCode readStandardInput(void* buffer, std::size_t count, std::size_t& count
         ::SetLastError(ERROR_SUCCESS);
         const BOOL done =
             ::ReadFile(input, buffer, static_cast<DWORD>(std::min(count, MostAtOnce)), &got, nullptr);
-        // Of a console that Ctrl-C has interrupted, nothing is read without a failure.
-        error = done && got > 0 ? ERROR_SUCCESS : ::GetLastError();
+        error = ::GetLastError();
+        // Ctrl-C ends a line of the console with nothing read, and without a failure.
+        if (done && (got > 0 || error != ERROR_OPERATION_ABORTED))
+            error = ERROR_SUCCESS;
     } while (got == 0 && error == ERROR_SUCCESS && count > 0 && isPipe(input));
     countRead = got;
     const bool isEnd = error == ERROR_BROKEN_PIPE || error == ERROR_HANDLE_EOF;
-    if (error == ERROR_OPERATION_ABORTED)
-        return interruptedWait();
     return error == ERROR_SUCCESS || isEnd ? ResultCode{} : systemError(error);
 }
 
