@@ -2,6 +2,7 @@
 
 #include "lib/platform/Interrupts.h"
 #include "lib/platform/Path.h"
+#include "lib/platform/windows/Console.h"
 #include "lib/platform/windows/FileStatus.h"
 #include "lib/platform/windows/SystemCall.h"
 #include "lib/platform/windows/SystemPath.h"
@@ -18,12 +19,6 @@ namespace {
 
 /// The most that one call is asked for; its count has 32 bits.
 constexpr std::size_t MostAtOnce = 1U << 30U;
-
-bool isTerminal(DWORD stream)
-{
-    DWORD mode = 0;
-    return ::GetConsoleMode(::GetStdHandle(stream), &mode) != FALSE;
-}
 
 /// The end of a pipe is an error. That nothing was read from it means that its writer wrote nothing, once.
 bool isPipe(HANDLE stream)
@@ -102,7 +97,7 @@ FileStatus standardInputStatus()
 
 bool isOutputTerminal()
 {
-    return isTerminal(STD_OUTPUT_HANDLE);
+    return isConsole(STD_OUTPUT_HANDLE);
 }
 
 bool isClosedPipe(ResultCode result)

@@ -2,6 +2,7 @@
 
 #include "lib/platform/Interrupts.h"
 #include "lib/platform/Path.h"
+#include "lib/platform/windows/Console.h"
 #include "lib/platform/windows/SystemCall.h"
 #include "lib/platform/windows/SystemPath.h"
 #include "lib/platform/windows/Wait.h"
@@ -17,12 +18,6 @@ OwnHandle openConsole(const wchar_t* name)
 {
     return OwnHandle(
         ::CreateFileW(name, GENERIC_READ | GENERIC_WRITE, ShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
-}
-
-bool isConsole(DWORD stream)
-{
-    DWORD mode = 0;
-    return ::GetConsoleMode(::GetStdHandle(stream), &mode) != FALSE;
 }
 
 void show(HANDLE console, std::wstring_view text)
