@@ -59,7 +59,6 @@ TEST(StandardStreams, TellTheEndOfAPipe)
     PipedStream input(STD_INPUT_HANDLE);
     PipedStream output(STD_OUTPUT_HANDLE);
     DWORD written = 0;
-    ASSERT_TRUE(::WriteFile(input.other.get(), "", 0, &written, nullptr)) << "which is no end";
     ASSERT_TRUE(::WriteFile(input.other.get(), "ab", 2, &written, nullptr));
     input.other = OwnHandle();
     char bytes[8] = {};
