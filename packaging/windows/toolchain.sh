@@ -43,7 +43,7 @@ unpack() {
     apt_get source "$1=$(version_of "$1")" || { apt_get update && apt_get source "$1=$(version_of "$1")"; }
     touch unpacked
   fi
-  cd "$folder"/*/
+  cd "$folder/$1"-*/
 }
 
 # describe NAME LIBRARIES: lets pkg-config find what has been put into the prefix.
@@ -89,12 +89,13 @@ build_googletest() {
   cmake --install build
 }
 
-# Into a prefix of its own, whose tools (moc, rcc, uic) are this machine's.
+# Into a prefix of its own, whose tools (moc, rcc, uic) are this machine's. Built beside the source: of a folder within it
+# the installation expects the files for pkg-config in the wrong place.
 build_qt() {
   unpack qtbase-opensource-src
-  mkdir -p build
-  cd build
-  [ -e Makefile ] || ../configure -prefix "$cache/qt" -opensource -confirm-license -release -static -platform linux-g++ \
+  mkdir -p ../build
+  cd ../build
+  [ -e Makefile ] || ../qtbase-*/configure -prefix "$cache/qt" -opensource -confirm-license -release -static -platform linux-g++ \
     -xplatform win32-g++ -device-option CROSS_COMPILE=$host- -nomake examples -nomake tests -no-compile-examples \
     -no-avx -no-avx2 -no-avx512 -no-opengl -no-openssl -no-dbus -no-icu -no-libjpeg -qt-zlib -qt-libpng -qt-freetype \
     -qt-harfbuzz -qt-pcre -no-feature-vulkan -no-feature-direct2d -no-feature-sql -no-feature-network \
