@@ -89,17 +89,17 @@ build_googletest() {
   cmake --install build
 }
 
-# Into a prefix of its own, whose tools (moc, rcc, uic) are this machine's. Built beside the source: of a folder within it
-# the installation expects the files for pkg-config in the wrong place.
+# Into a prefix of its own, whose tools (moc, rcc, uic) are this machine's. Built beside the source: within it, its
+# installation looks for the files of pkg-config in the wrong place.
 build_qt() {
   unpack qtbase-opensource-src
   mkdir -p ../build
   cd ../build
-  [ -e Makefile ] || ../qtbase-*/configure -prefix "$cache/qt" -opensource -confirm-license -release -static -platform linux-g++ \
-    -xplatform win32-g++ -device-option CROSS_COMPILE=$host- -nomake examples -nomake tests -no-compile-examples \
-    -no-avx -no-avx2 -no-avx512 -no-opengl -no-openssl -no-dbus -no-icu -no-libjpeg -qt-zlib -qt-libpng -qt-freetype \
-    -qt-harfbuzz -qt-pcre -no-feature-vulkan -no-feature-direct2d -no-feature-sql -no-feature-network \
-    -no-feature-printer -no-feature-concurrent -no-feature-tabletevent
+  [ -e Makefile ] || ../qtbase-*/configure -prefix "$cache/qt" -opensource -confirm-license -release -static \
+    -platform linux-g++ -xplatform win32-g++ -device-option CROSS_COMPILE=$host- -nomake examples -nomake tests \
+    -no-compile-examples -no-avx -no-avx2 -no-avx512 -no-opengl -no-openssl -no-dbus -no-icu -no-libjpeg -qt-zlib \
+    -qt-libpng -qt-freetype -qt-harfbuzz -qt-pcre -no-feature-vulkan -no-feature-direct2d -no-feature-sql \
+    -no-feature-network -no-feature-printer -no-feature-concurrent -no-feature-tabletevent
   make -j"$jobs" sub-src
   make install
 }
