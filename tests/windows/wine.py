@@ -29,7 +29,7 @@ def kept_ready():
     waiting = subprocess.Popen([RUNNER, "cmd.exe", "/c", "echo ready & pause"], stdin=subprocess.PIPE,
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                                env={**os.environ, "QUILLET_WINE_SECONDS": "3600"})
-    waiting.stdout.readline()  # its server is there, and holds none of the pipes that others read to their end
+    waiting.stdout.readline()  # its server is there
     try:
         yield
     finally:

@@ -53,7 +53,7 @@ void checkDialogs()
 {
     const auto check = [](QDialog&& dialog) {
         SCOPED_TRACE(dialog.metaObject()->className());
-        dialog.setAttribute(Qt::WA_DontShowOnScreen);
+        dialog.setAttribute(Qt::WA_DontShowOnScreen); // its texts are all that is looked at
         dialog.show();
         auto* tabs = dialog.findChild<QTabWidget*>();
         for (int i = 0; i < (tabs ? tabs->count() : 1); ++i) {
