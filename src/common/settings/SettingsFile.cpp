@@ -3,9 +3,14 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <string_view>
+
 namespace tessaly {
 
 namespace {
+
+/// The letters and signs that stand for a character of their own behind a backslash.
+constexpr std::string_view NamedEscapes = "abfnrtv\"'?\\";
 
 /// Behind the line that begins at `start`. A backslash at its end takes the next one in.
 int endOfLine(const QByteArray& text, int start)
@@ -39,8 +44,8 @@ bool isLineEnd(char c)
     return c == '\n' || c == '\r';
 }
 
-/// The line without its quotes and continuations, its numeric escapes resolved. All other escapes are
-/// dropped: the reader drops those that it doesn't know, and the others are no part of what is looked for.
+/// The line without its quotes and continuations, its numeric escapes resolved. The named ones become '?', as
+/// none of their characters is part of what is looked for; all others are dropped, as the reader does.
 QByteArray plain(const QByteArray& line)
 {
     QByteArray text;
@@ -56,7 +61,9 @@ QByteArray plain(const QByteArray& line)
             continue;
         }
         ++i;
-        if (next == 'x')
+        if (NamedEscapes.find(next) != NamedEscapes.npos)
+            text += '?';
+        else if (next == 'x')
             takeNumber(line, i, 16, text);
         else if (isLineEnd(next) && i < line.size() && isLineEnd(line[i]) && line[i] != next)
             ++i;
