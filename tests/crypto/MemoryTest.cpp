@@ -1,5 +1,7 @@
+#include "crypto/Jobs.h"
 #include "crypto/Way.h"
 #include "crypto/catalogue/AlgInfo.h"
+#include "crypto/job/AlgorithmSearch.h"
 #include "crypto/key/KeyMaterial.h"
 #include "crypto/sealed/Argon2.h"
 #include "crypto/sealed/SealedFormat.h"
@@ -179,6 +181,27 @@ TEST(Memory, NoFormLetsAFailedAllocationOut)
             }
     }
     EXPECT_EQ(seen, (std::set<std::ptrdiff_t>{0, 1, 2, 3})) << "4: another result";
+}
+
+using SearchMemory = Jobs;
+
+/// An algorithm that could not be tried for want of memory is not one that does not fit.
+TEST_F(SearchMemory, TellsAFailedAllocationFromAWrongAlgorithm)
+{
+    byPassword = false;
+    job.emplace("Threefish-1024");
+    folder.write("plain", "content");
+    for (const bool seal : {false, true}) {
+        ASSERT_TRUE(encrypt("plain", "encrypted", seal).done());
+        for (int failing = 1, left = 0; left == 0; ++failing) {
+            const auto made = request("encrypted", "out");
+            allocationsLeft = failing;
+            const auto search = tessaly::crypto::findAlgorithm(made, watch);
+            left = allocationsLeft.exchange(0);
+            EXPECT_EQ(search.result.ok(), search.algorithmId == job->algorithm.id);
+            EXPECT_NE(search.result, CryptoResult(err::CheckValueDiffers)) << failing;
+        }
+    }
 }
 
 } // namespace

@@ -116,6 +116,25 @@ TEST_F(SealedJob, DamageLeavesNoOutput)
     EXPECT_FALSE(fs::exists(folder / "out"));
 }
 
+/// The last pieces and their tags are written when all else is done.
+TEST_F(SealedJob, EndsInSuccessOnlyWhenAllIsWritten)
+{
+    byPassword = false;
+    folder.write("plain", text(noise(3000000)));
+    int writes = 0;
+    for (int failing = 0; failing <= writes; ++failing) {
+        MemoryOutput sink({.failAtCall = failing});
+        FileJobRequest made = request("plain", "");
+        made.seal = true;
+        made.sink = &sink;
+        const FileJobOutcome outcome = run(*job->encryptor, made);
+        EXPECT_EQ(outcome.result,
+                  failing == 0 ? CryptoResult() : CryptoResult(err::WriteStreamFailed, StreamFault));
+        writes = std::max(writes, sink.calls);
+    }
+    EXPECT_GT(writes, 1);
+}
+
 TEST_F(SealedJob, AWrongPasswordIsToldAfterBothFormatsAndAStopBeforeTheSecond)
 {
     folder.write("plain", text(noise(1000)));

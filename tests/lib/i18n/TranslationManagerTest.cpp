@@ -1,4 +1,5 @@
 #include "lib/i18n/TranslationManager.h"
+#include "lib/i18n/PluralTranslator.h"
 #include "lib/i18n/locale/LocaleCatalogue.h"
 #include "lib/platform/Path.h"
 #include "support/AppVariable.h"
@@ -55,6 +56,12 @@ TEST(TranslationManager, FindsItsLanguagesAndSwitchesBetweenThem)
         kept = manager->bundle().lookup(context, source);
         return string(kept.text);
     };
+    const auto withNumber = [&](const string& sourceAndNumber) {
+        const auto [source, number] = test::halves(sourceAndNumber);
+        const PluralTranslator translator(manager->bundle(), *manager);
+        const QString found = translator.translate("CMainWindow", source.c_str(), nullptr, std::stoi(number));
+        return found.isNull() ? "none" : found.toStdString();
+    };
     const auto use = [&](const string& lcid) {
         return told(manager->use(static_cast<std::uint32_t>(std::stoul(lcid))));
     };
@@ -66,6 +73,7 @@ TEST(TranslationManager, FindsItsLanguagesAndSwitchesBetweenThem)
                 {"use", use},
                 {"in use", [&] { return std::to_string(manager->locale().lcid); }},
                 {"text", lookUp},
+                {"with number", withNumber},
                 {"kept", [&] { return string(kept.text); }}});
 }
 

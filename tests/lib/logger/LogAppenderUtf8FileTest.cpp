@@ -49,6 +49,9 @@ TEST(LogAppenderUtf8File, WritesItsLinesWhateverBecomesOfItsFile)
             text += (line.starts_with(Head) ? '>' + line.substr(Head.size()) : line) + '|';
         return text;
     };
+    const auto replace = [&](const string& name) {
+        fs::rename(folder.write("other", "of another program\n"), folder / name);
+    };
     const auto isForItsOwner = [&](const string& name) {
         const auto access = fs::status(folder / name).permissions();
         return access == fs::perms(0600) || access == fs::perms(0700) ? "alone" : "and others";
@@ -65,6 +68,7 @@ TEST(LogAppenderUtf8File, WritesItsLinesWhateverBecomesOfItsFile)
                 {"file", lines},
                 {"limit", [&](const string& line) { appender->setMaxSize(std::ssize(Head + line + '\n')); }},
                 {"put", [&](const string& name) { folder.write(name, Head + "of an older run\n"); }},
+                {"replace", replace},
                 {"remove", [&](const string& name) { fs::remove(folder / name); }},
                 {"for its owner", isForItsOwner}});
 }

@@ -110,8 +110,11 @@ TEST(LogSender, EndsItsAppendersOutsideItsLock)
     };
     LogSender<char>& sender = *LogSender<char>::instance();
     ASSERT_TRUE(sender.appenders().add(1, {new NotingAppender("a", notes), end}).ok());
+    sender.setLevel(Trace);
     EXPECT_EQ(sender.release(), 0U);
-    EXPECT_TRUE(asked.valid());
+    ASSERT_TRUE(asked.valid());
+    EXPECT_EQ(asked.get(), Off) << "that of a new sender";
+    EXPECT_EQ(LogSender<char>::instance()->release(), 0U);
 }
 
 } // namespace

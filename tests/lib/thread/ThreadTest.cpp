@@ -83,6 +83,28 @@ TEST_F(ThreadTest, OneJobFromStartToResultAndAnother)
     EXPECT_EQ(job.lastParam, 0U);
 }
 
+/// Whoever sees that a job runs can wait for it, from its first instruction on.
+TEST_F(ThreadTest, AJobIsTheOneThatIsWaitedForWhenItBegins)
+{
+    struct Waiter final : tessaly::thread::IRunnable
+    {
+        ResultCode run(std::uint32_t, std::uintptr_t) override
+        {
+            seen = own->wait(0);
+            return {};
+        }
+        Thread* own = nullptr;
+        WaitStatus seen = WaitStatus::NoJob;
+    } waiter;
+    waiter.own = &*thread;
+    thread->setRunnable(&waiter);
+    for (int round = 0; round < 1000; ++round) {
+        ASSERT_TRUE(thread->start().ok());
+        thread->wait();
+        ASSERT_EQ(waiter.seen, WaitStatus::TimedOut) << round;
+    }
+}
+
 TEST_F(ThreadTest, EndsWithItsJobThoughAnotherThreadWaitsForItToo)
 {
     ASSERT_TRUE(thread->start().ok());
