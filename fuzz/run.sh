@@ -31,8 +31,8 @@ scratch=$(mktemp -d "$([ -w /dev/shm ] && echo /dev/shm || echo /tmp)/quillet-fu
 trap 'rm -rf "$scratch"' EXIT
 export out mode seconds TMPDIR=$scratch LC_ALL=C.UTF-8 QT_LOGGING_RULES='*=false'
 
-# A few times what any input needs, on a busy machine, too: memory in MiB, seconds for one input. Leaks are looked for at the end: after
-# each input that takes most of the time, as Qt keeps what it has read.
+# A few times what any input needs, on a busy machine, too: memory in MiB, seconds for one input. Leaks are looked for
+# at the end: after each input that takes most of the time, as Qt keeps what it has read.
 limits='-detect_leaks=0 -rss_limit_mb=1024 -malloc_limit_mb=64 -timeout=60 -report_slow_units=60 -max_len=4096'
 export limits
 
@@ -66,6 +66,12 @@ report() {
   printf '%-12s %12s  %-20s %s\n' "$1" "${executions:-0}" "${corpus#corp: }" "$findings"
 }
 
+# All that is needed elsewhere to see a finding again: the log has the input as text, too, where that is short.
+tell() {
+  printf '\n%s: the end of %s\n' "$1" "$out/$1.log"
+  tail -n 60 "$out/$1.log" | cut -c 1-400
+}
+
 # Of the small inputs alone: the repository shall stay small, too. Those with a name of their own stay.
 minimize() {
   local made=$scratch/made small=$scratch/small
@@ -85,4 +91,6 @@ if [ "$mode" = minimize ]; then
 fi
 printf '%-12s %12s  %-20s %s\n' fuzzer executions corpus findings
 printf '%s\n' "${names[@]}" | xargs -P 2 -I{} bash -euo pipefail -c 'fuzz {}' | tee "$scratch/table"
-! grep -qv ' 0$' "$scratch/table"
+failed=$(sed -n '/ 0$/!s/ .*//p' "$scratch/table")
+for name in $failed; do tell "$name"; done
+[ -z "$failed" ]
