@@ -1,5 +1,6 @@
 #include "window/WindowHarness.h"
 
+#include "app/window/JobDisplay.h"
 #include "support/NewThreads.h"
 #include "support/OwnMemory.h"
 
@@ -32,6 +33,30 @@ TEST_F(JobTest, TellsThatItCannotStart)
     ASSERT_TRUE(waitFor([&] { return !threads && !isRunning(); }));
     EXPECT_EQ(text("inputMessage"), "The input file could not be deleted. (error: 5/303)");
     EXPECT_EQ(find<CMessageLine>("inputMessage").kind(), MessageKind::Warning);
+}
+
+/// 499 times what the first report took are left: some seconds, or some minutes with the questions before it.
+TEST_F(JobTest, TheTimeOfTheQuestionsSaysNothingOfTheSpeed)
+{
+    struct : desktop::ITaskbarProgress, desktop::INotifier
+    {
+        void show() override {}
+        void hide() override {}
+        void setValue(int) override {}
+        void notify(const QString&, const QString&, const desktop::NotifierAction&) override {}
+    } desktop;
+    JobDisplay display(form(), desktop, desktop, nullptr);
+    QElapsedTimer sinceStart;
+    do {
+        display.begin("name", 500 << 20);
+        QTest::qSleep(200);
+        sinceStart.start();
+        display.showStarted();
+        QTest::qSleep(2);
+        display.showProgress(Operation::Encrypt, {JobPhase::Processing, 1 << 20, 500 << 20});
+    } while (sinceStart.elapsed() >= 100);
+    const QString shown = progress().message();
+    EXPECT_TRUE(shown.contains("Remaining time: ") && !shown.contains("minutes")) << shown.toStdString();
 }
 
 /// At the cost that users have, to be in time, and with offers that end at once.
