@@ -2,9 +2,8 @@
 # run.sh [--ci | --minimize] [SECONDS] [NAME...]: builds the fuzzers and runs each so long (600 s unless told),
 # two at a time, from the stored corpus and what earlier runs have found beyond it; prints a table, and fails on a
 # finding. --ci takes 20 seconds, the stored corpus alone and always the same way, so that what it finds comes from the
-# change that it looks at. --minimize runs nothing: it makes the stored corpora
-# anew, of few inputs that reach what all known ones reach. Needs Debian's packages in
-# packaging/packages-build.txt and packages-ci.txt.
+# change that it looks at. --minimize runs nothing: it makes the stored corpora anew, of few inputs that reach what all
+# known ones reach. Needs Debian's packages in packaging/packages-build.txt and packages-ci.txt.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/install.sh
