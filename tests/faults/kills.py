@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""kills.py QUILLET QUILLET_CLI [BYTES]: ends the window in the middle of encryptions and decryptions, with and without
-a former output, in every way in which it can be ended from outside, and looks for what is left that should not be, or is
-gone that should be there. window.py kills it at every system call. Needs Xvfb."""
+"""kills.py QUILLET QUILLET_CLI LIBRARY [BYTES]: ends the window in the middle of encryptions and decryptions, with and
+without a former output, in every way in which it can be ended from outside, and looks for what is left that should not
+be, or is gone that should be there. window.py kills it at every system call. Needs Xvfb."""
 
 import itertools
 import os
@@ -13,9 +13,10 @@ from server import read, scratch, window_at, write
 sys.path.insert(1, os.path.join(sys.path[0], "../support"))
 from screen import Screen, eventually  # noqa: E402
 
-QUILLET, CLI = map(os.path.abspath, sys.argv[1:3])
-SIZE = int(sys.argv[3]) if len(sys.argv) > 3 else 150_000_000
+QUILLET, CLI, LIBRARY = map(os.path.abspath, sys.argv[1:4])
+SIZE = int(sys.argv[4]) if len(sys.argv) > 4 else 150_000_000
 PASSWORD = "secret"
+HANGING = {"LD_PRELOAD": LIBRARY, "FAULTS_WITHOUT": "O_TMPFILE flush"}
 
 
 def close_connection(window):
@@ -24,13 +25,15 @@ def close_connection(window):
 
 
 ENDS = {"SIGTERM": lambda process, server, window: process.terminate(),
+        "SIGTERM, the disk hangs": lambda process, server, window: process.terminate(),
         "its connection is closed": lambda process, server, window: close_connection(window),
         "the display goes": lambda process, server, window: server.kill()}
 
 
 def end_at_work(home, end, operation, former):
     """On an X server of its own; the title has a percentage while a job runs."""
-    environment = os.environ | window_at(home, RewriteOutputFile=former)
+    hangs = end.endswith("hangs")
+    environment = os.environ | window_at(home, RewriteOutputFile=former) | (HANGING if hangs else {})
     ready, server_end = os.pipe()
     server = subprocess.Popen(["Xvfb", "-displayfd", str(server_end), "-screen", "0", "1024x768x24", "-noreset"],
                               pass_fds=[server_end], stderr=subprocess.DEVNULL)
@@ -43,7 +46,7 @@ def end_at_work(home, end, operation, former):
     screen.await_window(f"Password to {operation}")
     screen.type(PASSWORD)
     screen.key("Return")
-    ENDS[end](process, server, eventually(lambda: screen.find("% - "), "no job"))
+    ENDS[end](process, server, eventually(lambda: screen.find("100% - " if hangs else "% - "), "no job"))
     process.wait(60)
     server.kill()
     server.wait()

@@ -9,5 +9,5 @@ failed=0
 for test in window power_loss; do
   "$here/$test.py" "$build/bin/window_job" "$build/bin/quillet-cli" "$library" || failed=1
 done
-"$here/kills.py" "$build/bin/quillet" "$build/bin/quillet-cli" || failed=1
+"$here/kills.py" "$build/bin/quillet" "$build/bin/quillet-cli" "$library" || failed=1
 exit $failed
