@@ -161,6 +161,17 @@ class Prompt(Case):
                 settings = termios.tcgetattr(self.terminal)
                 self.assertTrue(settings[0] & termios.ICRNL and settings[3] & termios.ICANON)
 
+    def test_forgets_what_was_typed_before_a_stop(self):
+        subprocess.run([*ENCRYPT, "-q", "plain"], check=True)
+        self.start("decrypt", "plain.enc")
+        self.send(b"begun\x04")  # which hands it over
+        time.sleep(0.2)  # until it has been read; else the stop takes it away
+        self.send(b"\x1a")
+        self.wait_for(b"stopped.")
+        os.kill(self.shell, signal.SIGUSR1)
+        self.wait_for(PROMPT)
+        self.answer(SECRET, code=0)
+
     def test_ends_with_the_echo_back(self):
         for end, code in ((b"\x03", 130), (b"\x04", 2), (b"\x1c", -signal.SIGQUIT),
                           (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
