@@ -172,6 +172,16 @@ def sweep_others():
             FILES.states["plain"] = state("plain")
 
 
+def unstored_standard_output():
+    """Which of the files cannot be closed does not matter, except for the one that gets the data."""
+    name = "decrypt, standard streams"
+    with Server(LIBRARY, [CLI, *JOBS[name].words], SWEEP.folder, JOBS[name].stdin) as server:
+        judge = ConsoleJudge(FILES, JOBS[name], server)
+        codes = [judge.run("close", at, errno.EIO).status >> 8 for at in range(1, judge.run("close").calls + 1)]
+    SWEEP.add("standard output", "close", errno.EIO, len(codes), judge.normal,
+              None if codes.count(FAILED) == 1 else f"exit codes {codes}")
+
+
 def without_memory_for_the_key():
     write("out", FORMER)
     limit = lambda: resource.setrlimit(resource.RLIMIT_AS, (200 << 20,) * 2)
@@ -182,4 +192,4 @@ def without_memory_for_the_key():
               None if right and read("out") == FORMER else "wrong")
 
 
-SWEEP.all(JOBS, sweep_job, sweep_others, without_memory_for_the_key)
+SWEEP.all(JOBS, sweep_job, sweep_others, unstored_standard_output, without_memory_for_the_key)

@@ -1,6 +1,7 @@
 #include "lib/err/ErrorCodes.h"
 #include "lib/platform/Folders.h"
 #include "lib/platform/Process.h"
+#include "lib/platform/StandardStreams.h"
 #include "lib/platform/linux/CapsLight.h"
 #include "support/Environment.h"
 #include "support/SystemCall.h"
@@ -72,6 +73,17 @@ TEST(Path, IsUnicodeButForBytesThatAreNone)
 {
     EXPECT_EQ(widePath("a\xC3\xA9\xF0\x9F\x94\x91"), L"a\u00E9\U0001F511");
     EXPECT_EQ(widePath("caf\xE9"), std::wstring(L"caf") + wchar_t{0xDCE9});
+}
+
+/// A network's disk tells only then that it is full.
+TEST(StandardStreams, TellThatTheEndOfTheOutputCouldNotBeStored)
+{
+    {
+        const test::SystemCall full("close", EDQUOT);
+        EXPECT_EQ(closeStandardOutput(), tessaly::err::system(EDQUOT));
+    }
+    const test::SystemCall interrupted("close", EINTR);
+    EXPECT_TRUE(closeStandardOutput().ok());
 }
 
 // In a child process, which it changes for good.
