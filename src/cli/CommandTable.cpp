@@ -39,7 +39,7 @@ constexpr OptionRow Options[] = {
      "make guessing the password expensive and any change of the file evident; takes 256 MiB of memory and a "
      "moment; a sealed file is always salted",
      &Words::seal},
-    {Encrypts, 0, "salt", nullptr, "make equal files encrypt differently", &Words::salt},
+    {Encrypts, 0, "salt", nullptr, "make equal files encrypt differently each second", &Words::salt},
     {Reads, 0, "password-file", "FILE", "the password is its first line; - is standard input",
      &Words::passwordFile},
     {Reads, 0, "key-file", "FILE", "the key in hexadecimal, or what the window saved", &Words::keyFile},
