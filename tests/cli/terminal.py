@@ -127,6 +127,7 @@ class Prompt(Case):
                 self.answer(*answers.encode().split(), code=int(code))
                 self.assertEqual(self.shown.count(b"Making the key of the password"), int(keys_made))
                 self.assertIn(shown.encode(), self.shown)
+                self.assertNotRegex(self.shown, rb"[a-z ]quillet-cli: ", "a message behind the progress")
         self.assertEqual(Path("plain.dec").read_bytes(), Path("plain").read_bytes())
 
     def test_output_that_appears_during_the_question_stays(self):

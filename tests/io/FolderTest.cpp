@@ -130,6 +130,13 @@ TEST_F(FolderTest, StatusIsExactAndTakesAnAccessListForTheOwnersAlone)
         GTEST_SKIP() << "no access lists here";
     ASSERT_TRUE(file.status(status).ok());
     EXPECT_EQ(status.mode, 0600U);
+
+    // What the folder would have every new file get.
+    ASSERT_EQ(::setxattr(folder.path().c_str(), "system.posix_acl_default", list, sizeof list, 0), 0);
+    status.mode = 0640;
+    status.group = ::getegid();
+    ASSERT_TRUE(opened.createNew("new", Access::noMoreThan(status), file).ok());
+    EXPECT_EQ(permissionsOf("new"), fs::perms(0600));
 }
 
 } // namespace

@@ -135,18 +135,18 @@ TEST_F(ShellIntegrationTest, EntriesStartTheProgram)
     expectIn(Nemo, "& program\\; {marker} 100%;\n");
 
     // Scripts go by the manager's URIs; for files of another machine by the paths that they have on this one.
-    writeProgram(program, "printf '%s|' \"$@\" >>'" + (folder / "arguments") + "'");
+    writeProgram(program, "printf '%s|' \"$PWD\" \"$@\" >>'" + (folder / "arguments") + "'");
     const std::string script = "'" + (folder / "config/caja/scripts/Encrypt with Quillet") + "' a b";
     const test::Environment tools("PATH", (folder / "bin:/usr/bin:/bin").c_str());
     const std::array<const char*, 3> cases[] = {
         {"file:///a%25f%0A*\nfile:///-b\n", "wrong", "file:///a%25f%0A*|file:///-b|"},
-        {"sftp://host/c d\n", "/run/c d\n", "/run/c d|"},
+        {"sftp://host/c d\n", "/run/c d\n/e*c\n", "/run/c d|/e*c|"},
     };
     for (const auto& [givenUris, givenPaths, arguments] : cases) {
         const test::Environment uris("CAJA_SCRIPT_SELECTED_URIS", givenUris);
         const test::Environment paths("CAJA_SCRIPT_SELECTED_FILE_PATHS", givenPaths);
         ASSERT_EQ(std::system(script.c_str()), 0);
-        EXPECT_EQ(read("arguments"), "-encrypt|-start|-ifile|"s + arguments);
+        EXPECT_EQ(read("arguments"), "/|-encrypt|-start|-ifile|"s + arguments);
         fs::remove(folder / "arguments");
     }
     fs::remove(program);
@@ -184,6 +184,14 @@ TEST_F(ShellIntegrationTest, SharesThunarsActionsWithTheUser)
         update(false, true);
         EXPECT_EQ(read(Actions), start); // a file that was not there is gone
     }
+    fs::remove(folder / Actions);
+    fs::create_directories(folder / "config/Thunar");
+    fs::copy(folder / "system/Thunar/uca.xml", folder / "mine.xml");
+    fs::create_symlink(folder / "mine.xml", folder / Actions);
+    update(true, true);
+    update(false, true);
+    EXPECT_TRUE(fs::is_symlink(folder / Actions));
+    fs::remove(folder / Actions);
     for (const char* broken : {"<actions><action></actions>", "<other/>", "", "<actions>\xe9</actions>"}) {
         fs::create_directories(folder / "config/Thunar");
         folder.write(Actions, broken);

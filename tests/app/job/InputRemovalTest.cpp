@@ -44,11 +44,13 @@ TEST(InputRemovalTest, RemovesOnlyWhatIsSafelyEncrypted)
         ASSERT_EQ(std::system(("cd " + dir.path().string() + " && " + happens).c_str()), 0);
         const bool fails = job == "read-only disk";
         const test::SystemCall removing("unlinkat", fails ? EROFS : test::SystemCall::Works);
+        test::SystemCall::flushed.clear();
         const InputRemoval removal = removeInput(data);
         EXPECT_EQ(removal.kept ? keptText(*removal.kept).toStdString() : "", told);
         EXPECT_EQ(removal.error.ok(), !fails);
         EXPECT_EQ(removal.removed, told.empty() && !fails);
         EXPECT_EQ(fs::exists(dir / "in"), !removal.removed);
+        EXPECT_EQ(test::SystemCall::flushed.size(), removal.removed ? 1U : 0U) << "it may come back else";
     }
 }
 

@@ -39,12 +39,13 @@ TEST(FileQueueTest, CountsWhatBecameOfItsFiles)
     EXPECT_FALSE(queue.owns(0, "/a.enc", written)) << "its own";
     EXPECT_EQ(queue.startNext(), 2U);
     EXPECT_EQ(queue.position(), 3U);
-    queue.end(2, EntryState::Failed, {});
+    queue.end(2, EntryState::Failed, [] { return QString("why"); });
     EXPECT_EQ(queue.progress().processed, 101);
     EXPECT_EQ(queue.progress().total, 101 + 8) << "a failure is no longer waited for";
 
     queue.begin(false);
     EXPECT_EQ(queue.runSize(), 3U) << "what is done stays";
+    EXPECT_FALSE(queue.entries()[2].reason) << "it is tried again";
     EXPECT_EQ(queue.startNext(), 1U);
     EXPECT_EQ(queue.position(), 1U);
     queue.remove(0);
