@@ -4,6 +4,7 @@
 import fcntl
 import os
 import pty
+import re
 import resource
 import select
 import signal
@@ -13,6 +14,7 @@ import sys
 import tempfile
 import termios
 import time
+import tty
 import unittest
 from pathlib import Path
 
@@ -75,9 +77,11 @@ class Case(unittest.TestCase):
 
 
 class Prompt(Case):
-    def start(self, *words, in_front=True, stdin=None):
+    def start(self, *words, in_front=True, stdin=None, is_raw=False):
         self.shell, self.terminal = pty.fork()
         if self.shell == 0:
+            if is_raw:
+                tty.setraw(0)
             run_as_job([CLI, *(words or ("decrypt", "pw"))], in_front, stdin)
             os._exit(0)
         self.addCleanup(os.waitpid, self.shell, 0)
@@ -173,6 +177,14 @@ class Prompt(Case):
         self.wait_for(PROMPT)
         self.answer(SECRET, code=0)
 
+    def test_takes_keys_at_a_terminal_that_was_left_raw(self):
+        subprocess.run([*ENCRYPT, "-q", "plain"], check=True)
+        for keys, code in ((b"x\x7f" + SECRET + b"\r", 0), (b"\x03", 130)):
+            with self.subTest(keys):
+                self.start("decrypt", "--force", "plain.enc", is_raw=True)
+                self.send(keys)
+                self.wait_for(b"ended with %d." % code)
+
     def test_ends_with_the_echo_back(self):
         for end, code in ((b"\x03", 130), (b"\x04", 2), (b"\x1c", -signal.SIGQUIT),
                           (signal.SIGTERM, 130), (signal.SIGHUP, 130)):
@@ -212,6 +224,21 @@ class Interrupt(Case):
             self.assertEqual(running.returncode, code)
             self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime, before + 4, "it goes on to the end")
             self.assertEqual(sorted(os.listdir()), there)
+
+    def test_while_a_password_file_waits_for_its_writer(self):
+        os.mkfifo("fifo")
+        reader = subprocess.Popen([CLI, "encrypt", "--password-file", "fifo", "plain"], stderr=subprocess.PIPE)
+        self.addCleanup(reader.communicate)
+        self.addCleanup(reader.kill)
+        status = Path(f"/proc/{reader.pid}/status")
+        while not int(re.search(r"SigCgt:\s*(\w+)", status.read_text())[1], 16) & 1 << signal.SIGTERM - 1:
+            time.sleep(0.01)
+        wait_until = time.monotonic() + 60
+        while reader.poll() is None and time.monotonic() < wait_until:
+            reader.terminate()  # again: one that comes just before the file is opened ends no wait
+            time.sleep(0.05)
+        self.assertEqual(reader.returncode, 130)
+        self.assertEqual(reader.stderr.read(), b"quillet-cli: interrupted\n")
 
     def test_at_standard_input_unless_it_was_ignored(self):
         for sent, expected in ((signal.SIGTERM, (130, b"quillet-cli: interrupted\n")), (signal.SIGHUP, (0, b""))):
