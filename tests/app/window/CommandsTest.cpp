@@ -74,6 +74,12 @@ TEST_F(CommandsTest, EachDoesAndSaysWhatItShould)
     EXPECT_EQ(row, rows.end());
     for (const char* key : {"F7", "F9", "N", "Alt+F5", "Ctrl+F5", "Ctrl+F6", "Ctrl+Alt+F8"})
         EXPECT_EQ(commandOf(key), "") << key;
+    for (const bool hasInput : {true, false}) {
+        input().setText(hasInput ? "x" : "");
+        output().setText(hasInput ? "" : "x");
+        EXPECT_EQ(find<QAction>("open-input-folder").isEnabled(), hasInput);
+        EXPECT_EQ(find<QAction>("open-output-folder").isEnabled(), !hasInput);
+    }
 }
 
 TEST_F(CommandsTest, AreListedForTheUser)

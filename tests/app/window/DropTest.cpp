@@ -52,6 +52,10 @@ TEST_F(DropTest, TakesDroppedFiles)
         EXPECT_TRUE(drop(output(), files));
         EXPECT_EQ(input().text(), "");
         EXPECT_EQ(output().text(), whole);
+        EXPECT_EQ(text("outputMessage"), name.isEmpty() ? row[3]
+                                         : files.urls().size() > 1
+                                             ? "Only one of the dropped files was taken."
+                                             : "");
     }
 }
 

@@ -283,6 +283,7 @@ private:
         {"follow", [this](auto& words) { QTest::keyClick(&link(words[0].toUtf8()), Qt::Key_Space); }},
         {"dialog", [this](auto& words) { m_dialogs += words; }},
         {"choose", [this](auto& words) { choose(words[0]); }},
+        {"later", [](auto&) { QTest::qWait(200); }}, // for what must not come any more
         {"answer", [this](auto& words) { answer(words[0]); }},
         {"password", [this](auto& words) { answerPassword(words[0]); }},
         {"meanwhile", [this](auto& words) { meanwhile(words); }},
@@ -310,7 +311,14 @@ private:
         {"notice", [this] { return progress().notice(); }},
         {"percent", [this] { return QString::number(bar().value() * 100 / bar().maximum()); }},
         {"at-work", [this] { return isRunning() && progress().percent() > 0.01F ? "yes" : "no"; }},
-        {"fields-open", [this] { return input().isEnabled() || form().acceptDrops() ? "yes" : "no"; }},
+        {"fields-open",
+         [this] {
+             return input().isEnabled() || output().isEnabled() || hint().isEnabled() ||
+                            form().algFrame().isEnabled() || button("buttonDecrypt").isEnabled() ||
+                            button("buttonAddToList").isEnabled() || form().acceptDrops()
+                        ? "yes"
+                        : "no";
+         }},
         {"offered", [this] { return offered(); }},
         {"taskbar", [this] { return taskbar(); }},
         {"title",
